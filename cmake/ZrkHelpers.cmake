@@ -1,0 +1,38 @@
+# zrk_add_qtest(NAME <name> SOURCES <files...> [LIBS <libs...>] [ENV <VAR=value...>] [XVFB])
+# One QtTest executable, registered with CTest. Widget tests run on the offscreen platform
+# unless XVFB asks for a real X server.
+function(zrk_add_qtest)
+  cmake_parse_arguments(T "XVFB" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
+  add_executable(${T_NAME} ${T_SOURCES})
+  target_link_libraries(${T_NAME} PRIVATE Qt5::Test ${T_LIBS})
+  target_compile_definitions(${T_NAME} PRIVATE ZRK_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+                                               ZRK_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")
+  if(T_XVFB)
+    add_test(NAME ${T_NAME} COMMAND xvfb-run -a $<TARGET_FILE:${T_NAME}>)
+  else()
+    add_test(NAME ${T_NAME} COMMAND ${T_NAME})
+    list(APPEND T_ENV QT_QPA_PLATFORM=offscreen)
+  endif()
+  list(APPEND T_ENV "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
+                    "ASAN_OPTIONS=detect_leaks=1"
+                    "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
+                    "LC_ALL=C.UTF-8")
+  set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV}" TIMEOUT 300)
+endfunction()
+
+# zrk_add_fuzzer(NAME <name> SOURCES <files...> [LIBS <libs...>] [SEEDS <dir>])
+function(zrk_add_fuzzer)
+  cmake_parse_arguments(F "" "NAME;SEEDS" "SOURCES;LIBS" ${ARGN})
+  add_executable(${F_NAME} ${F_SOURCES})
+  target_link_libraries(${F_NAME} PRIVATE ${F_LIBS})
+  target_link_options(${F_NAME} PRIVATE -fsanitize=fuzzer)
+  set_property(GLOBAL APPEND PROPERTY ZRK_FUZZERS ${F_NAME})
+endfunction()
+
+# zrk_add_bench(NAME <name> SOURCES <files...> [LIBS <libs...>])
+function(zrk_add_bench)
+  cmake_parse_arguments(B "" "NAME" "SOURCES;LIBS" ${ARGN})
+  add_executable(${B_NAME} ${B_SOURCES})
+  target_link_libraries(${B_NAME} PRIVATE benchmark::benchmark ${B_LIBS})
+  set_property(GLOBAL APPEND PROPERTY ZRK_BENCHES ${B_NAME})
+endfunction()
