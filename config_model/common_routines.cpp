@@ -38,12 +38,6 @@ constexpr auto kCrc16Table = makeCrc16Table(0x1021);
 // The reflected polynomial of CRC-32.
 constexpr std::uint32_t kCrc32Poly = 0xEDB88320u;
 
-// Table entry 0xFF XOR 0xFF000000. Folding it into every step keeps the running value inverted on
-// both sides, so the value started from 0 always equals the finished check sum: the table is
-// linear, so looking up (byte ^ value) instead of (byte ^ ~value) is off by exactly table[0xFF],
-// and shifting the uninverted value right loses the 0xFF of the top byte.
-constexpr std::uint32_t kCrc32Fold = 0xD202EF8Du;
-
 inline std::uint16_t crc16Step(std::uint16_t crc, std::uint8_t byte)
 {
     return static_cast<std::uint16_t>((crc << 8) ^ kCrc16Table[((crc >> 8) ^ byte) & 0xFF]);
@@ -151,11 +145,16 @@ crc32::crc32()
 std::uint32_t crc32::ProcessCRC(const void* data, int len)
 {
     const auto* p = static_cast<const std::uint8_t*>(data);
-    std::uint32_t value = m_value;
+    // The running value is kept as the finished check sum, so that it can be read at any point.
+    // Per byte that is value' = (value >> 8) ^ table[(byte ^ value) & 0xFF] ^ 0xD202EF8D, the
+    // constant being table[0xFF] ^ 0xFF000000 (the table is linear, so it stands for the
+    // inversion before and after each step). The same step on the inverted value is the plain
+    // reflected CRC step without the constant, one operation less on the chain every byte waits for.
+    std::uint32_t inverted = ~m_value;
     for (int i = 0; i < len; ++i)
-        value = (value >> 8) ^ m_table[(p[i] ^ value) & 0xFF] ^ kCrc32Fold;
-    m_value = value;
-    return value;
+        inverted = (inverted >> 8) ^ m_table[(p[i] ^ inverted) & 0xFF];
+    m_value = ~inverted;
+    return m_value;
 }
 
 std::uint32_t crc32::FileCRC(const QString& path)
