@@ -93,8 +93,6 @@ QByteArray numberPacket(commonFunctions::Command c, const QString& number)
 
 } // namespace
 
-constexpr char commonFunctions::kPreamble[];
-
 const char* commonFunctions::commandText(Command command)
 {
     return kCommandTexts[static_cast<int>(command)];

@@ -28,8 +28,7 @@ unsigned char xorOf(const QByteArray& a, int from, int to)
 QByteArray handPacket(const QByteArray& payload)
 {
     QByteArray p("@ZRK", 4);
-    p += hex("00000000"
-             "01000000");
+    p += hex("00000000 01000000");
     p += char(payload.size() & 0xFF);
     p += char(payload.size() >> 8);
     p += char(xorOf(payload, 0, payload.size()));
@@ -67,39 +66,15 @@ void tst_CommandPackets::goldenPackets_data()
     QTest::addColumn<QByteArray>("packet");
     QTest::addColumn<QByteArray>("expected");
     QTest::newRow("ping") << CF::getUsbCommand_Ping()
-                          << hex("405a524b"
-                                 "00000000"
-                                 "01000000"
-                                 "0800"
-                                 "14"
-                                 "1e")
-            + "*?PING 1";
+                          << hex("405a524b 00000000 01000000 0800 14 1e") + "*?PING 1";
     // "Я" is 0xDF in the code page, "☺" has no place there and goes as "_".
     QTest::newRow("password") << CF::getUsbCommand_DevicePassword(QString::fromUtf8("Я☺1"))
-                              << hex("405a524b"
-                                     "00000000"
-                                     "01000000"
-                                     "0a00"
-                                     "8e"
-                                     "86")
-            + "*>PASS:\xDF_1";
+                              << hex("405a524b 00000000 01000000 0a00 8e 86") + "*>PASS:\xDF_1";
     QTest::newRow("empty payload") << CF::getUsbArrCommandToDevice(QByteArray())
-                                   << hex("405a524b"
-                                          "00000000"
-                                          "01000000"
-                                          "0000"
-                                          "00"
-                                          "02");
+                                   << hex("405a524b 00000000 01000000 0000 00 02");
     // "*!R" (2a 21 52, XOR 59) then page 0x01020304 little-endian (XOR 04): payload check 5d.
     QTest::newRow("read page") << CF::getUsbCommand_ReadPage(0x01020304u)
-                               << hex("405a524b"
-                                      "00000000"
-                                      "01000000"
-                                      "0700"
-                                      "5d"
-                                      "58"
-                                      "2a2152"
-                                      "04030201");
+                               << hex("405a524b 00000000 01000000 0700 5d 58 2a2152 04030201");
 }
 
 void tst_CommandPackets::goldenPackets()
@@ -197,10 +172,7 @@ void tst_CommandPackets::builderTexts()
     QFETCH(QByteArray, packet);
     QFETCH(QByteArray, payload);
     QCOMPARE(packet.mid(16), payload);
-    QCOMPARE(packet.left(12),
-        hex("405a524b"
-            "00000000"
-            "01000000"));
+    QCOMPARE(packet.left(12), hex("405a524b 00000000 01000000"));
     QCOMPARE(uchar(packet.at(12)) | (uchar(packet.at(13)) << 8), payload.size());
     QCOMPARE(uchar(packet.at(14)), xorOf(payload, 0, payload.size()));
     QCOMPARE(uchar(packet.at(15)), xorOf(packet, 0, 15));
@@ -265,19 +237,8 @@ void tst_CommandPackets::finder_data()
     QTest::addColumn<int>("length");
     QTest::addColumn<int>("flag");
 
-    const QByteArray ping = hex("405a524b"
-                                "00000000"
-                                "01000000"
-                                "0800"
-                                "14"
-                                "1e")
-        + "*?PING 1";
-    const QByteArray empty = hex("405a524b"
-                                 "00000000"
-                                 "01000000"
-                                 "0000"
-                                 "00"
-                                 "02");
+    const QByteArray ping = hex("405a524b 00000000 01000000 0800 14 1e") + "*?PING 1";
+    const QByteArray empty = hex("405a524b 00000000 01000000 0000 00 02");
     // A preamble whose header check does not hold: XOR of bytes 0..14 is 0xFC, byte 15 is 0xFF.
     const QByteArray falsePreamble = QByteArray("@ZRK") + QByteArray(12, '\xFF');
 
@@ -304,12 +265,7 @@ void tst_CommandPackets::finder_data()
     QTest::newRow("corrupted preamble") << "@ZRk" + ping.mid(4) << -1 << false << 0 << 0;
     QTest::newRow("preamble cut at the end") << QByteArray(20, '\0') + "@ZR" << -1 << false << 0 << 0;
     // A good header that announces more bytes than the buffer holds hides a later packet.
-    const QByteArray bigHeader = hex("405a524b"
-                                     "00000000"
-                                     "01000000"
-                                     "e803"
-                                     "00"
-                                     "e9");
+    const QByteArray bigHeader = hex("405a524b 00000000 01000000 e803 00 e9");
     QTest::newRow("long packet pending") << bigHeader + ping << -1 << false << 0 << 0;
 }
 
@@ -357,9 +313,7 @@ void tst_CommandPackets::finderNeverReadsPastTheEnd()
 {
     // "@ZRK" XORs to 03, so "03" and ten zeros make the first 15 header bytes XOR to 0 and the
     // byte after them would match a terminating zero.
-    const QByteArray cut = "x" + QByteArray("@ZRK")
-        + hex("03000000000000000000"
-              "00");
+    const QByteArray cut = "x" + QByteArray("@ZRK") + hex("03000000000000000000 00");
     QCOMPARE(cut.size(), 16);
     const QByteArray ping = handPacket("*#H 12");
     const QByteArray stream = cut + ping + ping;
