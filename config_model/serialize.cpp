@@ -266,8 +266,8 @@ bool CXmlDefaultHandler::startElement(
     const QString&, const QString&, const QString& qName, const QXmlAttributes& atts)
 {
     m_lastStartHadAttributes = false;
-    if (++m_depth > kMaxDepth) {
-        m_error = QStringLiteral("elements nested deeper than %1").arg(kMaxDepth);
+    if (++m_depth > kMaxXmlDepth) {
+        m_error = QStringLiteral("elements nested deeper than %1").arg(kMaxXmlDepth);
         return false;
     }
     const QString name = protect(qName);

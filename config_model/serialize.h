@@ -14,6 +14,10 @@
 class QIODevice;
 class CXmlDefaultHandler;
 
+// Deeper documents are refused: no configuration comes close, and every routine that walks the
+// tree recurses once per level.
+constexpr int kMaxXmlDepth = 256;
+
 // Attribute entries of one element as written: one value per name, ordered by name.
 using AttrMap = QMap<QString, QString>;
 

@@ -3,6 +3,7 @@
 // The parser's side of loading. Kept apart from serialize.h because the SAX classes are
 // deprecated in Qt 5.15: only the files that include this header need the warning switched off.
 
+#include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
 
 #include <QXmlDefaultHandler>
@@ -11,10 +12,6 @@
 class CXmlDefaultHandler : public QXmlDefaultHandler
 {
 public:
-    // Deeper documents are refused: no configuration comes close, and every routine that walks
-    // the tree recurses once per level.
-    static constexpr int kMaxDepth = 256;
-
     CXmlDefaultHandler() = default;
     ~CXmlDefaultHandler() override;
 

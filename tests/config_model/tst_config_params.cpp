@@ -375,15 +375,24 @@ void tst_ConfigParams::decodingPass_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("plain") << "abc" << "abc";
-    QTest::newRow("ampersand entity") << "a&amp;b" << "a&b";
-    QTest::newRow("amp then lt decodes twice") << "&amp;lt;" << "<";
-    QTest::newRow("double amp once") << "&amp;amp;" << "&amp;";
-    QTest::newRow("nbsp") << "a&nbsp;b" << "a b";
-    QTest::newRow("all five") << "&gt;&lt;&quot;&apos;" << "><\"'";
-    QTest::newRow("exclamation escape") << "hi_33_" << "hi!";
-    QTest::newRow("other escapes stay") << "a_32_b_45_" << "a_32_b_45_";
-    QTest::newRow("unknown entity stays") << "&copy;" << "&copy;";
+    QTest::newRow("plain") << "abc"
+                           << "abc";
+    QTest::newRow("ampersand entity") << "a&amp;b"
+                                      << "a&b";
+    QTest::newRow("amp then lt decodes twice") << "&amp;lt;"
+                                               << "<";
+    QTest::newRow("double amp once") << "&amp;amp;"
+                                     << "&amp;";
+    QTest::newRow("nbsp") << "a&nbsp;b"
+                          << "a b";
+    QTest::newRow("all five") << "&gt;&lt;&quot;&apos;"
+                              << "><\"'";
+    QTest::newRow("exclamation escape") << "hi_33_"
+                                        << "hi!";
+    QTest::newRow("other escapes stay") << "a_32_b_45_"
+                                        << "a_32_b_45_";
+    QTest::newRow("unknown entity stays") << "&copy;"
+                                          << "&copy;";
 }
 
 void tst_ConfigParams::decodingPass()
