@@ -53,7 +53,7 @@ private:
 
     QIODevice* m_device;
     QString m_indent;
-    int m_indentSize = 4; // kept for the record; the text uses tabs
+    [[maybe_unused]] int m_indentSize = 4; // kept for the record; the text uses tabs
     bool m_autoNewLine = false;
     bool m_atLineStart = true;
     bool m_ok = true;

@@ -33,7 +33,16 @@ QString quoted(const QString& text)
     s.replace(QLatin1Char('\n'), QLatin1String("\\n"));
     s.replace(QLatin1Char('\r'), QLatin1String("\\r"));
     s.replace(QLatin1Char('\t'), QLatin1String("\\t"));
-    return QLatin1Char('"') + s + QLatin1Char('"');
+    // Other control characters (a name read back from "_1095_" holds one) are shown by code.
+    QString shown;
+    for (const QChar c : s) {
+        const ushort u = c.unicode();
+        if (u < 0x20 || (u >= 0x7F && u < 0xA0))
+            shown += QStringLiteral("\\u%1").arg(u, 4, 16, QLatin1Char('0'));
+        else
+            shown += c;
+    }
+    return QLatin1Char('"') + shown + QLatin1Char('"');
 }
 
 void dump(const CXmlTagV2* tag, int depth, QTextStream& out)
