@@ -115,6 +115,11 @@ bool XmlWriter::flush()
     return m_ok;
 }
 
+void XmlWriter::writeOut(QLatin1String text)
+{
+    m_buffer.append(text.data(), text.size());
+}
+
 void XmlWriter::writeOut(const QString& text)
 {
     zrk::appendWindows1251(m_buffer, text);
@@ -145,7 +150,10 @@ void XmlWriter::endTag()
 void XmlWriter::writeOpenTag(const QString& name, const AttrMap& attrs)
 {
     writePendingIndent();
-    writeOut(opening(name, attrs));
+    writeOut(QLatin1String("<"));
+    writeOut(protectTag(name));
+    writeAttributes(attrs);
+    writeOut(QLatin1String(">"));
     m_indent += QLatin1Char('\t');
     endTag();
 }
@@ -161,13 +169,24 @@ void XmlWriter::writeCloseTag(const QString& name)
 void XmlWriter::writeAtomTag(const QString& name, const AttrMap& attrs)
 {
     // The record form keeps its name as it is.
-    QString text = QLatin1Char('<') + name;
-    for (auto it = attrs.constBegin(); it != attrs.constEnd(); ++it)
-        text += QLatin1Char(' ') + it.key() + QLatin1String("=\"") + protect(it.value()) + QLatin1Char('"');
-    text += QLatin1String("/>");
     writePendingIndent();
-    writeOut(text);
+    writeOut(QLatin1String("<"));
+    writeOut(name);
+    writeAttributes(attrs);
+    writeOut(QLatin1String("/>"));
     endTag();
+}
+
+void XmlWriter::writeAttributes(const AttrMap& attrs)
+{
+    // Piece by piece into the output: records are most of a large file.
+    for (auto it = attrs.constBegin(); it != attrs.constEnd(); ++it) {
+        writeOut(QLatin1String(" "));
+        writeOut(it.key());
+        writeOut(QLatin1String("=\""));
+        writeOut(protect(it.value()));
+        writeOut(QLatin1String("\""));
+    }
 }
 
 void XmlWriter::writeNewTag(const QString& name, const QString& text)
@@ -203,6 +222,16 @@ void XmlWriter::writeRaw(const QString& text)
 
 QString XmlWriter::protect(const QString& text)
 {
+    bool plain = true;
+    for (const QChar c : text) {
+        const ushort u = c.unicode();
+        if (u == '&' || u == '<' || u == '>' || u == '"' || u == '\'') {
+            plain = false;
+            break;
+        }
+    }
+    if (plain)
+        return text;
     QString s = text;
     s.replace(QLatin1Char('&'), QLatin1String("&amp;"));
     s.replace(QLatin1Char('>'), QLatin1String("&gt;"));
@@ -420,6 +449,9 @@ bool CSerialize::parse(const QByteArray& text)
     m_root = nullptr;
     m_handler->reset();
     QXmlSimpleReader reader;
+    // Only qualified names are used: namespace processing would cost a lookup per name.
+    reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
+    reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
     reader.setContentHandler(m_handler.get());
     reader.setErrorHandler(m_handler.get());
     QXmlInputSource source;

@@ -49,6 +49,8 @@ public:
 
 private:
     void writeOut(const QString& text);
+    void writeOut(QLatin1String text); // ASCII markup: copied as it is
+    void writeAttributes(const AttrMap& attrs);
     void endTag();
 
     QIODevice* m_device;

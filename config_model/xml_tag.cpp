@@ -24,22 +24,25 @@ CFxXmListlTag::~CFxXmListlTag()
 
 void CFxXmListlTag::addTag(CXmlTagV2* tag)
 {
-    if (!tag)
+    // A tag already linked somewhere cannot be owned twice.
+    if (!tag || tag->m_list)
         return;
-    Entry* e = new Entry { tag, m_last, nullptr };
+    tag->m_prev = m_last;
+    tag->m_next = nullptr;
+    tag->m_list = this;
     if (m_last)
-        m_last->next = e;
+        m_last->m_next = tag;
     else
-        m_first = e;
-    m_last = e;
+        m_first = tag;
+    m_last = tag;
     ++m_count;
 }
 
 CXmlTagV2* CFxXmListlTag::getTagFromName(const QString& name) const
 {
-    for (Entry* e = m_first; e; e = e->next) {
-        if (e->tag->name == name)
-            return e->tag;
+    for (CXmlTagV2* t = m_first; t; t = t->m_next) {
+        if (t->name == name)
+            return t;
     }
     return nullptr;
 }
@@ -48,10 +51,10 @@ CXmlTagV2* CFxXmListlTag::getNumTag(int n) const
 {
     if (n < 0 || n >= m_count)
         return nullptr;
-    Entry* e = m_first;
+    CXmlTagV2* t = m_first;
     while (n-- > 0)
-        e = e->next;
-    return e->tag;
+        t = t->m_next;
+    return t;
 }
 
 bool CFxXmListlTag::exists(const QString& name) const
@@ -59,62 +62,50 @@ bool CFxXmListlTag::exists(const QString& name) const
     return getTagFromName(name) != nullptr;
 }
 
-CFxXmListlTag::Entry* CFxXmListlTag::findEntry(const CXmlTagV2* tag) const
-{
-    if (!tag)
-        return nullptr;
-    for (Entry* e = m_first; e; e = e->next) {
-        if (e->tag == tag)
-            return e;
-    }
-    return nullptr;
-}
-
 bool CFxXmListlTag::deleteTag(CXmlTagV2* tag)
 {
-    Entry* e = findEntry(tag);
-    if (!e)
+    if (!isGoodTag(tag))
         return false;
-    (e->prev ? e->prev->next : m_first) = e->next;
-    (e->next ? e->next->prev : m_last) = e->prev;
-    delete e;
+    (tag->m_prev ? tag->m_prev->m_next : m_first) = tag->m_next;
+    (tag->m_next ? tag->m_next->m_prev : m_last) = tag->m_prev;
+    tag->m_prev = tag->m_next = nullptr;
+    tag->m_list = nullptr;
     --m_count;
     return true;
 }
 
 void CFxXmListlTag::setParent(const CXmlTagV2* parent)
 {
-    for (Entry* e = m_first; e; e = e->next)
-        e->tag->parent = parent;
+    for (CXmlTagV2* t = m_first; t; t = t->m_next)
+        t->parent = parent;
 }
 
 void CFxXmListlTag::freeList()
 {
-    for (Entry* e = m_first; e; e = e->next)
-        delete e->tag;
-    Entry* e = m_first;
-    while (e) {
-        Entry* next = e->next;
-        delete e;
-        e = next;
-    }
+    CXmlTagV2* t = m_first;
     m_first = m_last = nullptr;
     m_count = 0;
+    while (t) {
+        CXmlTagV2* next = t->m_next;
+        t->m_list = nullptr;
+        delete t;
+        t = next;
+    }
 }
 
 bool CFxXmListlTag::isGoodTag(const CXmlTagV2* tag) const
 {
-    return findEntry(tag) != nullptr;
+    return tag && tag->m_list == this;
 }
 
 CXmlTagV2* CFxXmListlTag::const_iterator::operator*() const
 {
-    return static_cast<const Entry*>(m_node)->tag;
+    return const_cast<CXmlTagV2*>(m_node);
 }
 
 CFxXmListlTag::const_iterator& CFxXmListlTag::const_iterator::operator++()
 {
-    m_node = static_cast<const Entry*>(m_node)->next;
+    m_node = m_node->m_next;
     return *this;
 }
 
@@ -141,6 +132,12 @@ CXmlTagV2::CXmlTagV2(const CXmlTagV2& other)
 {
     children.setParent(this);
     values.setParent(this);
+}
+
+CXmlTagV2::~CXmlTagV2()
+{
+    if (m_list)
+        const_cast<CFxXmListlTag*>(m_list)->deleteTag(this);
 }
 
 CXmlTagV2& CXmlTagV2::operator=(const CXmlTagV2& other)
