@@ -63,7 +63,7 @@ bool plainName(const QString& name)
     for (const QChar c : name) {
         const ushort u = c.unicode();
         const bool ok = (u >= 'a' && u <= 'z') || (u >= 'A' && u <= 'Z') || (u >= '0' && u <= '9') || u == '_'
-            || u == '.' || (u >= 0x0100 && u != 0xFFFF);
+            || u == '.' || u >= 0x0100;
         if (!ok)
             return false;
     }
