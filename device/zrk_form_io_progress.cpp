@@ -45,6 +45,7 @@ void ZRK_Form_IO_Progress::translateForm()
 
 void ZRK_Form_IO_Progress::applyTitle()
 {
+    //% "Обмен данными с терминалом"
     ui->label_Title->setText(m_title.isEmpty() ? qtTrId("iopr_002") : m_title);
 }
 
