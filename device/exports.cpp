@@ -10,24 +10,25 @@
 
 namespace {
 
-// The catalogue goes in with the first export call that finds an application, and out again
-// when the library is unloaded, since its data lives in the library.
-struct CatalogueGuard
+// Takes the catalogue out again when the library is unloaded, since its data lives in the library.
+struct CatalogueRemover
 {
-    bool installed = false;
-    void ensure()
-    {
-        if (!installed && QCoreApplication::instance())
-            installed = zrk::installCatalogue(programLanguage());
-    }
-    ~CatalogueGuard()
-    {
-        if (installed)
-            zrk::removeCatalogue();
-    }
+    ~CatalogueRemover() { zrk::removeCatalogue(); }
 };
 
-CatalogueGuard catalogue;
+// The catalogue goes in with the first export call that finds an application.
+void ensureCatalogue()
+{
+    static bool installed = false;
+    if (installed || !QCoreApplication::instance())
+        return;
+    installed = zrk::installCatalogue(programLanguage());
+    if (installed) {
+        // Made after the catalogue's own statics, so it is destroyed before them.
+        static const CatalogueRemover remover;
+        Q_UNUSED(remover);
+    }
+}
 
 } // namespace
 
@@ -35,24 +36,24 @@ ZRK_Device_K7140 deviceLib(QStringLiteral("K-7140"), 3, 5, 8, 1, nullptr);
 
 extern "C" ZRK_PLUGIN_EXPORT int IsZrkLibraryV()
 {
-    catalogue.ensure();
+    ensureCatalogue();
     return 1;
 }
 
 extern "C" ZRK_PLUGIN_EXPORT void GetLibraryInfo(szLibraryInfo* info)
 {
-    catalogue.ensure();
+    ensureCatalogue();
     deviceLib.getModuleInfo(info);
 }
 
 extern "C" ZRK_PLUGIN_EXPORT void Initialize(ZRK_SendMessageFn send)
 {
-    catalogue.ensure();
+    ensureCatalogue();
     deviceLib.InitConfigurator(send);
 }
 
 extern "C" ZRK_PLUGIN_EXPORT void ReceiveMessage(void* handle, int msg, unsigned long wParam, unsigned long lParam)
 {
-    catalogue.ensure();
+    ensureCatalogue();
     deviceLib.ZRK_ReceiveMessage(handle, msg, wParam, lParam);
 }

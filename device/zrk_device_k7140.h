@@ -109,10 +109,11 @@ public:
 
     void openFileConfig(szConfigFile* file);
     void openFileTMI(const QString& name, zrk_type_ViewFileTmi kind);
-    void showFormParamInfo(const QString& title, const QString& text);
-    void showHelp(const QString& topic);
+    // Invokable through the meta-object system as well, for a host's diagnostics.
+    Q_INVOKABLE void showFormParamInfo(const QString& title, const QString& text);
+    Q_INVOKABLE void showHelp(const QString& topic);
     void translateModule();
-    szLibraryFunctions getLibFuncForNameModule(const QString& name);
+    Q_INVOKABLE szLibraryFunctions getLibFuncForNameModule(const QString& name);
 
     // ---- the wait form
     void formWait_Show();

@@ -18,26 +18,27 @@ public:
     explicit ZRK_Form_IO_Progress(QWidget* parent = nullptr);
     ~ZRK_Form_IO_Progress() override;
 
-    void showForm();
-    void closeForm();
+    // The operations are invokable so that a host can drive the form through the meta-object system.
+    Q_INVOKABLE void showForm();
+    Q_INVOKABLE void closeForm();
     // Back to the state after construction: default title, empty texts, bar at its minimum.
-    void clearForm();
-    void translateForm();
+    Q_INVOKABLE void clearForm();
+    Q_INVOKABLE void translateForm();
 
-    void setText_Title(const QString& title);
-    void setProgress_Min(int min);
-    void setProgress_Max(int max);
-    void setProgress_Value(int value);
-    void setText_FileLeft(const QString& text);
-    void setText_Value_Cur(const QString& text);
-    void setText_Value_All(const QString& text);
-    void setText_Time(const QString& text);
+    Q_INVOKABLE void setText_Title(const QString& title);
+    Q_INVOKABLE void setProgress_Min(int min);
+    Q_INVOKABLE void setProgress_Max(int max);
+    Q_INVOKABLE void setProgress_Value(int value);
+    Q_INVOKABLE void setText_FileLeft(const QString& text);
+    Q_INVOKABLE void setText_Value_Cur(const QString& text);
+    Q_INVOKABLE void setText_Value_All(const QString& text);
+    Q_INVOKABLE void setText_Time(const QString& text);
 
-    void setTextValue_Visible(bool visible);
-    void setTextTime_Visible(bool visible);
-    void setBtnTextTime_Visible(bool visible);
-    void setProgress_Visible(bool visible);
-    void setText_FileLeft_Visible(bool visible);
+    Q_INVOKABLE void setTextValue_Visible(bool visible);
+    Q_INVOKABLE void setTextTime_Visible(bool visible);
+    Q_INVOKABLE void setBtnTextTime_Visible(bool visible);
+    Q_INVOKABLE void setProgress_Visible(bool visible);
+    Q_INVOKABLE void setText_FileLeft_Visible(bool visible);
 
     // What the form shows, for its owner and for tests.
     QString title() const;

@@ -16,9 +16,9 @@ public:
     explicit ZRK_Form_Param_About(QWidget* parent = nullptr);
     ~ZRK_Form_Param_About() override;
 
-    void setParamInfo_Title(const QString& title);
-    void setParamInfo_Text(const QString& text);
-    void translateForm();
+    Q_INVOKABLE void setParamInfo_Title(const QString& title);
+    Q_INVOKABLE void setParamInfo_Text(const QString& text);
+    Q_INVOKABLE void translateForm();
 
     QString paramInfoTitle() const;
     QString paramInfoText() const;
