@@ -13,6 +13,7 @@ ZrkHostDispatcher::ZrkHostDispatcher(ZrkPluginLoader& loader, QObject* parent)
     , m_loader(loader)
 {
     gDispatcher = this;
+    qRegisterMetaType<ZrkLoggedMessage>();
     // Another module's functions: this host has no other modules, so the record stays empty.
     setHandler(ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, [](unsigned long, unsigned long l, QString& result) -> unsigned long {
         if (auto* functions = reinterpret_cast<szLibraryFunctions*>(l)) {

@@ -3,6 +3,7 @@
 #include "zrk/zrk_host_api.h"
 
 #include <QHash>
+#include <QMetaType>
 #include <QObject>
 #include <QString>
 #include <QTime>
@@ -23,6 +24,8 @@ struct ZrkLoggedMessage
     QString lParam;
     QString result;
 };
+
+Q_DECLARE_METATYPE(ZrkLoggedMessage)
 
 // The host's side of the message exchange: sends host messages through the loader, receives the
 // plug-in's messages through the callback, answers those it can, and reports both directions for
