@@ -23,6 +23,5 @@ QString programLanguage()
 void setProgramLanguage(const QString& language)
 {
     QSettings().setValue(QLatin1String(kLanguageKey),
-                         language == QLatin1String("en") ? QStringLiteral("en") : QStringLiteral("ru"));
+        language == QLatin1String("en") ? QStringLiteral("en") : QStringLiteral("ru"));
 }
-

@@ -10,4 +10,3 @@ QString appDataDirectory();
 // The user-interface language, "ru" (the default) or "en", kept in the application's settings.
 QString programLanguage();
 void setProgramLanguage(const QString& language);
-

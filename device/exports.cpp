@@ -52,7 +52,8 @@ extern "C" ZRK_PLUGIN_EXPORT void Initialize(ZRK_SendMessageFn send)
     deviceLib.InitConfigurator(send);
 }
 
-extern "C" ZRK_PLUGIN_EXPORT void ReceiveMessage(void* handle, int msg, unsigned long wParam, unsigned long lParam)
+extern "C" ZRK_PLUGIN_EXPORT void ReceiveMessage(
+    void* handle, int msg, unsigned long wParam, unsigned long lParam)
 {
     ensureCatalogue();
     deviceLib.ZRK_ReceiveMessage(handle, msg, wParam, lParam);

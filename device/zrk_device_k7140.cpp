@@ -140,180 +140,186 @@ using Cfg = ZRK_Widget_Config;
 using Tmi = ZRK_Widget_Tmi_View;
 
 const ZRK_Device_Routes::Route ZRK_Device_Routes::kRoutes[] = {
-    { ZRK_MSG_LIBRARY_ALIVE_QUERY, [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 1); } },
+    { ZRK_MSG_LIBRARY_ALIVE_QUERY,
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 1); } },
     { ZRK_MSG_FIRMWARE_VERSION_QUERY,
-      [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, ZRK_VERSION_FIRMWARE); } },
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) {
+            R::write<quint32>(w, ZRK_VERSION_FIRMWARE);
+        } },
     { ZRK_MSG_PROTOCOL_NUMBER_QUERY,
-      [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, kProtocolNumber); } },
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, kProtocolNumber); } },
     { ZRK_MSG_SET_CONFIGURATOR_MODE,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          if (const quint32* mode = R::at<quint32>(w))
-              d.m_configuratorMode = *mode;
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            if (const quint32* mode = R::at<quint32>(w))
+                d.m_configuratorMode = *mode;
+        } },
     { ZRK_MSG_TMI_TEST_MODE_QUERY,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
-          bool* result = R::at<bool>(w);
-          QByteArray* data = R::at<QByteArray>(l);
-          if (!result || !data)
-              return;
-          d.initWidgetTMI();
-          *result = d.m_widgetTmiView->isTestMode(data);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
+            bool* result = R::at<bool>(w);
+            QByteArray* data = R::at<QByteArray>(l);
+            if (!result || !data)
+                return;
+            d.initWidgetTMI();
+            *result = d.m_widgetTmiView->isTestMode(data);
+        } },
     { ZRK_MSG_LIBRARY_VERSION_QUERY,
-      [](ZRK_Device_K7140&, unsigned long w, unsigned long) {
-          R::write<QString>(w, QString::fromLatin1(kLibraryVersion));
-      } },
-    { ZRK_MSG_CAPABILITY_QUERY_2010, [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 1); } },
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) {
+            R::write<QString>(w, QString::fromLatin1(kLibraryVersion));
+        } },
+    { ZRK_MSG_CAPABILITY_QUERY_2010,
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 1); } },
     { ZRK_MSG_SET_DEVICE_TYPE_VENDOR,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          if (const QString* pair = R::at<QString>(w)) {
-              d.setDeviceType(pair[0]);
-              d.setDeviceVendor(pair[1]);
-          }
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            if (const QString* pair = R::at<QString>(w)) {
+                d.setDeviceType(pair[0]);
+                d.setDeviceVendor(pair[1]);
+            }
+        } },
     { ZRK_MSG_LANGUAGE_CHANGED,
-      [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
-          zrk::installCatalogue(programLanguage());
-          d.translateModule();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
+            zrk::installCatalogue(programLanguage());
+            d.translateModule();
+        } },
     { ZRK_MSG_HOST_CLOSES_PLUGIN,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          bool* result = R::at<bool>(w);
-          if (!result)
-              return;
-          if (ZRK_Widget_Config* c = R::config(d))
-              *result = c->closeWidgetConfig();
-          if (ZRK_Widget_Tmi_View* t = R::tmi(d))
-              t->closeForm();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            bool* result = R::at<bool>(w);
+            if (!result)
+                return;
+            if (ZRK_Widget_Config* c = R::config(d))
+                *result = c->closeWidgetConfig();
+            if (ZRK_Widget_Tmi_View* t = R::tmi(d))
+                t->closeForm();
+        } },
     { ZRK_MSG_CLOSE_TELEMETRY,
-      [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
-          if (ZRK_Widget_Tmi_View* t = R::tmi(d))
-              t->closeForm();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
+            if (ZRK_Widget_Tmi_View* t = R::tmi(d))
+                t->closeForm();
+        } },
     { ZRK_MSG_SET_DIRECTORY_PATHS,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          if (const szDirPath* paths = R::at<szDirPath>(w))
-              d.setDirPaths(*paths);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            if (const szDirPath* paths = R::at<szDirPath>(w))
+                d.setDirPaths(*paths);
+        } },
     { ZRK_MSG_DEVICE_CONNECTED,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          if (const szDeviceConnect* record = R::at<szDeviceConnect>(w))
-              d.deviceConnected(*record);
-      } },
-    { ZRK_MSG_DEVICE_DISCONNECTED, [](ZRK_Device_K7140& d, unsigned long, unsigned long) { d.deviceDisconnected(); } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            if (const szDeviceConnect* record = R::at<szDeviceConnect>(w))
+                d.deviceConnected(*record);
+        } },
+    { ZRK_MSG_DEVICE_DISCONNECTED,
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) { d.deviceDisconnected(); } },
     { ZRK_MSG_REMOTE_SESSION_ENDED,
-      [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
-          if (ZRK_Widget_Tmi_View* t = R::tmi(d))
-              t->deviceDisconnectRCS();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
+            if (ZRK_Widget_Tmi_View* t = R::tmi(d))
+                t->deviceDisconnectRCS();
+        } },
     { ZRK_MSG_TEST_DATA,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          QByteArray* data = R::at<QByteArray>(w);
-          if (!data)
-              return;
-          if (d.m_widgetTest && !d.m_widgetTest->isHidden())
-              d.m_widgetTest->receive_Device_Test(data);
-          if (ZRK_Widget_Config* c = R::config(d); c && !c->isHidden())
-              c->receiveDataTest(data);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            QByteArray* data = R::at<QByteArray>(w);
+            if (!data)
+                return;
+            if (d.m_widgetTest && !d.m_widgetTest->isHidden())
+                d.m_widgetTest->receive_Device_Test(data);
+            if (ZRK_Widget_Config* c = R::config(d); c && !c->isHidden())
+                c->receiveDataTest(data);
+        } },
     { ZRK_MSG_FLS_USER_COMMAND_REPLY, &R::toTmi<QByteArray, &Tmi::setReceiveFls_UserCommand> },
     { ZRK_MSG_OPEN_CONFIGURATION,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          if (szConfigFile* file = R::at<szConfigFile>(w))
-              d.openFileConfig(file);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            if (szConfigFile* file = R::at<szConfigFile>(w))
+                d.openFileConfig(file);
+        } },
     { ZRK_MSG_OPEN_TELEMETRY_VIEW,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          const QString* text = R::at<QString>(w);
-          if (!text)
-              return;
-          d.initWidgetTMI();
-          d.m_widgetTmiView->showForm(*text, d.m_configParam);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            const QString* text = R::at<QString>(w);
+            if (!text)
+                return;
+            d.initWidgetTMI();
+            d.m_widgetTmiView->showForm(*text, d.m_configParam);
+        } },
     { ZRK_MSG_OPEN_TELEMETRY_FILE,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
-          const QString* name = R::at<QString>(w);
-          const quint32* kind = R::at<quint32>(l);
-          if (name && kind)
-              d.openFileTMI(*name, static_cast<zrk_type_ViewFileTmi>(*kind));
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
+            const QString* name = R::at<QString>(w);
+            const quint32* kind = R::at<quint32>(l);
+            if (name && kind)
+                d.openFileTMI(*name, static_cast<zrk_type_ViewFileTmi>(*kind));
+        } },
     { ZRK_MSG_DTP_TEST_RESULT, &R::toConfig<szDtpKRAI, &Cfg::receiveDtpTest> },
     { ZRK_MSG_DTP_PROTECTION_STATE, &R::toConfigValue<quint8, &Cfg::receiveDtpProtection> },
     { ZRK_MSG_DTP_FILE_READ_RESULT, &R::toConfigValue<bool, &Cfg::receiveDtpFileRead_V3> },
     { ZRK_MSG_FLS_FIRMWARE_PARAMS, &R::toTmi<QByteArray, &Tmi::getParamFLSFirmwareSensor> },
     { ZRK_MSG_TOUCH_MEMORY_CODE,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          const quint64* code = R::at<quint64>(w);
-          if (!code)
-              return;
-          // The widget that asked for the key last gets it; nobody else.
-          if (d.m_waitReceive == 0) {
-              if (ZRK_Widget_Config* c = R::config(d))
-                  c->receiveTM(*code);
-          } else if (d.m_waitReceive == 1) {
-              if (ZRK_Widget_Tmi_View* t = R::tmi(d))
-                  t->setToucheMemory(*code);
-          }
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            const quint64* code = R::at<quint64>(w);
+            if (!code)
+                return;
+            // The widget that asked for the key last gets it; nobody else.
+            if (d.m_waitReceive == 0) {
+                if (ZRK_Widget_Config* c = R::config(d))
+                    c->receiveTM(*code);
+            } else if (d.m_waitReceive == 1) {
+                if (ZRK_Widget_Tmi_View* t = R::tmi(d))
+                    t->setToucheMemory(*code);
+            }
+        } },
     { ZRK_MSG_ANALOG_VALUES, &R::toConfig<szAnalogValue, &Cfg::receiveAnalogValue> },
     { ZRK_MSG_FLS_AD_VALUE, &R::toConfig<szADValue, &Cfg::receiveAdValueFuel> },
     { ZRK_MSG_AD_VALUES_UN,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          szADValue_UN* value = R::at<szADValue_UN>(w);
-          if (!value)
-              return;
-          if (ZRK_Widget_Tmi_View* t = R::tmi(d); t && !t->isHidden())
-              t->setCurrentAnalogValue(value);
-          if (ZRK_Widget_Config* c = R::config(d); c && !c->isHidden())
-              c->receiveAdValueFuel_UN(value);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            szADValue_UN* value = R::at<szADValue_UN>(w);
+            if (!value)
+                return;
+            if (ZRK_Widget_Tmi_View* t = R::tmi(d); t && !t->isHidden())
+                t->setCurrentAnalogValue(value);
+            if (ZRK_Widget_Config* c = R::config(d); c && !c->isHidden())
+                c->receiveAdValueFuel_UN(value);
+        } },
     { ZRK_MSG_ACCEL_PARAMS, &R::toConfig<szAccelParam, &Cfg::receiveAccelParam> },
     { ZRK_MSG_ACCEL_BRAKE_CALIBRATION,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
-          const quint8* step = R::at<quint8>(w);
-          const quint8* result = R::at<quint8>(l);
-          if (ZRK_Widget_Config* c = R::config(d); c && step && result)
-              c->receiveAccelBrake(*step, *result);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
+            const quint8* step = R::at<quint8>(w);
+            const quint8* result = R::at<quint8>(l);
+            if (ZRK_Widget_Config* c = R::config(d); c && step && result)
+                c->receiveAccelBrake(*step, *result);
+        } },
     { ZRK_MSG_ACCEL_RESET_RESULT, &R::toConfig<szAccelReset, &Cfg::receiveAccelReset> },
     { ZRK_MSG_ACCEL_AXIS_CALIBRATION, &R::toConfig<szCmdAccelParam, &Cfg::receiveAccelAclC> },
     { ZRK_MSG_BLUETOOTH_SEARCH_CANCELLED, &R::toConfigValue<quint8, &Cfg::receiveBluetoothCancelRez> },
     { ZRK_MSG_BLUETOOTH_SEARCH_RESULT, &R::toConfigValue<quint8, &Cfg::receiveBluetoothRez> },
     { ZRK_MSG_BLUETOOTH_DEVICE_FOUND, &R::toConfig<szBluetoothDevice, &Cfg::receiveBluetoothDevice> },
     { ZRK_MSG_CURRENT_DISPLAY_VALUE,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          const quint32* value = R::at<quint32>(w);
-          if (!value)
-              return;
-          if (ZRK_Widget_Tmi_View* t = R::tmi(d); t && t->isActiveWindow())
-              t->receiveCurrentDispValue(*value);
-          if (ZRK_Widget_Config* c = R::config(d))
-              c->receiveCurrentDispValue(*value);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            const quint32* value = R::at<quint32>(w);
+            if (!value)
+                return;
+            if (ZRK_Widget_Tmi_View* t = R::tmi(d); t && t->isActiveWindow())
+                t->receiveCurrentDispValue(*value);
+            if (ZRK_Widget_Config* c = R::config(d))
+                c->receiveCurrentDispValue(*value);
+        } },
     { ZRK_MSG_RFID_CARD,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
-          const quint64* code = R::at<quint64>(w);
-          const quint8* value = R::at<quint8>(l);
-          if (ZRK_Widget_Tmi_View* t = R::tmi(d); t && code && value)
-              t->setRFID(*code, *value);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
+            const quint64* code = R::at<quint64>(w);
+            const quint8* value = R::at<quint8>(l);
+            if (ZRK_Widget_Tmi_View* t = R::tmi(d); t && code && value)
+                t->setRFID(*code, *value);
+        } },
     { ZRK_MSG_CANLOG_CURRENT_NUMBER, &R::toConfigValue<qint32, &Cfg::receive_CanlogCurNum> },
-    { ZRK_MSG_CAPABILITY_QUERY_2272, [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 2); } },
+    { ZRK_MSG_CAPABILITY_QUERY_2272,
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 2); } },
     { ZRK_MSG_TM_FILE_INFO_V3,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
-          const quint32* size = R::at<quint32>(w);
-          const quint8* type = R::at<quint8>(l);
-          if (ZRK_Widget_Config* c = R::config(d); c && size && type)
-              c->receive_TM_File_Info_V3(*size, *type);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
+            const quint32* size = R::at<quint32>(w);
+            const quint8* type = R::at<quint8>(l);
+            if (ZRK_Widget_Config* c = R::config(d); c && size && type)
+                c->receive_TM_File_Info_V3(*size, *type);
+        } },
     { ZRK_MSG_TM_FILE_READ_V3,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
-          const bool* ok = R::at<bool>(w);
-          const QString* file = R::at<QString>(l);
-          if (ZRK_Widget_Config* c = R::config(d); c && ok && file)
-              c->receive_TM_ReadFile_V3(*ok, *file);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
+            const bool* ok = R::at<bool>(w);
+            const QString* file = R::at<QString>(l);
+            if (ZRK_Widget_Config* c = R::config(d); c && ok && file)
+                c->receive_TM_ReadFile_V3(*ok, *file);
+        } },
     { ZRK_MSG_TM_FILE_WRITTEN_V3, &R::toConfigValue<bool, &Cfg::receive_TM_WriteFile_V3> },
     { ZRK_MSG_TMI_CURRENT, &R::toTmi<QByteArray, &Tmi::setTmiCur> },
     { ZRK_MSG_TMI_BY_NUMBER, &R::toTmi<QByteArray, &Tmi::setTmiCurNumber> },
@@ -324,57 +330,58 @@ const ZRK_Device_Routes::Route ZRK_Device_Routes::kRoutes[] = {
     { ZRK_MSG_COMMAND_PARAM_VALUE, &R::toTmi<QByteArray, &Tmi::setTmiCmndParamValue> },
     { ZRK_MSG_COMMAND_REPLY, &R::toTmi<QByteArray, &Tmi::setTmiCmnd> },
     { ZRK_MSG_CURRENT_CAN_FILE,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
-          QByteArray* data = R::at<QByteArray>(w);
-          const QString* name = R::at<QString>(l);
-          if (ZRK_Widget_Config* c = R::config(d); c && data && name)
-              c->receive_CurCanFile(data, *name);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long l) {
+            QByteArray* data = R::at<QByteArray>(w);
+            const QString* name = R::at<QString>(l);
+            if (ZRK_Widget_Config* c = R::config(d); c && data && name)
+                c->receive_CurCanFile(data, *name);
+        } },
     { ZRK_MSG_EVENT_BUS,
-      [](ZRK_Device_K7140&, unsigned long w, unsigned long) {
-          if (void* bus = R::at<void>(w))
-              lpGlobalEventBus = bus;
-      } },
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) {
+            if (void* bus = R::at<void>(w))
+                lpGlobalEventBus = bus;
+        } },
     { ZRK_MSG_TACHO_QUERY_REPLY, &R::toTmi<QByteArray, &Tmi::setReceiveTahoQuest> },
     { ZRK_MSG_TACHO_FILE_REPLY, &R::toTmi<QByteArray, &Tmi::setReceiveTahoQuest> },
     { ZRK_MSG_TACHO_FILE_READ, &R::toTmiValue<bool, &Tmi::setReceiveTahoFile_Read> },
     { ZRK_MSG_CONFIG_PARAM_QUERY,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          if (szConfigParam* param = R::at<szConfigParam>(w))
-              d.getConfigParam(*param);
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            if (szConfigParam* param = R::at<szConfigParam>(w))
+                d.getConfigParam(*param);
+        } },
     { ZRK_MSG_CE_PROGRAM_INFO, &R::toConfig<QByteArray, &Cfg::setCE_ProgramInfo> },
     { ZRK_MSG_FOCUS_CONFIGURATION,
-      [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
-          if (ZRK_Widget_Config* c = R::config(d); c && c->isVisible())
-              c->setWindowFocus();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
+            if (ZRK_Widget_Config* c = R::config(d); c && c->isVisible())
+                c->setWindowFocus();
+        } },
     { ZRK_MSG_CE_EDITOR_CLOSED,
-      [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
-          if (ZRK_Widget_Config* c = R::config(d))
-              c->setWindowCEClosed();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
+            if (ZRK_Widget_Config* c = R::config(d))
+                c->setWindowCEClosed();
+        } },
     { ZRK_MSG_WRITE_CONFIG_TO_DEVICE,
-      [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
-          if (ZRK_Widget_Config* c = R::config(d); c && d.m_connected)
-              c->saveConfigToDevice();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
+            if (ZRK_Widget_Config* c = R::config(d); c && d.m_connected)
+                c->saveConfigToDevice();
+        } },
     { ZRK_MSG_READ_CONFIG_FROM_DEVICE,
-      [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
-          if (ZRK_Widget_Config* c = R::config(d); c && d.m_connected)
-              c->readConfigFromDevice();
-      } },
+        [](ZRK_Device_K7140& d, unsigned long, unsigned long) {
+            if (ZRK_Widget_Config* c = R::config(d); c && d.m_connected)
+                c->readConfigFromDevice();
+        } },
     { ZRK_MSG_OPEN_CONFIG_PAGE, &R::toConfigValue<quint32, &Cfg::openConfigPage> },
     { ZRK_MSG_CONFIG_FILE_NAME_QUERY,
-      [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
-          if (ZRK_Widget_Config* c = R::config(d); c && R::at<QString>(w))
-              c->getFileConfigure(*R::at<QString>(w));
-      } },
+        [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            if (ZRK_Widget_Config* c = R::config(d); c && R::at<QString>(w))
+                c->getFileConfigure(*R::at<QString>(w));
+        } },
     { ZRK_MSG_ADD_USER_PARAM, &R::toConfigText<&Cfg::addUserParamCE> },
     { ZRK_MSG_ADD_USER_PARAM_LIST, &R::toConfigText<&Cfg::addUserParamListCE> },
     { ZRK_MSG_DELETE_USER_PARAM, &R::toConfigText<&Cfg::delUserParamCE> },
     { ZRK_MSG_DELETE_USER_PARAM_LIST, &R::toConfigText<&Cfg::delUserParamListCE> },
-    { ZRK_MSG_CAPABILITY_QUERY_2399, [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 1); } },
+    { ZRK_MSG_CAPABILITY_QUERY_2399,
+        [](ZRK_Device_K7140&, unsigned long w, unsigned long) { R::write<quint32>(w, 1); } },
     { ZRK_MSG_SD_FILE_DATA, &R::toConfig<QByteArray, &Cfg::receive_SD_File> },
     { ZRK_MSG_CAMERA_INFO, &R::toConfig<QByteArray, &Cfg::receive_Camera_Info> },
     { ZRK_MSG_PHOTO_INFO_SD, &R::toConfig<QByteArray, &Cfg::receive_PhotoInfo_SD_File> },
@@ -387,7 +394,8 @@ namespace {
 const ZRK_Device_Routes::Route* findRoute(int msg)
 {
     const auto* end = ZRK_Device_Routes::kRoutes + ZRK_Device_Routes::kRouteCount;
-    const auto* it = std::find_if(ZRK_Device_Routes::kRoutes, end, [msg](const auto& r) { return r.msg == msg; });
+    const auto* it
+        = std::find_if(ZRK_Device_Routes::kRoutes, end, [msg](const auto& r) { return r.msg == msg; });
     return it == end ? nullptr : it;
 }
 } // namespace
@@ -404,7 +412,7 @@ ZRK_Device_K7140::ZRK_Device_K7140(const QString& type, int a, int b, int c, int
     m_libraryInfo.handle = this;
     copyText(m_libraryInfo.deviceType, sizeof m_libraryInfo.deviceType, type.toUtf8());
     copyText(m_libraryInfo.displayName, sizeof m_libraryInfo.displayName,
-             QString::fromLatin1(kDisplayName).toLocal8Bit());
+        QString::fromLatin1(kDisplayName).toLocal8Bit());
     m_libraryInfo.hostValues[0] = a;
     m_libraryInfo.hostValues[1] = b;
     m_libraryInfo.hostValues[2] = c;
@@ -663,7 +671,7 @@ void ZRK_Device_K7140::showHelp(const QString& topic)
     QString model = QString::fromLatin1(kHelpModel);
     QString topicCopy = topic;
     SendMessage(this, ZRK_MSG_SHOW_HELP, reinterpret_cast<unsigned long>(&model),
-                reinterpret_cast<unsigned long>(&topicCopy));
+        reinterpret_cast<unsigned long>(&topicCopy));
 }
 
 void ZRK_Device_K7140::translateModule()
@@ -687,7 +695,7 @@ szLibraryFunctions ZRK_Device_K7140::getLibFuncForNameModule(const QString& name
     szLibraryFunctions functions { QString(), QString(), QString(), nullptr, nullptr };
     QString moduleName = name;
     SendMessage(this, ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, reinterpret_cast<unsigned long>(&moduleName),
-                reinterpret_cast<unsigned long>(&functions));
+        reinterpret_cast<unsigned long>(&functions));
     return functions;
 }
 

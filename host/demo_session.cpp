@@ -39,7 +39,9 @@ QWidget* ZrkDemoSession::topLevel(const char* className)
 bool ZrkDemoSession::grab(QWidget* widget, const QString& name)
 {
     settle();
-    const QString file = QDir(m_directory).filePath(QStringLiteral("%1_%2.png").arg(++m_step, 2, 10, QLatin1Char('0')).arg(name));
+    const QString file
+        = QDir(m_directory)
+              .filePath(QStringLiteral("%1_%2.png").arg(++m_step, 2, 10, QLatin1Char('0')).arg(name));
     if (!widget->grab().save(file)) {
         std::fprintf(stderr, "zrk-host: cannot write %s\n", qPrintable(file));
         return false;
@@ -54,7 +56,9 @@ bool ZrkDemoSession::grabScreen(const QString& name)
     QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen)
         return true;
-    const QString file = QDir(m_directory).filePath(QStringLiteral("%1_%2.png").arg(++m_step, 2, 10, QLatin1Char('0')).arg(name));
+    const QString file
+        = QDir(m_directory)
+              .filePath(QStringLiteral("%1_%2.png").arg(++m_step, 2, 10, QLatin1Char('0')).arg(name));
     if (!screen->grabWindow(0).save(file)) {
         std::fprintf(stderr, "zrk-host: cannot write %s\n", qPrintable(file));
         return false;
@@ -82,13 +86,14 @@ int ZrkDemoSession::run()
 
     const QString data = QDir::home().filePath(QStringLiteral("zrk-demo"));
     m_window.setDirectories(data + QStringLiteral("/tmi/"), QString(), data + QStringLiteral("/firmware/"),
-                            data + QStringLiteral("/sounds/"));
+        data + QStringLiteral("/sounds/"));
     m_window.sendDirectories();
     m_window.setMode(5);
     m_window.sendMode();
     ok = grab(&m_window, QStringLiteral("directories_and_mode")) && ok;
 
-    m_window.setTerminal(QStringLiteral("K-7140"), QStringLiteral("861234567890123"), QStringLiteral("3.5.8"), 0);
+    m_window.setTerminal(
+        QStringLiteral("K-7140"), QStringLiteral("861234567890123"), QStringLiteral("3.5.8"), 0);
     m_window.connectTerminal();
     m_window.askQueries();
     ok = grab(&m_window, QStringLiteral("connected")) && ok;
@@ -115,12 +120,13 @@ int ZrkDemoSession::run()
         std::fprintf(stderr, "zrk-host: the plug-in has no about form\n");
         return 1;
     }
-    QMetaObject::invokeMethod(about, "setParamInfo_Title", Q_ARG(QString, QStringLiteral("Период записи трека")));
     QMetaObject::invokeMethod(
-        about, "setParamInfo_Text",
-        Q_ARG(QString, QStringLiteral("Интервал в секундах, с которым терминал сохраняет точку трека во время "
-                                      "движения. При остановке запись идёт с периодом стоянки.\n\n"
-                                      "Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.")));
+        about, "setParamInfo_Title", Q_ARG(QString, QStringLiteral("Период записи трека")));
+    QMetaObject::invokeMethod(about, "setParamInfo_Text",
+        Q_ARG(QString,
+            QStringLiteral("Интервал в секундах, с которым терминал сохраняет точку трека во время "
+                           "движения. При остановке запись идёт с периодом стоянки.\n\n"
+                           "Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.")));
     about->move(700, 80);
     about->show();
     ok = grab(about, QStringLiteral("about_form")) && ok;
@@ -135,7 +141,8 @@ int ZrkDemoSession::run()
     QMetaObject::invokeMethod(wait, "setProgress_Min", Q_ARG(int, 0));
     QMetaObject::invokeMethod(wait, "setProgress_Max", Q_ARG(int, 48));
     QMetaObject::invokeMethod(wait, "setProgress_Value", Q_ARG(int, 29));
-    QMetaObject::invokeMethod(wait, "setText_FileLeft", Q_ARG(QString, QStringLiteral("zrk_K7140_21-11-26-14-5.xml")));
+    QMetaObject::invokeMethod(
+        wait, "setText_FileLeft", Q_ARG(QString, QStringLiteral("zrk_K7140_21-11-26-14-5.xml")));
     QMetaObject::invokeMethod(wait, "setText_Value_Cur", Q_ARG(QString, QStringLiteral("29 КБ")));
     QMetaObject::invokeMethod(wait, "setText_Value_All", Q_ARG(QString, QStringLiteral("48 КБ")));
     QMetaObject::invokeMethod(wait, "setText_Time", Q_ARG(QString, QStringLiteral("00:00:12")));

@@ -15,13 +15,14 @@ ZrkHostDispatcher::ZrkHostDispatcher(ZrkPluginLoader& loader, QObject* parent)
     gDispatcher = this;
     qRegisterMetaType<ZrkLoggedMessage>();
     // Another module's functions: this host has no other modules, so the record stays empty.
-    setHandler(ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, [](unsigned long, unsigned long l, QString& result) -> unsigned long {
-        if (auto* functions = reinterpret_cast<szLibraryFunctions*>(l)) {
-            *functions = szLibraryFunctions { QString(), QString(), QString(), nullptr, nullptr };
-            result = QStringLiteral("пустая запись");
-        }
-        return 0;
-    });
+    setHandler(ZRK_MSG_LOOKUP_MODULE_FUNCTIONS,
+        [](unsigned long, unsigned long l, QString& result) -> unsigned long {
+            if (auto* functions = reinterpret_cast<szLibraryFunctions*>(l)) {
+                *functions = szLibraryFunctions { QString(), QString(), QString(), nullptr, nullptr };
+                result = QStringLiteral("пустая запись");
+            }
+            return 0;
+        });
 }
 
 ZrkHostDispatcher::~ZrkHostDispatcher()
@@ -68,7 +69,7 @@ QString ZrkHostDispatcher::describeWord(const char* type, unsigned long word)
 }
 
 void ZrkHostDispatcher::send(int msg, unsigned long wParam, unsigned long lParam, const QString& wText,
-                             const QString& lText, const std::function<QString()>& describeResult)
+    const QString& lText, const std::function<QString()>& describeResult)
 {
     ZrkLoggedMessage entry;
     entry.sequence = ++m_sequence;

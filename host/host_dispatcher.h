@@ -49,7 +49,7 @@ public:
     // Sends one host message and logs it with the host's own description of its words;
     // describeResult, when given, is asked afterwards what the plug-in wrote back.
     void send(int msg, unsigned long wParam, unsigned long lParam, const QString& wText = QString(),
-              const QString& lText = QString(), const std::function<QString()>& describeResult = {});
+        const QString& lText = QString(), const std::function<QString()>& describeResult = {});
 
     // The name of an id in one direction, from the public table.
     static QString messageName(int id, ZrkMessageDirection direction);

@@ -179,7 +179,7 @@ QWidget* ZrkHostWindow::buildControls()
     m_language->addItem(QStringLiteral("English"), QStringLiteral("en"));
     auto* langButton = new QPushButton(QStringLiteral("Сменить язык (2031)"));
     connect(langButton, &QPushButton::clicked, this,
-            [this] { setLanguage(m_language->currentData().toString()); });
+        [this] { setLanguage(m_language->currentData().toString()); });
     grid->addWidget(new QLabel(QStringLiteral("Язык модуля:")), 4, 0);
     grid->addWidget(m_language, 4, 1);
     grid->addWidget(langButton, 4, 3);
@@ -292,34 +292,36 @@ void ZrkHostWindow::setQueryValue(int msg, const QString& value)
 
 void ZrkHostWindow::askQueries()
 {
-    for (int msg : { ZRK_MSG_LIBRARY_ALIVE_QUERY, ZRK_MSG_FIRMWARE_VERSION_QUERY, ZRK_MSG_PROTOCOL_NUMBER_QUERY,
-                     ZRK_MSG_CAPABILITY_QUERY_2010, ZRK_MSG_CAPABILITY_QUERY_2272, ZRK_MSG_CAPABILITY_QUERY_2399 }) {
+    for (int msg :
+        { ZRK_MSG_LIBRARY_ALIVE_QUERY, ZRK_MSG_FIRMWARE_VERSION_QUERY, ZRK_MSG_PROTOCOL_NUMBER_QUERY,
+            ZRK_MSG_CAPABILITY_QUERY_2010, ZRK_MSG_CAPABILITY_QUERY_2272, ZRK_MSG_CAPABILITY_QUERY_2399 }) {
         auto value = std::make_shared<quint32>(0);
-        m_dispatcher.send(msg, addr(*value), 0, QStringLiteral("uint32* (результат)"), QString(), [this, msg, value] {
-            setQueryValue(msg, QString::number(*value));
-            return QString::number(*value);
-        });
+        m_dispatcher.send(
+            msg, addr(*value), 0, QStringLiteral("uint32* (результат)"), QString(), [this, msg, value] {
+                setQueryValue(msg, QString::number(*value));
+                return QString::number(*value);
+            });
     }
     QString version;
-    m_dispatcher.send(ZRK_MSG_LIBRARY_VERSION_QUERY, addr(version), 0, QStringLiteral("QString* (результат)"), QString(),
-                      [&] {
-                          setQueryValue(ZRK_MSG_LIBRARY_VERSION_QUERY, QStringLiteral("«%1»").arg(version));
-                          return QStringLiteral("«%1»").arg(version);
-                      });
+    m_dispatcher.send(ZRK_MSG_LIBRARY_VERSION_QUERY, addr(version), 0, QStringLiteral("QString* (результат)"),
+        QString(), [&] {
+            setQueryValue(ZRK_MSG_LIBRARY_VERSION_QUERY, QStringLiteral("«%1»").arg(version));
+            return QStringLiteral("«%1»").arg(version);
+        });
     szConfigParam param;
     std::memset(&param, 0, sizeof param);
-    m_dispatcher.send(ZRK_MSG_CONFIG_PARAM_QUERY, addr(param), 0, QStringLiteral("szConfigParam* (результат)"),
-                      QString(), [&] {
-                          param.text[sizeof param.text - 1] = '\0';
-                          const QString text = QString::fromLocal8Bit(param.text);
-                          const QString shown = text.isEmpty() ? QStringLiteral("пусто") : QStringLiteral("«%1»").arg(text);
-                          setQueryValue(ZRK_MSG_CONFIG_PARAM_QUERY, shown);
-                          return shown;
-                      });
+    m_dispatcher.send(ZRK_MSG_CONFIG_PARAM_QUERY, addr(param), 0,
+        QStringLiteral("szConfigParam* (результат)"), QString(), [&] {
+            param.text[sizeof param.text - 1] = '\0';
+            const QString text = QString::fromLocal8Bit(param.text);
+            const QString shown = text.isEmpty() ? QStringLiteral("пусто") : QStringLiteral("«%1»").arg(text);
+            setQueryValue(ZRK_MSG_CONFIG_PARAM_QUERY, shown);
+            return shown;
+        });
 }
 
-void ZrkHostWindow::setDirectories(const QString& tmi, const QString& xml, const QString& firmware,
-                                   const QString& sound)
+void ZrkHostWindow::setDirectories(
+    const QString& tmi, const QString& xml, const QString& firmware, const QString& sound)
 {
     const QString values[4] = { tmi, xml, firmware, sound };
     for (int i = 0; i < 4; ++i)
@@ -332,7 +334,8 @@ void ZrkHostWindow::sendDirectories()
     QStringList shown;
     for (int i = 0; i < 4; ++i)
         shown << (m_dirs[i]->text().isEmpty() ? QStringLiteral("—") : m_dirs[i]->text());
-    m_dispatcher.send(ZRK_MSG_SET_DIRECTORY_PATHS, addr(paths), 0, QStringLiteral("szDirPath: ") + shown.join(QStringLiteral("; ")));
+    m_dispatcher.send(ZRK_MSG_SET_DIRECTORY_PATHS, addr(paths), 0,
+        QStringLiteral("szDirPath: ") + shown.join(QStringLiteral("; ")));
 }
 
 void ZrkHostWindow::setMode(int mode)
@@ -346,7 +349,8 @@ void ZrkHostWindow::sendMode()
     m_dispatcher.send(ZRK_MSG_SET_CONFIGURATOR_MODE, addr(mode), 0, QStringLiteral("uint32* = %1").arg(mode));
 }
 
-void ZrkHostWindow::setTerminal(const QString& type, const QString& imei, const QString& firmware, quint32 connectType)
+void ZrkHostWindow::setTerminal(
+    const QString& type, const QString& imei, const QString& firmware, quint32 connectType)
 {
     m_termType->setText(type);
     m_termImei->setText(imei);
@@ -357,12 +361,13 @@ void ZrkHostWindow::setTerminal(const QString& type, const QString& imei, const 
 void ZrkHostWindow::connectTerminal()
 {
     szDeviceConnect record { m_termType->text(), m_termImei->text(), m_termFirmware->text(), nullptr, 0, 0,
-                             m_termConnect->currentData().toUInt() };
+        m_termConnect->currentData().toUInt() };
     m_dispatcher.send(ZRK_MSG_DEVICE_CONNECTED, addr(record), 0,
-                      QStringLiteral("тип «%1», IMEI %2, прошивка %3, связь %4")
-                          .arg(record.deviceType, record.imei, record.firmwareVersion)
-                          .arg(record.connectType));
-    m_termState->setText(QStringLiteral("Терминал %1 подключён (%2)").arg(record.deviceType, m_termConnect->currentText()));
+        QStringLiteral("тип «%1», IMEI %2, прошивка %3, связь %4")
+            .arg(record.deviceType, record.imei, record.firmwareVersion)
+            .arg(record.connectType));
+    m_termState->setText(
+        QStringLiteral("Терминал %1 подключён (%2)").arg(record.deviceType, m_termConnect->currentText()));
 }
 
 void ZrkHostWindow::disconnectTerminal()
@@ -385,7 +390,8 @@ void ZrkHostWindow::openNewConfiguration()
     std::memset(&file, 0, sizeof file);
     file.mode = 1; // the full editor, a new configuration
     file.source = 0;
-    m_dispatcher.send(ZRK_MSG_OPEN_CONFIGURATION, addr(file), 0, QStringLiteral("szConfigFile: полный редактор, новая"));
+    m_dispatcher.send(
+        ZRK_MSG_OPEN_CONFIGURATION, addr(file), 0, QStringLiteral("szConfigFile: полный редактор, новая"));
 }
 
 void ZrkHostWindow::openTelemetryView()
@@ -398,13 +404,13 @@ void ZrkHostWindow::openTelemetryFile(const QString& fileName, quint32 kind)
 {
     QString name = fileName;
     m_dispatcher.send(ZRK_MSG_OPEN_TELEMETRY_FILE, addr(name), addr(kind), QStringLiteral("«%1»").arg(name),
-                      QStringLiteral("uint32* = %1").arg(kind));
+        QStringLiteral("uint32* = %1").arg(kind));
 }
 
 void ZrkHostWindow::chooseAndLoadPlugin()
 {
-    const QString file = QFileDialog::getOpenFileName(this, QStringLiteral("Модуль устройства"), QString(),
-                                                      QStringLiteral("Модули (*.so);;Все файлы (*)"));
+    const QString file = QFileDialog::getOpenFileName(
+        this, QStringLiteral("Модуль устройства"), QString(), QStringLiteral("Модули (*.so);;Все файлы (*)"));
     if (!file.isEmpty())
         loadPlugin(file);
 }
@@ -412,7 +418,7 @@ void ZrkHostWindow::chooseAndLoadPlugin()
 void ZrkHostWindow::chooseTelemetryFile()
 {
     const QString file = QFileDialog::getOpenFileName(this, QStringLiteral("Файл телеметрии"), QString(),
-                                                      QStringLiteral("Телеметрия (*.tmi *.xml);;Все файлы (*)"));
+        QStringLiteral("Телеметрия (*.tmi *.xml);;Все файлы (*)"));
     if (!file.isEmpty())
         openTelemetryFile(file, m_tmiKind->currentData().toUInt());
 }

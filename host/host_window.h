@@ -40,7 +40,8 @@ public slots:
     void openTelemetryFile(const QString& fileName, quint32 kind);
 
     // Demo helpers: fill the controls as a user would.
-    void setDirectories(const QString& tmi, const QString& xml, const QString& firmware, const QString& sound);
+    void setDirectories(
+        const QString& tmi, const QString& xml, const QString& firmware, const QString& sound);
     void setMode(int mode);
     void setTerminal(const QString& type, const QString& imei, const QString& firmware, quint32 connectType);
 

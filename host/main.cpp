@@ -17,7 +17,8 @@ namespace {
 // The plug-in built next to this program, else the one this program was built with.
 QString defaultPlugin()
 {
-    const QString sibling = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../device/libzrk_k7140.so"));
+    const QString sibling
+        = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../device/libzrk_k7140.so"));
     if (QFileInfo::exists(sibling))
         return QDir::cleanPath(sibling);
     return QStringLiteral(ZRK_DEFAULT_PLUGIN);
@@ -36,10 +37,11 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Reference host for Torvin K-7140 device plug-ins"));
     parser.addHelpOption();
-    QCommandLineOption demo(QStringLiteral("demo"), QStringLiteral("Run the scripted session, write PNGs into DIR, exit."),
-                            QStringLiteral("DIR"));
+    QCommandLineOption demo(QStringLiteral("demo"),
+        QStringLiteral("Run the scripted session, write PNGs into DIR, exit."), QStringLiteral("DIR"));
     parser.addOption(demo);
-    parser.addPositionalArgument(QStringLiteral("plugin"), QStringLiteral("The plug-in file (default: the one built)."));
+    parser.addPositionalArgument(
+        QStringLiteral("plugin"), QStringLiteral("The plug-in file (default: the one built)."));
     parser.process(app);
     const QStringList args = parser.positionalArguments();
     const QString plugin = args.isEmpty() ? defaultPlugin() : args.first();

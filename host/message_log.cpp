@@ -14,9 +14,9 @@ ZrkMessageLog::ZrkMessageLog(QWidget* parent)
     , m_model(new QStandardItemModel(0, ColumnCount, this))
     , m_view(new QTableView(this))
 {
-    m_model->setHorizontalHeaderLabels({ QStringLiteral("№"), QStringLiteral("Время"), QStringLiteral("Направление"),
-                                         QStringLiteral("Id"), QStringLiteral("Сообщение"), QStringLiteral("wParam"),
-                                         QStringLiteral("lParam"), QStringLiteral("Результат") });
+    m_model->setHorizontalHeaderLabels({ QStringLiteral("№"), QStringLiteral("Время"),
+        QStringLiteral("Направление"), QStringLiteral("Id"), QStringLiteral("Сообщение"),
+        QStringLiteral("wParam"), QStringLiteral("lParam"), QStringLiteral("Результат") });
     m_view->setModel(m_model);
     m_view->verticalHeader()->hide();
     m_view->verticalHeader()->setDefaultSectionSize(22);

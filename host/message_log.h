@@ -20,7 +20,18 @@ public:
     // The text of one cell, for tests and the demo.
     QString cell(int row, int column) const;
 
-    enum Column { Sequence, Time, Direction, Id, Name, WParam, LParam, Result, ColumnCount };
+    enum Column
+    {
+        Sequence,
+        Time,
+        Direction,
+        Id,
+        Name,
+        WParam,
+        LParam,
+        Result,
+        ColumnCount
+    };
 
 public slots:
     void addMessage(const ZrkLoggedMessage& message);

@@ -27,7 +27,8 @@ bool ZrkPluginLoader::load(const QString& fileName)
     }
     m_library.setFileName(fileName);
     if (!m_library.load()) {
-        fail(QStringLiteral("Файл «%1» не загружается как библиотека: %2").arg(fileName, m_library.errorString()));
+        fail(QStringLiteral("Файл «%1» не загружается как библиотека: %2")
+                 .arg(fileName, m_library.errorString()));
         return false;
     }
     m_isLibrary = reinterpret_cast<ZRK_IsZrkLibraryVFn>(m_library.resolve(ZRK_EXPORT_IS_LIBRARY));

@@ -57,24 +57,31 @@ ZRK_PLUGIN_EXPORT void ReceiveMessage(void* handle, int msg, unsigned long wPara
 
 // ---- message ids -----------------------------------------------------------------------------
 
-enum : int {
+enum : int
+{
     ZRK_MSG_FIRST = 2001,
     ZRK_MSG_LAST = 2413,
 };
 
 // Host -> plug-in (ReceiveMessage).
-enum ZrkHostToPluginMessage : int {
+enum ZrkHostToPluginMessage : int
+{
 #define ZRK_MSG_IN(id, name, w, l, text) ZRK_MSG_##name = id,
 #include "zrk/zrk_messages.def"
 };
 
 // Plug-in -> host (the callback).
-enum ZrkPluginToHostMessage : int {
+enum ZrkPluginToHostMessage : int
+{
 #define ZRK_MSG_OUT(id, name, w, l, text) ZRK_MSG_##name = id,
 #include "zrk/zrk_messages.def"
 };
 
-enum class ZrkMessageDirection { HostToPlugin, PluginToHost };
+enum class ZrkMessageDirection
+{
+    HostToPlugin,
+    PluginToHost
+};
 
 // One row of the message table, for logs and tools.
 struct ZrkMessageInfo
@@ -106,17 +113,25 @@ inline const ZrkMessageInfo* zrkMessageInfo(int id, ZrkMessageDirection directio
 // ---- values carried by messages --------------------------------------------------------------
 
 // Configurator mode (message 2004) in which the host runs the service/test tools.
-enum : quint32 { ZRK_CONFIGURATOR_MODE_SERVICE = 5 };
+enum : quint32
+{
+    ZRK_CONFIGURATOR_MODE_SERVICE = 5
+};
 
 // View kind of message 2103 (lParam points to it as a uint32).
-enum class zrk_type_ViewFileTmi : quint32 { Page = 0, Table = 1 };
+enum class zrk_type_ViewFileTmi : quint32
+{
+    Page = 0,
+    Table = 1
+};
 
 // The application setting (QSettings of the host application) that holds the plug-in's
 // user-interface language, "ru" or "en". A host that changes it sends 2031 afterwards.
 #define ZRK_SETTINGS_LANGUAGE_KEY "zrk_k7140/language"
 
 // Sizes of the fixed text buffers.
-enum : int {
+enum : int
+{
     ZRK_LIBRARY_TEXT_SIZE = 255,
     ZRK_CONFIG_PATH_SIZE = 1024,
     ZRK_CONFIG_PARAM_SIZE = 255,

@@ -29,17 +29,26 @@ class RecConfig : public ZRK_Widget_Config
 {
 public:
     void deviceConnect() override { ZRK_Widget_Config::deviceConnect(), record("cfg.deviceConnect"); }
-    void deviceDisconnect() override { ZRK_Widget_Config::deviceDisconnect(), record("cfg.deviceDisconnect"); }
+    void deviceDisconnect() override
+    {
+        ZRK_Widget_Config::deviceDisconnect(), record("cfg.deviceDisconnect");
+    }
     void translateForm() override { record("cfg.translateForm"); }
     void openConfig(szConfigFile* f, szConfigParam&) override
     {
-        record(QStringLiteral("cfg.openConfig(%1,%2,%3)").arg(f->mode).arg(f->source).arg(QString::fromLocal8Bit(f->path)));
+        record(QStringLiteral("cfg.openConfig(%1,%2,%3)")
+                   .arg(f->mode)
+                   .arg(f->source)
+                   .arg(QString::fromLocal8Bit(f->path)));
     }
     bool closeWidgetConfig() override { return record("cfg.closeWidgetConfig"), refuseClose ? false : true; }
     void saveConfigToDevice() override { record("cfg.saveConfigToDevice"); }
     void readConfigFromDevice() override { record("cfg.readConfigFromDevice"); }
     void openConfigPage(quint32 p) override { record(QStringLiteral("cfg.openConfigPage(%1)").arg(p)); }
-    void getFileConfigure(QString& n) override { n = QStringLiteral("/tmp/c.xml"), record("cfg.getFileConfigure"); }
+    void getFileConfigure(QString& n) override
+    {
+        n = QStringLiteral("/tmp/c.xml"), record("cfg.getFileConfigure");
+    }
     void setCE_ProgramInfo(QByteArray* d) override { record("cfg.setCE_ProgramInfo(" + *d + ")"); }
     void setWindowCEClosed() override { record("cfg.setWindowCEClosed"); }
     void setWindowFocus() override { record("cfg.setWindowFocus"); }
@@ -49,28 +58,64 @@ public:
     void delUserParamListCE(const QString& n) override { record("cfg.delUserParamListCE(" + n + ")"); }
     void receiveDataTest(QByteArray* d) override { record("cfg.receiveDataTest(" + *d + ")"); }
     void receiveDtpTest(szDtpKRAI*) override { record("cfg.receiveDtpTest"); }
-    void receiveDtpProtection(quint8 v) override { record(QStringLiteral("cfg.receiveDtpProtection(%1)").arg(v)); }
-    void receiveDtpFileRead_V3(bool v) override { record(QStringLiteral("cfg.receiveDtpFileRead_V3(%1)").arg(v)); }
+    void receiveDtpProtection(quint8 v) override
+    {
+        record(QStringLiteral("cfg.receiveDtpProtection(%1)").arg(v));
+    }
+    void receiveDtpFileRead_V3(bool v) override
+    {
+        record(QStringLiteral("cfg.receiveDtpFileRead_V3(%1)").arg(v));
+    }
     void receiveTM(quint64 c) override { record(QStringLiteral("cfg.receiveTM(%1)").arg(c)); }
     void receiveAnalogValue(szAnalogValue*) override { record("cfg.receiveAnalogValue"); }
     void receiveAdValueFuel(szADValue*) override { record("cfg.receiveAdValueFuel"); }
     void receiveAdValueFuel_UN(szADValue_UN*) override { record("cfg.receiveAdValueFuel_UN"); }
     void receiveAccelParam(szAccelParam*) override { record("cfg.receiveAccelParam"); }
-    void receiveAccelBrake(quint8 s, quint8 r) override { record(QStringLiteral("cfg.receiveAccelBrake(%1,%2)").arg(s).arg(r)); }
+    void receiveAccelBrake(quint8 s, quint8 r) override
+    {
+        record(QStringLiteral("cfg.receiveAccelBrake(%1,%2)").arg(s).arg(r));
+    }
     void receiveAccelReset(szAccelReset*) override { record("cfg.receiveAccelReset"); }
     void receiveAccelAclC(szCmdAccelParam*) override { record("cfg.receiveAccelAclC"); }
-    void receiveBluetoothCancelRez(quint8 v) override { record(QStringLiteral("cfg.receiveBluetoothCancelRez(%1)").arg(v)); }
-    void receiveBluetoothRez(quint8 v) override { record(QStringLiteral("cfg.receiveBluetoothRez(%1)").arg(v)); }
+    void receiveBluetoothCancelRez(quint8 v) override
+    {
+        record(QStringLiteral("cfg.receiveBluetoothCancelRez(%1)").arg(v));
+    }
+    void receiveBluetoothRez(quint8 v) override
+    {
+        record(QStringLiteral("cfg.receiveBluetoothRez(%1)").arg(v));
+    }
     void receiveBluetoothDevice(szBluetoothDevice*) override { record("cfg.receiveBluetoothDevice"); }
-    void receiveCurrentDispValue(quint32 v) override { record(QStringLiteral("cfg.receiveCurrentDispValue(%1)").arg(v)); }
-    void receive_CanlogCurNum(qint32 v) override { record(QStringLiteral("cfg.receive_CanlogCurNum(%1)").arg(v)); }
-    void receive_TM_File_Info_V3(quint32 s, quint8 t) override { record(QStringLiteral("cfg.receive_TM_File_Info_V3(%1,%2)").arg(s).arg(t)); }
-    void receive_TM_ReadFile_V3(bool ok, const QString& f) override { record(QStringLiteral("cfg.receive_TM_ReadFile_V3(%1,%2)").arg(ok).arg(f)); }
-    void receive_TM_WriteFile_V3(bool ok) override { record(QStringLiteral("cfg.receive_TM_WriteFile_V3(%1)").arg(ok)); }
-    void receive_CurCanFile(QByteArray* d, const QString& n) override { record("cfg.receive_CurCanFile(" + *d + "," + n + ")"); }
+    void receiveCurrentDispValue(quint32 v) override
+    {
+        record(QStringLiteral("cfg.receiveCurrentDispValue(%1)").arg(v));
+    }
+    void receive_CanlogCurNum(qint32 v) override
+    {
+        record(QStringLiteral("cfg.receive_CanlogCurNum(%1)").arg(v));
+    }
+    void receive_TM_File_Info_V3(quint32 s, quint8 t) override
+    {
+        record(QStringLiteral("cfg.receive_TM_File_Info_V3(%1,%2)").arg(s).arg(t));
+    }
+    void receive_TM_ReadFile_V3(bool ok, const QString& f) override
+    {
+        record(QStringLiteral("cfg.receive_TM_ReadFile_V3(%1,%2)").arg(ok).arg(f));
+    }
+    void receive_TM_WriteFile_V3(bool ok) override
+    {
+        record(QStringLiteral("cfg.receive_TM_WriteFile_V3(%1)").arg(ok));
+    }
+    void receive_CurCanFile(QByteArray* d, const QString& n) override
+    {
+        record("cfg.receive_CurCanFile(" + *d + "," + n + ")");
+    }
     void receive_SD_File(QByteArray* d) override { record("cfg.receive_SD_File(" + *d + ")"); }
     void receive_Camera_Info(QByteArray* d) override { record("cfg.receive_Camera_Info(" + *d + ")"); }
-    void receive_PhotoInfo_SD_File(QByteArray* d) override { record("cfg.receive_PhotoInfo_SD_File(" + *d + ")"); }
+    void receive_PhotoInfo_SD_File(QByteArray* d) override
+    {
+        record("cfg.receive_PhotoInfo_SD_File(" + *d + ")");
+    }
     bool refuseClose = false;
 };
 
@@ -78,10 +123,16 @@ class RecTmi : public ZRK_Widget_Tmi_View
 {
 public:
     void deviceConnect() override { ZRK_Widget_Tmi_View::deviceConnect(), record("tmi.deviceConnect"); }
-    void deviceDisconnect() override { ZRK_Widget_Tmi_View::deviceDisconnect(), record("tmi.deviceDisconnect"); }
+    void deviceDisconnect() override
+    {
+        ZRK_Widget_Tmi_View::deviceDisconnect(), record("tmi.deviceDisconnect");
+    }
     void deviceDisconnectRCS() override { record("tmi.deviceDisconnectRCS"); }
     void translateForm() override { record("tmi.translateForm"); }
-    void showForm(const QString& t, const szConfigParam& p) override { record("tmi.showForm(" + t + "," + QString::fromLatin1(p.text) + ")"); }
+    void showForm(const QString& t, const szConfigParam& p) override
+    {
+        record("tmi.showForm(" + t + "," + QString::fromLatin1(p.text) + ")");
+    }
     void closeForm() override { record("tmi.closeForm"); }
     bool isTestMode(QByteArray* d) override { return record("tmi.isTestMode(" + *d + ")"), *d == "test"; }
     void setTmiCur(QByteArray* d) override { record("tmi.setTmiCur(" + *d + ")"); }
@@ -92,16 +143,34 @@ public:
     void setReceive_NMEA(QByteArray* d) override { record("tmi.setReceive_NMEA(" + *d + ")"); }
     void setTmiCmndParamValue(QByteArray* d) override { record("tmi.setTmiCmndParamValue(" + *d + ")"); }
     void setTmiCmnd(QByteArray* d) override { record("tmi.setTmiCmnd(" + *d + ")"); }
-    void setReceiveFls_UserCommand(QByteArray* d) override { record("tmi.setReceiveFls_UserCommand(" + *d + ")"); }
-    void getParamFLSFirmwareSensor(QByteArray* d) override { record("tmi.getParamFLSFirmwareSensor(" + *d + ")"); }
+    void setReceiveFls_UserCommand(QByteArray* d) override
+    {
+        record("tmi.setReceiveFls_UserCommand(" + *d + ")");
+    }
+    void getParamFLSFirmwareSensor(QByteArray* d) override
+    {
+        record("tmi.getParamFLSFirmwareSensor(" + *d + ")");
+    }
     void setToucheMemory(quint64 c) override { record(QStringLiteral("tmi.setToucheMemory(%1)").arg(c)); }
     void setCurrentAnalogValue(szADValue_UN*) override { record("tmi.setCurrentAnalogValue"); }
-    void receiveCurrentDispValue(quint32 v) override { record(QStringLiteral("tmi.receiveCurrentDispValue(%1)").arg(v)); }
+    void receiveCurrentDispValue(quint32 v) override
+    {
+        record(QStringLiteral("tmi.receiveCurrentDispValue(%1)").arg(v));
+    }
     void setRFID(quint64 c, quint8 v) override { record(QStringLiteral("tmi.setRFID(%1,%2)").arg(c).arg(v)); }
     void setReceiveTahoQuest(QByteArray* d) override { record("tmi.setReceiveTahoQuest(" + *d + ")"); }
-    void setReceiveTahoFile_Read(bool ok) override { record(QStringLiteral("tmi.setReceiveTahoFile_Read(%1)").arg(ok)); }
-    void setReceiveFlsDataFile_Quest(QByteArray* d) override { record("tmi.setReceiveFlsDataFile_Quest(" + *d + ")"); }
-    void setReceiveFlsDataFile_Read(bool ok) override { record(QStringLiteral("tmi.setReceiveFlsDataFile_Read(%1)").arg(ok)); }
+    void setReceiveTahoFile_Read(bool ok) override
+    {
+        record(QStringLiteral("tmi.setReceiveTahoFile_Read(%1)").arg(ok));
+    }
+    void setReceiveFlsDataFile_Quest(QByteArray* d) override
+    {
+        record("tmi.setReceiveFlsDataFile_Quest(" + *d + ")");
+    }
+    void setReceiveFlsDataFile_Read(bool ok) override
+    {
+        record(QStringLiteral("tmi.setReceiveFlsDataFile_Read(%1)").arg(ok));
+    }
 };
 
 class RecPage : public ZRK_Widget_Tmi_Page
@@ -413,13 +482,22 @@ void tst_DeviceK7140::windowRows_data()
         int msg;
         const char* expected;
     } bytes[] = {
-        { 2083, "tmi.setReceiveFls_UserCommand(x)" }, { 2155, "tmi.getParamFLSFirmwareSensor(x)" },
-        { 2301, "tmi.setTmiCur(x)" }, { 2303, "tmi.setTmiCurNumber(x)" }, { 2305, "tmi.setTmiCurLeft(x)" },
-        { 2307, "tmi.setTmiCurRight(x)" }, { 2312, "tmi.setTmiCurExt(x)" }, { 2315, "tmi.setReceive_NMEA(x)" },
-        { 2317, "tmi.setTmiCmndParamValue(x)" }, { 2320, "tmi.setTmiCmnd(x)" },
-        { 2351, "tmi.setReceiveTahoQuest(x)" }, { 2353, "tmi.setReceiveTahoQuest(x)" },
-        { 2411, "tmi.setReceiveFlsDataFile_Quest(x)" }, { 2362, "cfg.setCE_ProgramInfo(x)" },
-        { 2401, "cfg.receive_SD_File(x)" }, { 2403, "cfg.receive_Camera_Info(x)" },
+        { 2083, "tmi.setReceiveFls_UserCommand(x)" },
+        { 2155, "tmi.getParamFLSFirmwareSensor(x)" },
+        { 2301, "tmi.setTmiCur(x)" },
+        { 2303, "tmi.setTmiCurNumber(x)" },
+        { 2305, "tmi.setTmiCurLeft(x)" },
+        { 2307, "tmi.setTmiCurRight(x)" },
+        { 2312, "tmi.setTmiCurExt(x)" },
+        { 2315, "tmi.setReceive_NMEA(x)" },
+        { 2317, "tmi.setTmiCmndParamValue(x)" },
+        { 2320, "tmi.setTmiCmnd(x)" },
+        { 2351, "tmi.setReceiveTahoQuest(x)" },
+        { 2353, "tmi.setReceiveTahoQuest(x)" },
+        { 2411, "tmi.setReceiveFlsDataFile_Quest(x)" },
+        { 2362, "cfg.setCE_ProgramInfo(x)" },
+        { 2401, "cfg.receive_SD_File(x)" },
+        { 2403, "cfg.receive_Camera_Info(x)" },
         { 2407, "cfg.receive_PhotoInfo_SD_File(x)" },
     };
     for (const auto& r : bytes)
@@ -430,10 +508,14 @@ void tst_DeviceK7140::windowRows_data()
         const char* expected;
     } values[] = {
         // The word points to a 64-bit 0x2A (42); each row reads the width it expects.
-        { 2126, "cfg.receiveDtpProtection(42)" }, { 2128, "cfg.receiveDtpFileRead_V3(1)" },
-        { 2259, "cfg.receiveBluetoothCancelRez(42)" }, { 2262, "cfg.receiveBluetoothRez(42)" },
-        { 2271, "cfg.receive_CanlogCurNum(42)" }, { 2295, "cfg.receive_TM_WriteFile_V3(1)" },
-        { 2355, "tmi.setReceiveTahoFile_Read(1)" }, { 2413, "tmi.setReceiveFlsDataFile_Read(1)" },
+        { 2126, "cfg.receiveDtpProtection(42)" },
+        { 2128, "cfg.receiveDtpFileRead_V3(1)" },
+        { 2259, "cfg.receiveBluetoothCancelRez(42)" },
+        { 2262, "cfg.receiveBluetoothRez(42)" },
+        { 2271, "cfg.receive_CanlogCurNum(42)" },
+        { 2295, "cfg.receive_TM_WriteFile_V3(1)" },
+        { 2355, "tmi.setReceiveTahoFile_Read(1)" },
+        { 2413, "tmi.setReceiveFlsDataFile_Read(1)" },
         { 2383, "cfg.openConfigPage(42)" },
     };
     for (const auto& r : values)
@@ -443,12 +525,20 @@ void tst_DeviceK7140::windowRows_data()
         int msg;
         const char* expected;
     } records[] = {
-        { 2122, "cfg.receiveDtpTest" }, { 2243, "cfg.receiveAnalogValue" }, { 2245, "cfg.receiveAdValueFuel" },
-        { 2249, "cfg.receiveAccelParam" }, { 2253, "cfg.receiveAccelReset" }, { 2255, "cfg.receiveAccelAclC" },
-        { 2263, "cfg.receiveBluetoothDevice" }, { 2385, "cfg.addUserParamCE(x)" },
-        { 2386, "cfg.addUserParamListCE(x)" }, { 2387, "cfg.delUserParamCE(x)" },
-        { 2388, "cfg.delUserParamListCE(x)" }, { 2380, "cfg.setWindowCEClosed" },
-        { 2061, "tmi.deviceDisconnectRCS" }, { 2039, "tmi.closeForm" },
+        { 2122, "cfg.receiveDtpTest" },
+        { 2243, "cfg.receiveAnalogValue" },
+        { 2245, "cfg.receiveAdValueFuel" },
+        { 2249, "cfg.receiveAccelParam" },
+        { 2253, "cfg.receiveAccelReset" },
+        { 2255, "cfg.receiveAccelAclC" },
+        { 2263, "cfg.receiveBluetoothDevice" },
+        { 2385, "cfg.addUserParamCE(x)" },
+        { 2386, "cfg.addUserParamListCE(x)" },
+        { 2387, "cfg.delUserParamCE(x)" },
+        { 2388, "cfg.delUserParamListCE(x)" },
+        { 2380, "cfg.setWindowCEClosed" },
+        { 2061, "tmi.deviceDisconnectRCS" },
+        { 2039, "tmi.closeForm" },
     };
     for (const auto& r : records)
         QTest::newRow(qPrintable(QString::number(r.msg))) << r.msg << QString::fromLatin1(r.expected);
@@ -492,12 +582,15 @@ void tst_DeviceK7140::windowRowsDroppedWithoutWindow()
         if (row.direction != ZrkMessageDirection::HostToPlugin)
             continue;
         // Rows that make their window, or touch no window at all.
-        if (QList<int> { 2001, 2002, 2003, 2004, 2005, 2006, 2010, 2026, 2031, 2049, 2051, 2052, 2101, 2102, 2103,
-                         2272, 2346, 2356, 2399 }
+        if (QList<int> { 2001, 2002, 2003, 2004, 2005, 2006, 2010, 2026, 2031, 2049, 2051, 2052, 2101, 2102,
+                2103, 2272, 2346, 2356, 2399 }
                 .contains(row.id))
             continue;
         const QByteArray wType(row.wParam);
-        unsigned long w = wType == "QString*" ? addr(text) : wType == "-" ? 0 : wType.startsWith("uint") || wType.startsWith("int") || wType.startsWith("bool") ? addr(value) : addr(bytes);
+        unsigned long w = wType == "QString*"                                                 ? addr(text)
+            : wType == "-"                                                                    ? 0
+            : wType.startsWith("uint") || wType.startsWith("int") || wType.startsWith("bool") ? addr(value)
+                                                                                              : addr(bytes);
         dev->ZRK_ReceiveMessage(dev, row.id, w, addr(value));
     }
     QVERIFY2(log.isEmpty(), qPrintable(log.join(' ')));
@@ -616,9 +709,11 @@ void tst_DeviceK7140::connectSequence_data()
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("no windows, mode 0") << 0u << false << QStringList { "new.test" };
     QTest::newRow("no windows, mode 5") << 5u << false << QStringList { "new.test", "test.deviceConnect" };
-    QTest::newRow("windows, mode 0") << 0u << true << QStringList { "cfg.deviceConnect", "tmi.deviceConnect" };
+    QTest::newRow("windows, mode 0") << 0u << true
+                                     << QStringList { "cfg.deviceConnect", "tmi.deviceConnect" };
     QTest::newRow("windows, mode 5") << 5u << true
-                                     << QStringList { "cfg.deviceConnect", "tmi.deviceConnect", "test.deviceConnect" };
+                                     << QStringList { "cfg.deviceConnect", "tmi.deviceConnect",
+                                            "test.deviceConnect" };
 }
 
 void tst_DeviceK7140::connectSequence()
@@ -633,8 +728,8 @@ void tst_DeviceK7140::connectSequence()
         dev->initWidgetTest();
     }
     log.clear();
-    szDeviceConnect rec { "K-7140", "861234567890123", "3.5.8", reinterpret_cast<void*>(0x1), 0x1122334455667788ULL,
-                          0xFFFFFFFF, 4 };
+    szDeviceConnect rec { "K-7140", "861234567890123", "3.5.8", reinterpret_cast<void*>(0x1),
+        0x1122334455667788ULL, 0xFFFFFFFF, 4 };
     dev->ZRK_ReceiveMessage(dev, 2051, addr(rec), 0);
     QCOMPARE(log, expected);
     QVERIFY(dev->isDeviceConnected());
@@ -696,7 +791,10 @@ void tst_DeviceK7140::connectEmptiesConfigParam()
             class C : public RecConfig
             {
             public:
-                void openConfig(szConfigFile*, szConfigParam& p) override { qstrncpy(p.text, "ORBA3;255", sizeof p.text); }
+                void openConfig(szConfigFile*, szConfigParam& p) override
+                {
+                    qstrncpy(p.text, "ORBA3;255", sizeof p.text);
+                }
             };
             return new C;
         }
@@ -817,7 +915,8 @@ void tst_DeviceK7140::openFileTmi_data()
     QTest::addColumn<quint32>("kind");
     QTest::addColumn<QStringList>("expected");
     QTest::newRow("page") << 0u << QStringList { "new.page", "page.showForm", "page.setFileTmi(/t/a.tmi)" };
-    QTest::newRow("table") << 1u << QStringList { "new.table", "table.showForm", "table.setFileTmi(/t/a.tmi)" };
+    QTest::newRow("table") << 1u
+                           << QStringList { "new.table", "table.showForm", "table.setFileTmi(/t/a.tmi)" };
     QTest::newRow("2") << 2u << QStringList();
     QTest::newRow("max") << 0xFFFFFFFFu << QStringList();
 }
@@ -884,7 +983,9 @@ void tst_DeviceK7140::translateModuleOrder()
     log.clear();
     dev->ZRK_ReceiveMessage(dev, 2031, 0, 0);
     // The forms first (they are real here), then the windows in fixed order; never the test window.
-    QCOMPARE(log, (QStringList { "cfg.translateForm", "tmi.translateForm", "page.translateForm", "table.translateForm" }));
+    QCOMPARE(log,
+        (QStringList {
+            "cfg.translateForm", "tmi.translateForm", "page.translateForm", "table.translateForm" }));
 }
 
 void tst_DeviceK7140::eventBusStored()
@@ -989,7 +1090,7 @@ void tst_DeviceK7140::defaultFactoryMakesRealWindows()
     QCOMPARE(dev->widgetTest()->metaObject()->className(), "ZRK_Widget_Test");
     // Top-level windows, titled from the catalogue.
     for (QWidget* w : std::initializer_list<QWidget*> { dev->widgetConfig(), dev->widgetTmiView(),
-                                                        dev->widgetTmiPage(), dev->widgetTmiTable(), dev->widgetTest() }) {
+             dev->widgetTmiPage(), dev->widgetTmiTable(), dev->widgetTest() }) {
         QVERIFY(w->isWindow());
         QVERIFY(!w->parent());
         QVERIFY(!w->windowTitle().isEmpty());

@@ -181,7 +181,7 @@ void tst_PluginBoundary::libraryInfoThroughExport()
     QCOMPARE(name, QByteArray("Torvin K-7140") + QByteArray(255 - 13, '\0'));
     const unsigned char tail[] = { 3, 0, 0, 0, 5, 0, 0, 0, 8, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0 };
     QCOMPARE(QByteArray(reinterpret_cast<const char*>(r + 518), 24),
-             QByteArray(reinterpret_cast<const char*>(tail), 24));
+        QByteArray(reinterpret_cast<const char*>(tail), 24));
     getInfo(nullptr);
 }
 
@@ -376,7 +376,8 @@ void tst_PluginBoundary::requestsSeenByTheCallback()
     QCOMPARE(seen[0].msg, 2007);
     QCOMPARE(seen[0].w, QStringLiteral("K-7140"));
     QCOMPARE(seen[0].l, QStringLiteral("track"));
-    QVERIFY(QMetaObject::invokeMethod(device(), "getLibFuncForNameModule", Q_ARG(QString, QStringLiteral("ce"))));
+    QVERIFY(
+        QMetaObject::invokeMethod(device(), "getLibFuncForNameModule", Q_ARG(QString, QStringLiteral("ce"))));
     QCOMPARE(seen.size(), 2);
     QCOMPARE(seen[1].msg, 2135);
     QCOMPARE(seen[1].w, QStringLiteral("ce"));
@@ -432,7 +433,11 @@ void tst_PluginBoundary::everyRoutedIdWithRecords()
         else if (w != "-")
             wp = addr(number);
         const QByteArray l(row.lParam);
-        unsigned long lp = l == "-" ? 0 : l.startsWith("QByteArray") ? addr(bytes) : l.startsWith("QString") ? addr(texts[1]) : row.id == 2103 ? addr(kind) : addr(number);
+        unsigned long lp = l == "-"      ? 0
+            : l.startsWith("QByteArray") ? addr(bytes)
+            : l.startsWith("QString")    ? addr(texts[1])
+            : row.id == 2103             ? addr(kind)
+                                         : addr(number);
         send(row.id, wp, lp);
     }
     QCOMPARE(rows, 73);

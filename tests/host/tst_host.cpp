@@ -51,11 +51,12 @@ void tst_Host::notPlugins_data()
     QTest::newRow("missing file") << home.filePath("none.so") << QStringLiteral("не найден");
     QTest::newRow("not a library") << QStringLiteral(ZRK_SOURCE_DIR "/README.md")
                                    << QStringLiteral("не загружается как библиотека");
-    QTest::newRow("two exports missing") << QStringLiteral(ZRK_FAKE_PARTIAL)
-                                         << QStringLiteral("нет экспорта Initialize, ReceiveMessage.");
-    QTest::newRow("says it is not one") << QStringLiteral(ZRK_FAKE_DENIES)
-                                        << QStringLiteral("IsZrkLibraryV() вернула 0 вместо 1.");
-    QTest::newRow("no handle") << QStringLiteral(ZRK_FAKE_NO_HANDLE) << QStringLiteral("не сообщила описатель");
+    QTest::newRow("two exports missing")
+        << QStringLiteral(ZRK_FAKE_PARTIAL) << QStringLiteral("нет экспорта Initialize, ReceiveMessage.");
+    QTest::newRow("says it is not one")
+        << QStringLiteral(ZRK_FAKE_DENIES) << QStringLiteral("IsZrkLibraryV() вернула 0 вместо 1.");
+    QTest::newRow("no handle") << QStringLiteral(ZRK_FAKE_NO_HANDLE)
+                               << QStringLiteral("не сообщила описатель");
 }
 
 void tst_Host::notPlugins()
@@ -76,7 +77,8 @@ void tst_Host::describeWord_data()
     QTest::addColumn<QByteArray>("type");
     QTest::addColumn<quint64>("word");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("string") << QByteArray("QString* model") << quint64(addr(text)) << QStringLiteral("«K-7140»");
+    QTest::newRow("string") << QByteArray("QString* model") << quint64(addr(text))
+                            << QStringLiteral("«K-7140»");
     QTest::newRow("null string") << QByteArray("QString*") << quint64(0) << QStringLiteral("null");
     QTest::newRow("bytes, cut after 16")
         << QByteArray("QByteArray*") << quint64(addr(bytes))
@@ -98,11 +100,13 @@ void tst_Host::describeWord()
 
 void tst_Host::messageNames()
 {
-    QCOMPARE(ZrkHostDispatcher::messageName(2413, ZrkMessageDirection::HostToPlugin), QStringLiteral("FLS_DATA_FILE_READ"));
+    QCOMPARE(ZrkHostDispatcher::messageName(2413, ZrkMessageDirection::HostToPlugin),
+        QStringLiteral("FLS_DATA_FILE_READ"));
     QCOMPARE(ZrkHostDispatcher::messageName(2413, ZrkMessageDirection::PluginToHost),
-             QStringLiteral("REQUEST_FLS_DATA_FILE"));
+        QStringLiteral("REQUEST_FLS_DATA_FILE"));
     QCOMPARE(ZrkHostDispatcher::messageName(2007, ZrkMessageDirection::HostToPlugin), QStringLiteral("?"));
-    QCOMPARE(ZrkHostDispatcher::messageName(2007, ZrkMessageDirection::PluginToHost), QStringLiteral("SHOW_HELP"));
+    QCOMPARE(
+        ZrkHostDispatcher::messageName(2007, ZrkMessageDirection::PluginToHost), QStringLiteral("SHOW_HELP"));
 }
 
 void tst_Host::dispatcherWithPlugin()
@@ -118,7 +122,7 @@ void tst_Host::dispatcherWithPlugin()
 
         quint32 value = 0;
         dispatcher.send(ZRK_MSG_PROTOCOL_NUMBER_QUERY, addr(value), 0, QString(), QString(),
-                        [&] { return QString::number(value); });
+            [&] { return QString::number(value); });
         QCOMPARE(value, 196u);
         QCOMPARE(results.size(), 1);
         QCOMPARE(results[0][1].toString(), QStringLiteral("196"));
@@ -144,8 +148,10 @@ void tst_Host::dispatcherWithPlugin()
         int other = 0;
         ZrkHostDispatcher::callback(&other, ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, addr(module), addr(functions));
         QCOMPARE(functions.moduleName, QStringLiteral("x"));
-        ZrkHostDispatcher::callback(loader.handle(), ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, addr(module), addr(functions));
-        QVERIFY(functions.moduleName.isEmpty() && functions.moduleFile.isEmpty() && functions.moduleVersion.isEmpty());
+        ZrkHostDispatcher::callback(
+            loader.handle(), ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, addr(module), addr(functions));
+        QVERIFY(functions.moduleName.isEmpty() && functions.moduleFile.isEmpty()
+            && functions.moduleVersion.isEmpty());
         QVERIFY(!functions.handle && !functions.receiveMessage);
     }
     // Without a dispatcher the callback answers nothing and does not crash.
@@ -165,8 +171,9 @@ void tst_Host::windowLoadsAndAsks()
     QStringList answers;
     for (int r = 0; r < log->rowCount(); ++r)
         answers << log->cell(r, ZrkMessageLog::Id) + "=" + log->cell(r, ZrkMessageLog::Result);
-    QCOMPARE(answers, (QStringList { "2001=1", "2002=1", "2003=196", "2010=1", "2272=2", "2399=1", "2006=«012»",
-                                     "2356=пусто" }));
+    QCOMPARE(answers,
+        (QStringList {
+            "2001=1", "2002=1", "2003=196", "2010=1", "2272=2", "2399=1", "2006=«012»", "2356=пусто" }));
     window.setTerminal(QStringLiteral("K-7140"), QStringLiteral("1"), QStringLiteral("2"), 0);
     window.connectTerminal();
     window.disconnectTerminal();
