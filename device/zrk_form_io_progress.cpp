@@ -90,24 +90,25 @@ void ZRK_Form_IO_Progress::setText_Time(const QString& text)
     ui->label_Time->setText(text);
 }
 
-// Visibility is kept in flags as well: isVisible() of a child is false while the form is hidden.
 void ZRK_Form_IO_Progress::setTextValue_Visible(bool visible)
 {
-    m_valueVisible = visible;
     ui->widget_Value->setVisible(visible);
 }
 
 void ZRK_Form_IO_Progress::setTextTime_Visible(bool visible)
 {
-    m_timeVisible = visible;
     ui->label_Caption_Time->setVisible(visible);
     ui->label_Time->setVisible(visible);
 }
 
 void ZRK_Form_IO_Progress::setBtnTextTime_Visible(bool visible)
 {
-    m_btnTimeVisible = visible;
     ui->pushButton_Time->setVisible(visible);
+}
+
+void ZRK_Form_IO_Progress::setText_Title_Visible(bool visible)
+{
+    ui->label_Title->setVisible(visible);
 }
 
 void ZRK_Form_IO_Progress::setProgress_Visible(bool visible)
@@ -162,15 +163,16 @@ QString ZRK_Form_IO_Progress::textTime() const
 
 bool ZRK_Form_IO_Progress::isTextValueVisible() const
 {
-    return m_valueVisible;
+    // Whether the part shows once the form does, so the answer holds while the form is hidden.
+    return ui->widget_Value->isVisibleTo(this);
 }
 
 bool ZRK_Form_IO_Progress::isTextTimeVisible() const
 {
-    return m_timeVisible;
+    return ui->label_Time->isVisibleTo(this);
 }
 
 bool ZRK_Form_IO_Progress::isBtnTextTimeVisible() const
 {
-    return m_btnTimeVisible;
+    return ui->pushButton_Time->isVisibleTo(this);
 }

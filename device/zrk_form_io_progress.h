@@ -37,6 +37,7 @@ public:
     Q_INVOKABLE void setTextValue_Visible(bool visible);
     Q_INVOKABLE void setTextTime_Visible(bool visible);
     Q_INVOKABLE void setBtnTextTime_Visible(bool visible);
+    Q_INVOKABLE void setText_Title_Visible(bool visible);
     Q_INVOKABLE void setProgress_Visible(bool visible);
     Q_INVOKABLE void setText_FileLeft_Visible(bool visible);
 
@@ -62,7 +63,4 @@ private:
 
     std::unique_ptr<Ui_ZRK_Designer_Form_IO_Progress> ui;
     QString m_title; // empty: the default title of the catalogue
-    bool m_valueVisible = true;
-    bool m_timeVisible = true;
-    bool m_btnTimeVisible = true;
 };

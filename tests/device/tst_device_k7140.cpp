@@ -1035,6 +1035,11 @@ void tst_DeviceK7140::waitFormForwarding()
     QCOMPARE(form->textValueAll(), QStringLiteral("500"));
     QCOMPARE(form->textTime(), QStringLiteral("00:01:05"));
     QVERIFY(!form->isTextValueVisible() && !form->isTextTimeVisible() && !form->isBtnTextTimeVisible());
+    dev->formWait_Visible_Time(true);
+    QVERIFY(!form->isTextValueVisible() && form->isTextTimeVisible() && !form->isBtnTextTimeVisible());
+    dev->formWait_Visible_BtnTime(true);
+    dev->formWait_Visible_TextValue(true);
+    QVERIFY(form->isTextValueVisible() && form->isTextTimeVisible() && form->isBtnTextTimeVisible());
 
     dev->formWait_Show();
     QVERIFY(form->isVisible());
