@@ -8,7 +8,8 @@ cd "$(dirname "$0")/.."
 dirs=(device config_model config_ui telemetry service map translations)
 ui_headers=$(find build -path '*_autogen*' -name 'ui_*.h' 2>/dev/null || true)
 for l in ru en; do
-  lupdate -no-obsolete -locations none "${dirs[@]}" $ui_headers -ts "translations/zrk_$l.ts" >/dev/null
+  # Forms are read through their generated headers (ids as texts), not as .ui files.
+  lupdate -no-obsolete -locations none -extensions c,cpp,h "${dirs[@]}" $ui_headers -ts "translations/zrk_$l.ts" >/dev/null
 done
 /usr/bin/python3 scripts/fill_ru_catalogue.py translations/zrk_ru.ts
 echo "updated; untranslated English ids:"

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QWidget;
+class ZrkHostWindow;
+
+// The scripted session of `zrk-host --demo DIR PLUGIN`: load, identify, initialise, directories,
+// mode, connect, disconnect, language, then the plug-in's about and wait forms; after every step a
+// PNG of what the user would see goes into DIR. The plug-in's forms are found through Qt's object
+// model by class name, never through the plug-in's headers.
+class ZrkDemoSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    ZrkDemoSession(ZrkHostWindow& window, const QString& pluginFile, const QString& directory);
+
+    // Runs the whole session; returns the process exit code.
+    int run();
+
+    QStringList writtenFiles() const { return m_written; }
+
+private:
+    void settle(int ms = 150);
+    bool grab(QWidget* widget, const QString& name);
+    bool grabScreen(const QString& name);
+    static QWidget* topLevel(const char* className);
+
+    ZrkHostWindow& m_window;
+    QString m_plugin;
+    QString m_directory;
+    QStringList m_written;
+    int m_step = 0;
+};

@@ -1,0 +1,71 @@
+// zrk-host: a reference configurator host. Loads one device plug-in through its four exports and
+// talks to it with the host messages; with --demo it runs a scripted session and writes PNGs.
+#include "demo_session.h"
+#include "host_dispatcher.h"
+#include "host_window.h"
+#include "plugin_loader.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace {
+
+// The plug-in built next to this program, else the one this program was built with.
+QString defaultPlugin()
+{
+    const QString sibling
+        = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../device/libzrk_k7140.so"));
+    if (QFileInfo::exists(sibling))
+        return QDir::cleanPath(sibling);
+    return QStringLiteral(ZRK_DEFAULT_PLUGIN);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // Plug-ins may bring web views, which need shared contexts set before the application exists.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("zrk"));
+    QCoreApplication::setApplicationName(QStringLiteral("zrk-host"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Reference host for Torvin K-7140 device plug-ins"));
+    parser.addHelpOption();
+    QCommandLineOption demo(QStringLiteral("demo"),
+        QStringLiteral("Run the scripted session, write PNGs into DIR, exit."), QStringLiteral("DIR"));
+    parser.addOption(demo);
+    parser.addPositionalArgument(
+        QStringLiteral("plugin"), QStringLiteral("The plug-in file (default: the one built)."));
+    parser.process(app);
+    const QStringList args = parser.positionalArguments();
+    const QString plugin = args.isEmpty() ? defaultPlugin() : args.first();
+
+    ZrkPluginLoader loader;
+    int status = 0;
+    {
+        ZrkHostDispatcher dispatcher(loader);
+        ZrkHostWindow window(loader, dispatcher);
+        if (parser.isSet(demo)) {
+            ZrkDemoSession session(window, plugin, parser.value(demo));
+            status = session.run();
+            if (status != 0 && !loader.isLoaded())
+                std::fprintf(stderr, "zrk-host: %s\n", qPrintable(loader.errorString()));
+            for (const QString& file : session.writtenFiles())
+                std::printf("%s\n", qPrintable(file));
+        } else {
+            window.show();
+            window.loadPlugin(plugin);
+            status = app.exec();
+        }
+        window.hide();
+        // The plug-in's windows and texts go before the host's own objects do.
+        loader.unload();
+    }
+    return status;
+}

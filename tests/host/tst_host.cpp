@@ -1,0 +1,188 @@
+// The reference host's loader, dispatcher and window, against the real plug-in and against
+// libraries that are not plug-ins of the family.
+#include "host_dispatcher.h"
+#include "host_window.h"
+#include "message_log.h"
+#include "plugin_loader.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+template <typename T> unsigned long addr(T& v)
+{
+    return reinterpret_cast<unsigned long>(&v);
+}
+} // namespace
+
+class tst_Host : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void notPlugins_data();
+    void notPlugins();
+    void describeWord_data();
+    void describeWord();
+    void messageNames();
+    void dispatcherWithPlugin();
+    void windowLoadsAndAsks();
+
+private:
+    QTemporaryDir home;
+};
+
+void tst_Host::initTestCase()
+{
+    QVERIFY(home.isValid());
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("XDG_DATA_HOME", (home.path() + "/data").toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toLocal8Bit());
+    QCoreApplication::setOrganizationName(QStringLiteral("zrk-tests"));
+    QCoreApplication::setApplicationName(QStringLiteral("tst_host"));
+}
+
+void tst_Host::notPlugins_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("missing file") << home.filePath("none.so") << QStringLiteral("не найден");
+    QTest::newRow("not a library") << QStringLiteral(ZRK_SOURCE_DIR "/README.md")
+                                   << QStringLiteral("не загружается как библиотека");
+    QTest::newRow("two exports missing")
+        << QStringLiteral(ZRK_FAKE_PARTIAL) << QStringLiteral("нет экспорта Initialize, ReceiveMessage.");
+    QTest::newRow("says it is not one")
+        << QStringLiteral(ZRK_FAKE_DENIES) << QStringLiteral("IsZrkLibraryV() вернула 0 вместо 1.");
+    QTest::newRow("no handle") << QStringLiteral(ZRK_FAKE_NO_HANDLE)
+                               << QStringLiteral("не сообщила описатель");
+}
+
+void tst_Host::notPlugins()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, reason);
+    ZrkPluginLoader loader;
+    QVERIFY(!loader.load(file));
+    QVERIFY2(loader.errorString().contains(reason), qPrintable(loader.errorString()));
+    QVERIFY(!loader.isLoaded());
+    loader.send(2001, 0, 0); // nothing loaded, nothing happens
+}
+
+void tst_Host::describeWord_data()
+{
+    static QString text = QStringLiteral("K-7140");
+    static QByteArray bytes = QByteArray::fromHex("0102030405060708090a0b0c0d0e0f1011");
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<quint64>("word");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("string") << QByteArray("QString* model") << quint64(addr(text))
+                            << QStringLiteral("«K-7140»");
+    QTest::newRow("null string") << QByteArray("QString*") << quint64(0) << QStringLiteral("null");
+    QTest::newRow("bytes, cut after 16")
+        << QByteArray("QByteArray*") << quint64(addr(bytes))
+        << QStringLiteral("17 байт: 01 02 03 04 05 06 07 08 09 0a 0b 0c 0d 0e 0f 10 …");
+    QTest::newRow("by value") << QByteArray("int value") << quint64(42) << QStringLiteral("42");
+    QTest::newRow("zero") << QByteArray("0") << quint64(0) << QStringLiteral("0");
+    QTest::newRow("unexpected non-zero") << QByteArray("0") << quint64(255) << QStringLiteral("255");
+    QTest::newRow("record") << QByteArray("szSDFile*") << quint64(0x1000) << QStringLiteral("адрес 0x1000");
+    QTest::newRow("unused") << QByteArray("-") << quint64(0) << QStringLiteral("0");
+}
+
+void tst_Host::describeWord()
+{
+    QFETCH(QByteArray, type);
+    QFETCH(quint64, word);
+    QFETCH(QString, expected);
+    QCOMPARE(ZrkHostDispatcher::describeWord(type.constData(), static_cast<unsigned long>(word)), expected);
+}
+
+void tst_Host::messageNames()
+{
+    QCOMPARE(ZrkHostDispatcher::messageName(2413, ZrkMessageDirection::HostToPlugin),
+        QStringLiteral("FLS_DATA_FILE_READ"));
+    QCOMPARE(ZrkHostDispatcher::messageName(2413, ZrkMessageDirection::PluginToHost),
+        QStringLiteral("REQUEST_FLS_DATA_FILE"));
+    QCOMPARE(ZrkHostDispatcher::messageName(2007, ZrkMessageDirection::HostToPlugin), QStringLiteral("?"));
+    QCOMPARE(
+        ZrkHostDispatcher::messageName(2007, ZrkMessageDirection::PluginToHost), QStringLiteral("SHOW_HELP"));
+}
+
+void tst_Host::dispatcherWithPlugin()
+{
+    ZrkPluginLoader loader;
+    QVERIFY2(loader.load(QStringLiteral(ZRK_PLUGIN_FILE)), qPrintable(loader.errorString()));
+    QCOMPARE(QByteArray(loader.info().displayName), QByteArray("Torvin K-7140"));
+    {
+        ZrkHostDispatcher dispatcher(loader);
+        QSignalSpy logged(&dispatcher, &ZrkHostDispatcher::messageLogged);
+        QSignalSpy results(&dispatcher, &ZrkHostDispatcher::resultLogged);
+        loader.initialize(&ZrkHostDispatcher::callback);
+
+        quint32 value = 0;
+        dispatcher.send(ZRK_MSG_PROTOCOL_NUMBER_QUERY, addr(value), 0, QString(), QString(),
+            [&] { return QString::number(value); });
+        QCOMPARE(value, 196u);
+        QCOMPARE(results.size(), 1);
+        QCOMPARE(results[0][1].toString(), QStringLiteral("196"));
+
+        // The plug-in answers 2101 with 2370 from inside the call: both are logged, in order.
+        logged.clear();
+        szConfigFile file {};
+        file.mode = 1;
+        dispatcher.send(ZRK_MSG_OPEN_CONFIGURATION, addr(file), 0);
+        QCOMPARE(logged.size(), 2);
+        const auto first = logged[0][0].value<ZrkLoggedMessage>();
+        const auto second = logged[1][0].value<ZrkLoggedMessage>();
+        QCOMPARE(first.id, 2101);
+        QCOMPARE(first.name, QStringLiteral("OPEN_CONFIGURATION"));
+        QCOMPARE(second.id, 2370);
+        QCOMPARE(second.name, QStringLiteral("CONFIG_WINDOW_OPENED"));
+        QVERIFY(second.direction == ZrkMessageDirection::PluginToHost);
+        QVERIFY(second.sequence > first.sequence);
+
+        // 2135 is answered with an empty record; a foreign handle is logged and not answered.
+        QString module = QStringLiteral("ce");
+        szLibraryFunctions functions { "x", "y", "z", &value, nullptr };
+        int other = 0;
+        ZrkHostDispatcher::callback(&other, ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, addr(module), addr(functions));
+        QCOMPARE(functions.moduleName, QStringLiteral("x"));
+        ZrkHostDispatcher::callback(
+            loader.handle(), ZRK_MSG_LOOKUP_MODULE_FUNCTIONS, addr(module), addr(functions));
+        QVERIFY(functions.moduleName.isEmpty() && functions.moduleFile.isEmpty()
+            && functions.moduleVersion.isEmpty());
+        QVERIFY(!functions.handle && !functions.receiveMessage);
+    }
+    // Without a dispatcher the callback answers nothing and does not crash.
+    QCOMPARE(ZrkHostDispatcher::callback(loader.handle(), 2007, 0, 0), 0ul);
+    loader.unload();
+    QVERIFY(!loader.isLoaded());
+}
+
+void tst_Host::windowLoadsAndAsks()
+{
+    ZrkPluginLoader loader;
+    ZrkHostDispatcher dispatcher(loader);
+    ZrkHostWindow window(loader, dispatcher);
+    QVERIFY(window.loadPlugin(QStringLiteral(ZRK_PLUGIN_FILE)));
+    ZrkMessageLog* log = window.messageLog();
+    QCOMPARE(log->rowCount(), 8);
+    QStringList answers;
+    for (int r = 0; r < log->rowCount(); ++r)
+        answers << log->cell(r, ZrkMessageLog::Id) + "=" + log->cell(r, ZrkMessageLog::Result);
+    QCOMPARE(answers,
+        (QStringList {
+            "2001=1", "2002=1", "2003=196", "2010=1", "2272=2", "2399=1", "2006=«012»", "2356=пусто" }));
+    window.setTerminal(QStringLiteral("K-7140"), QStringLiteral("1"), QStringLiteral("2"), 0);
+    window.connectTerminal();
+    window.disconnectTerminal();
+    QCOMPARE(log->cell(log->rowCount() - 2, ZrkMessageLog::Name), QStringLiteral("DEVICE_CONNECTED"));
+    QCOMPARE(log->cell(log->rowCount() - 1, ZrkMessageLog::Name), QStringLiteral("DEVICE_DISCONNECTED"));
+    // Loading something else first unloads the plug-in.
+    QVERIFY(!window.loadPlugin(QStringLiteral(ZRK_FAKE_PARTIAL)));
+    QVERIFY(!loader.isLoaded());
+}
+
+QTEST_MAIN(tst_Host)
+#include "tst_host.moc"
