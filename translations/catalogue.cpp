@@ -12,16 +12,18 @@ static void initCatalogueResources()
 namespace zrk {
 namespace {
 
+// Both live until the process ends (never destroyed), so that removeCatalogue() is safe from any
+// static destructor of the library, whatever order the statics were made in.
 QPointer<QTranslator>& translatorSlot()
 {
-    static QPointer<QTranslator> translator;
-    return translator;
+    static auto* translator = new QPointer<QTranslator>;
+    return *translator;
 }
 
 QString& languageSlot()
 {
-    static QString language;
-    return language;
+    static auto* language = new QString;
+    return *language;
 }
 
 } // namespace
