@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QLocale>
 #include <QTextStream>
+#include <QtEndian>
 
 #include <algorithm>
 #include <charconv>
@@ -14,35 +15,51 @@ namespace orba {
 
 namespace {
 
-// The mask as four 64-bit words, field 1 in the most significant bit of the first.
-struct MaskWords
+// An exact copy of size bytes; short ones as two overlapping fixed-size moves, which the compiler
+// inlines, since most runs of a sparse field set are a few bytes long.
+inline void copyBytes(unsigned char* to, const unsigned char* from, int size)
 {
-    quint64 w[4];
-    explicit MaskWords(const unsigned char* mask)
-    {
-        for (int i = 0; i < 4; ++i) {
-            quint64 v = 0;
-            for (int b = 0; b < 8; ++b)
-                v = (v << 8) | mask[8 * i + b];
-            w[i] = v;
-        }
+    if (size >= 16) {
+        std::memcpy(to, from, size_t(size));
+    } else if (size >= 8) {
+        quint64 a, b;
+        std::memcpy(&a, from, 8);
+        std::memcpy(&b, from + size - 8, 8);
+        std::memcpy(to, &a, 8);
+        std::memcpy(to + size - 8, &b, 8);
+    } else if (size >= 4) {
+        quint32 a, b;
+        std::memcpy(&a, from, 4);
+        std::memcpy(&b, from + size - 4, 4);
+        std::memcpy(to, &a, 4);
+        std::memcpy(to + size - 4, &b, 4);
+    } else if (size >= 2) {
+        quint16 a, b;
+        std::memcpy(&a, from, 2);
+        std::memcpy(&b, from + size - 2, 2);
+        std::memcpy(to, &a, 2);
+        std::memcpy(to + size - 2, &b, 2);
+    } else if (size == 1) {
+        *to = *from;
     }
-    // First bit position >= p (0-based, position = field number - 1) that is set (or clear),
-    // limit when there is none below limit.
-    int next(int p, bool set, int limit) const
-    {
-        while (p < limit) {
-            const int wi = p >> 6;
-            const quint64 x = (set ? w[wi] : ~w[wi]) << (p & 63);
-            if (x) {
-                const int r = p + __builtin_clzll(x);
-                return r < limit ? r : limit;
-            }
-            p = (wi + 1) << 6;
-        }
-        return limit;
+}
+
+// Copies fields first+1 .. end (0-based bit positions [first, end)) from the body at `at`, bytes
+// past len as zero; returns the read position after them.
+inline int copyRun(int first, int end, const unsigned char* body, int len, int at, unsigned char* rec)
+{
+    const int to = kOffsets[first + 1];
+    const int size = kOffsets[end + 1] - to;
+    if (len - at >= size) {
+        copyBytes(rec + to, body + at, size);
+    } else {
+        const int have = len > at ? len - at : 0;
+        if (have > 0)
+            std::memcpy(rec + to, body + at, size_t(have));
+        std::memset(rec + to + have, 0, size_t(size - have));
     }
-};
+    return at + size;
+}
 
 QString withUnit(const QString& number)
 {
@@ -132,24 +149,38 @@ void decodeFields(
 {
     if (!body || len < 0)
         len = 0;
-    const MaskWords words(mask);
     int at = 0; // read position in the body
-    int p = 0; // bit position = field number - 1
-    for (;;) {
-        const int first = words.next(p, true, lastField);
-        if (first >= lastField)
+    // The pending run of present fields, as bit positions [first, end) (position = number - 1);
+    // runs that meet at a 64-bit word boundary are joined before they are copied.
+    int first = -1, end = -1;
+    for (int wi = 0; wi < 4; ++wi) {
+        const int base = wi * 64;
+        if (base >= lastField)
             break;
-        const int end = words.next(first, false, lastField);
-        const int to = kOffsets[first + 1];
-        const int size = kOffsets[end + 1] - to;
-        const int have = std::clamp(len - at, 0, size);
-        if (have > 0)
-            std::memcpy(rec + to, body + at, size_t(have));
-        if (have < size)
-            std::memset(rec + to + have, 0, size_t(size - have));
-        at += size;
-        p = end;
+        quint64 x;
+        std::memcpy(&x, mask + 8 * wi, 8);
+        x = qFromBigEndian(x); // field base+1 in the most significant bit
+        if (lastField - base < 64)
+            x &= ~quint64(0) << (64 - (lastField - base));
+        while (x) {
+            const int b = __builtin_clzll(x);
+            const quint64 rest = ~(x << b); // zero bits where the run goes on
+            const int n = rest ? __builtin_clzll(rest) : 64 - b;
+            const int runEnd = base + b + std::min(n, 64 - b);
+            if (base + b == end) {
+                end = runEnd;
+            } else {
+                if (first >= 0)
+                    at = copyRun(first, end, body, len, at, rec);
+                first = base + b;
+                end = runEnd;
+            }
+            const int taken = std::min(n, 64 - b);
+            x = (b + taken >= 64) ? 0 : x & (~quint64(0) >> (b + taken));
+        }
     }
+    if (first >= 0)
+        copyRun(first, end, body, len, at, rec);
 }
 
 QString formatText(const unsigned char* mask, int lastField)
