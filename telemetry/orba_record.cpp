@@ -157,26 +157,30 @@ void decodeFields(
         const int base = wi * 64;
         if (base >= lastField)
             break;
+        // Position base + k at bit k: little-endian bytes with the bits of each byte reversed (the
+        // mask puts the lowest field number of a byte in its most significant bit). Then a run of
+        // ones comes off with one addition, which keeps the loop short for sparse field sets.
         quint64 x;
         std::memcpy(&x, mask + 8 * wi, 8);
-        x = qFromBigEndian(x); // field base+1 in the most significant bit
+        x = qFromLittleEndian(x);
+        x = ((x >> 1) & 0x5555555555555555ULL) | ((x & 0x5555555555555555ULL) << 1);
+        x = ((x >> 2) & 0x3333333333333333ULL) | ((x & 0x3333333333333333ULL) << 2);
+        x = ((x >> 4) & 0x0F0F0F0F0F0F0F0FULL) | ((x & 0x0F0F0F0F0F0F0F0FULL) << 4);
         if (lastField - base < 64)
-            x &= ~quint64(0) << (64 - (lastField - base));
+            x &= (quint64(1) << (lastField - base)) - 1;
         while (x) {
-            const int b = __builtin_clzll(x);
-            const quint64 rest = ~(x << b); // zero bits where the run goes on
-            const int n = rest ? __builtin_clzll(rest) : 64 - b;
-            const int runEnd = base + b + std::min(n, 64 - b);
-            if (base + b == end) {
+            const quint64 y = x + (x & (~x + 1)); // the lowest run cleared, a carry just above it
+            const int runFirst = base + __builtin_ctzll(x);
+            const int runEnd = base + (y ? __builtin_ctzll(y) : 64);
+            x &= y;
+            if (runFirst == end) {
                 end = runEnd;
             } else {
                 if (first >= 0)
                     at = copyRun(first, end, body, len, at, rec);
-                first = base + b;
+                first = runFirst;
                 end = runEnd;
             }
-            const int taken = std::min(n, 64 - b);
-            x = (b + taken >= 64) ? 0 : x & (~quint64(0) >> (b + taken));
         }
     }
     if (first >= 0)
