@@ -69,6 +69,9 @@ unsigned char OrbaPage::startNewRecord(const unsigned char* buf, int len)
     }
     m_rawLen = len;
     std::memset(m_rec, 0, size_t(orba::recordSize(m_version)));
+    // No values of an earlier extended record survive into this one.
+    std::memset(&m_ext, 0, sizeof m_ext);
+    m_isExt = 0;
     return len > 0 ? buf[0] : 0;
 }
 

@@ -57,7 +57,7 @@ protected:
     OrbaPage(unsigned char* record, int version, QObject* parent);
 
     // Keeps what every kind of buffer leaves behind: the head copy, the raw copy and its length;
-    // clears the record structure. Returns the kind byte (0 for an empty buffer).
+    // clears the record structures. Returns the kind byte (0 for an empty buffer).
     unsigned char startNewRecord(const unsigned char* buf, int len);
     // Version 2 and 3: current (0xB0) and extended (0xB1) records.
     void setNewCurrentOrExt(const unsigned char* buf, int len);
