@@ -17,7 +17,7 @@ namespace {
 
 // An exact copy of size bytes; short ones as two overlapping fixed-size moves, which the compiler
 // inlines, since most runs of a sparse field set are a few bytes long.
-inline void copyBytes(unsigned char* to, const unsigned char* from, int size)
+__attribute__((always_inline)) inline void copyBytes(unsigned char* to, const unsigned char* from, int size)
 {
     if (size >= 16) {
         std::memcpy(to, from, size_t(size));
@@ -46,7 +46,8 @@ inline void copyBytes(unsigned char* to, const unsigned char* from, int size)
 
 // Copies fields first+1 .. end (0-based bit positions [first, end)) from the body at `at`, bytes
 // past len as zero; returns the read position after them.
-inline int copyRun(int first, int end, const unsigned char* body, int len, int at, unsigned char* rec)
+__attribute__((always_inline)) inline int copyRun(
+    int first, int end, const unsigned char* body, int len, int at, unsigned char* rec)
 {
     const int to = kOffsets[first + 1];
     const int size = kOffsets[end + 1] - to;
@@ -162,10 +163,12 @@ void decodeFields(
         // ones comes off with one addition, which keeps the loop short for sparse field sets.
         quint64 x;
         std::memcpy(&x, mask + 8 * wi, 8);
-        x = qFromLittleEndian(x);
-        x = ((x >> 1) & 0x5555555555555555ULL) | ((x & 0x5555555555555555ULL) << 1);
-        x = ((x >> 2) & 0x3333333333333333ULL) | ((x & 0x3333333333333333ULL) << 2);
-        x = ((x >> 4) & 0x0F0F0F0F0F0F0F0FULL) | ((x & 0x0F0F0F0F0F0F0F0FULL) << 4);
+        if (x != ~quint64(0)) { // all fields of the word present needs no reordering
+            x = qFromLittleEndian(x);
+            x = ((x >> 1) & 0x5555555555555555ULL) | ((x & 0x5555555555555555ULL) << 1);
+            x = ((x >> 2) & 0x3333333333333333ULL) | ((x & 0x3333333333333333ULL) << 2);
+            x = ((x >> 4) & 0x0F0F0F0F0F0F0F0FULL) | ((x & 0x0F0F0F0F0F0F0F0FULL) << 4);
+        }
         if (lastField - base < 64)
             x &= (quint64(1) << (lastField - base)) - 1;
         while (x) {
