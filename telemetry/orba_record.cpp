@@ -44,13 +44,11 @@ __attribute__((always_inline)) inline void copyBytes(unsigned char* to, const un
     }
 }
 
-// Copies fields first+1 .. end (0-based bit positions [first, end)) from the body at `at`, bytes
-// past len as zero; returns the read position after them.
+// Copies size bytes to the structure at `to` from the body at `at`, bytes past len as zero; returns
+// the read position after them.
 __attribute__((always_inline)) inline int copyRun(
-    int first, int end, const unsigned char* body, int len, int at, unsigned char* rec)
+    int to, int size, const unsigned char* body, int len, int at, unsigned char* rec)
 {
-    const int to = kOffsets[first + 1];
-    const int size = kOffsets[end + 1] - to;
     if (len - at >= size) {
         copyBytes(rec + to, body + at, size);
     } else {
@@ -60,6 +58,65 @@ __attribute__((always_inline)) inline int copyRun(
         std::memset(rec + to + have, 0, size_t(size - have));
     }
     return at + size;
+}
+
+// The runs of present fields of one mask: where each goes in the structure and how long it is, in
+// field order. A terminal sends the same field set record after record, so the plan of the last
+// mask is kept (per thread) and the mask walk is skipped while the mask stays the same.
+struct RunPlan
+{
+    unsigned char mask[kMaskBytes];
+    int lastField = -1; // no plan yet
+    int count = 0;
+    qint16 to[kFieldCount / 2 + 1]; // at most every other field starts a run
+    qint16 size[kFieldCount / 2 + 1];
+};
+
+void buildPlan(RunPlan& plan, const unsigned char* mask, int lastField)
+{
+    std::memcpy(plan.mask, mask, kMaskBytes);
+    plan.lastField = lastField;
+    plan.count = 0;
+    // The pending run of present fields, as bit positions [first, end) (position = number - 1);
+    // runs that meet at a 64-bit word boundary are joined into one.
+    int first = -1, end = -1;
+    auto add = [&plan](int runFirst, int runEnd) {
+        plan.to[plan.count] = qint16(kOffsets[runFirst + 1]);
+        plan.size[plan.count] = qint16(kOffsets[runEnd + 1] - kOffsets[runFirst + 1]);
+        ++plan.count;
+    };
+    for (int wi = 0; wi < 4; ++wi) {
+        const int base = wi * 64;
+        if (base >= lastField)
+            break;
+        // Position base + k at bit k: little-endian bytes with the bits of each byte reversed (the
+        // mask puts the lowest field number of a byte in its most significant bit). Then a run of
+        // ones comes off with one addition.
+        quint64 x;
+        std::memcpy(&x, mask + 8 * wi, 8);
+        x = qFromLittleEndian(x);
+        x = ((x >> 1) & 0x5555555555555555ULL) | ((x & 0x5555555555555555ULL) << 1);
+        x = ((x >> 2) & 0x3333333333333333ULL) | ((x & 0x3333333333333333ULL) << 2);
+        x = ((x >> 4) & 0x0F0F0F0F0F0F0F0FULL) | ((x & 0x0F0F0F0F0F0F0F0FULL) << 4);
+        if (lastField - base < 64)
+            x &= (quint64(1) << (lastField - base)) - 1;
+        while (x) {
+            const quint64 y = x + (x & (~x + 1)); // the lowest run cleared, a carry just above it
+            const int runFirst = base + __builtin_ctzll(x);
+            const int runEnd = base + (y ? __builtin_ctzll(y) : 64);
+            x &= y;
+            if (runFirst == end) {
+                end = runEnd;
+            } else {
+                if (first >= 0)
+                    add(first, end);
+                first = runFirst;
+                end = runEnd;
+            }
+        }
+    }
+    if (first >= 0)
+        add(first, end);
 }
 
 QString withUnit(const QString& number)
@@ -150,44 +207,12 @@ void decodeFields(
 {
     if (!body || len < 0)
         len = 0;
+    thread_local RunPlan plan;
+    if (plan.lastField != lastField || std::memcmp(plan.mask, mask, kMaskBytes) != 0)
+        buildPlan(plan, mask, lastField);
     int at = 0; // read position in the body
-    // The pending run of present fields, as bit positions [first, end) (position = number - 1);
-    // runs that meet at a 64-bit word boundary are joined before they are copied.
-    int first = -1, end = -1;
-    for (int wi = 0; wi < 4; ++wi) {
-        const int base = wi * 64;
-        if (base >= lastField)
-            break;
-        // Position base + k at bit k: little-endian bytes with the bits of each byte reversed (the
-        // mask puts the lowest field number of a byte in its most significant bit). Then a run of
-        // ones comes off with one addition, which keeps the loop short for sparse field sets.
-        quint64 x;
-        std::memcpy(&x, mask + 8 * wi, 8);
-        if (x != ~quint64(0)) { // all fields of the word present needs no reordering
-            x = qFromLittleEndian(x);
-            x = ((x >> 1) & 0x5555555555555555ULL) | ((x & 0x5555555555555555ULL) << 1);
-            x = ((x >> 2) & 0x3333333333333333ULL) | ((x & 0x3333333333333333ULL) << 2);
-            x = ((x >> 4) & 0x0F0F0F0F0F0F0F0FULL) | ((x & 0x0F0F0F0F0F0F0F0FULL) << 4);
-        }
-        if (lastField - base < 64)
-            x &= (quint64(1) << (lastField - base)) - 1;
-        while (x) {
-            const quint64 y = x + (x & (~x + 1)); // the lowest run cleared, a carry just above it
-            const int runFirst = base + __builtin_ctzll(x);
-            const int runEnd = base + (y ? __builtin_ctzll(y) : 64);
-            x &= y;
-            if (runFirst == end) {
-                end = runEnd;
-            } else {
-                if (first >= 0)
-                    at = copyRun(first, end, body, len, at, rec);
-                first = runFirst;
-                end = runEnd;
-            }
-        }
-    }
-    if (first >= 0)
-        copyRun(first, end, body, len, at, rec);
+    for (int i = 0; i < plan.count; ++i)
+        at = copyRun(plan.to[i], plan.size[i], body, len, at, rec);
 }
 
 QString formatText(const unsigned char* mask, int lastField)

@@ -1,4 +1,5 @@
 #include "orba_records.h"
+#include "telemetry/tmipage_orba1.h"
 #include "telemetry/tmipage_orba3.h"
 
 #include <QRandomGenerator>
@@ -20,6 +21,7 @@ private slots:
     void allFieldsPresent();
     void masksWithGaps_data();
     void masksWithGaps();
+    void fieldSetChangesBetweenRecords();
     void shortBody_data();
     void shortBody();
     void bit256AndTrailingBytesAreNotRead();
@@ -160,6 +162,30 @@ void tst_OrbaRecord::masksWithGaps()
     for (int no : fields)
         format[no - 1] = QLatin1Char('1');
     QCOMPARE(page.getStrFormatOrba3(), format);
+}
+
+// Records of different field sets one after another on one thread, and one field set read by pages
+// of different versions: each is decoded by its own mask, whatever came before.
+void tst_OrbaRecord::fieldSetChangesBetweenRecords()
+{
+    RecordBuilder a, b, c;
+    for (int no = 1; no <= 255; ++no) {
+        if (no % 3 == 0)
+            a.setPattern(no);
+        if (no % 3 == 1)
+            b.setPattern(no);
+    }
+    c.setPattern(10).setPattern(100).setPattern(200);
+    for (const RecordBuilder* r : { &a, &b, &a, &c, &c, &b }) {
+        TmiPage_Orba3 page(r->record());
+        QCOMPARE(structureBytes(&page.currentTMI(), 734), r->expectedStructure(3));
+    }
+    const QByteArray same = c.record();
+    TmiPage_Orba3 v3(same);
+    TmiPage_Orba1 v1(same);
+    TmiPage_Orba3 v3again(same);
+    QCOMPARE(structureBytes(&v1.currentTMI(), 146), c.expectedStructure(1));
+    QCOMPARE(structureBytes(&v3again.currentTMI(), 734), c.expectedStructure(3));
 }
 
 void tst_OrbaRecord::shortBody_data()
