@@ -46,21 +46,12 @@ public:
     }
     RecordBuilder& setNumber(int no, quint64 v) { return set(no, le(v, widthOf(no))); }
     RecordBuilder& setPattern(int no) { return set(no, pattern(no)); }
-    // Marks a field present without a value in the body: for masks that demand more than the body holds.
-    RecordBuilder& markOnly(int no)
-    {
-        m_markOnly << no;
-        return *this;
-    }
-
     QByteArray mask() const
     {
         QByteArray m(orba::kMaskBytes, '\0');
         auto mark = [&](int no) { m[(no - 1) / 8] = char(m[(no - 1) / 8] | (0x80 >> ((no - 1) % 8))); };
         for (auto it = m_values.begin(); it != m_values.end(); ++it)
             mark(it.key());
-        for (int no : m_markOnly)
-            mark(no);
         return m;
     }
     QByteArray body() const
@@ -90,7 +81,6 @@ public:
 
 private:
     QMap<int, QByteArray> m_values; // ordered by field number, as the record is
-    QList<int> m_markOnly;
 };
 
 // An exactly sized heap copy, so that a sanitizer sees any read past the end.
