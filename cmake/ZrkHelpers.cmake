@@ -20,9 +20,10 @@ function(zrk_add_qtest)
   set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV}" TIMEOUT 300)
 endfunction()
 
-# zrk_add_fuzzer(NAME <name> SOURCES <files...> [LIBS <libs...>] [SEEDS <dir>])
+# zrk_add_fuzzer(NAME <name> SOURCES <files...> [LIBS <libs...>])
+# Seeds live in fuzz/corpus/<name>/; scripts/run-fuzz.sh starts each run from them.
 function(zrk_add_fuzzer)
-  cmake_parse_arguments(F "" "NAME;SEEDS" "SOURCES;LIBS" ${ARGN})
+  cmake_parse_arguments(F "" "NAME" "SOURCES;LIBS" ${ARGN})
   add_executable(${F_NAME} ${F_SOURCES})
   target_link_libraries(${F_NAME} PRIVATE ${F_LIBS})
   target_link_options(${F_NAME} PRIVATE -fsanitize=fuzzer)

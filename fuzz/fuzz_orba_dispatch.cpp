@@ -1,0 +1,27 @@
+// Any buffer through the version choice and the page it picks.
+#include "orba_fuzz_common.h"
+#include "telemetry/orba_dispatch.h"
+#include "telemetry/tmipage_orba3.h"
+
+#include <algorithm>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const int len = int(std::min<size_t>(size, 1 << 16));
+    for (int mode = 0; mode <= 2; ++mode) {
+        const orba::Form shown = orba::chooseForm(data, len, mode, true);
+        const orba::Form quiet = orba::chooseForm(data, len, mode, false);
+        if ((len < 2) != (shown == orba::Form::Dropped)
+            || (shown == orba::Form::Unknown) != (quiet == orba::Form::Dropped && len >= 2))
+            std::abort();
+    }
+    const orba::Form form = orba::chooseForm(data, len, 0, true);
+    const std::unique_ptr<OrbaPage> page = orba::buildPage(form, data, len);
+    if (page) {
+        readEverything(*page);
+        if (form == orba::Form::Extended)
+            readExtended(static_cast<const TmiPage_Orba3&>(*page).extTMI());
+    }
+    return 0;
+}

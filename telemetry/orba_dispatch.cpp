@@ -1,0 +1,68 @@
+#include "telemetry/orba_dispatch.h"
+
+#include "telemetry/tmipage_orba1.h"
+#include "telemetry/tmipage_orba2.h"
+#include "telemetry/tmipage_orba3.h"
+
+namespace orba {
+
+Form chooseForm(const unsigned char* buf, int len, int configuratorMode, bool showUnknown)
+{
+    if (!buf || len < 2)
+        return Form::Dropped;
+    const unsigned char kind = buf[0];
+    const unsigned char version = buf[1];
+    if (kind == kKindCurrent && version == kVersionByte[2])
+        return Form::Orba2;
+    if (kind == kKindCurrent && version == kVersionByte[1])
+        return Form::Orba1;
+    if (kind == kKindCurrent && version == kVersionByte[3])
+        return (configuratorMode == 1 || configuratorMode == 2) ? Form::Orba3Production : Form::Orba3;
+    if (kind == kKindExtended)
+        return Form::Extended;
+    return showUnknown ? Form::Unknown : Form::Dropped;
+}
+
+Form chooseForm(const QByteArray& buf, int configuratorMode, bool showUnknown)
+{
+    return chooseForm(
+        reinterpret_cast<const unsigned char*>(buf.constData()), buf.size(), configuratorMode, showUnknown);
+}
+
+std::unique_ptr<OrbaPage> buildPage(Form form, const unsigned char* buf, int len)
+{
+    switch (form) {
+    case Form::Orba1:
+        return std::make_unique<TmiPage_Orba1>(buf, len);
+    case Form::Orba2:
+        return std::make_unique<TmiPage_Orba2>(buf, len);
+    case Form::Orba3:
+    case Form::Orba3Production:
+    case Form::Extended:
+        return std::make_unique<TmiPage_Orba3>(buf, len);
+    case Form::Dropped:
+    case Form::Unknown:
+        break;
+    }
+    return nullptr;
+}
+
+const char* pageClassName(Form form)
+{
+    switch (form) {
+    case Form::Orba1:
+        return "TmiPage_Orba1";
+    case Form::Orba2:
+        return "TmiPage_Orba2";
+    case Form::Orba3:
+    case Form::Orba3Production:
+    case Form::Extended:
+        return "TmiPage_Orba3";
+    case Form::Dropped:
+    case Form::Unknown:
+        break;
+    }
+    return "unknown";
+}
+
+} // namespace orba

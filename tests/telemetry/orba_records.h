@@ -1,0 +1,103 @@
+#pragma once
+
+// Records assembled the way a terminal writes them: the test names fields and their values, the
+// builder sets their mask bits and lays their bytes out in field order at the table's widths.
+// Nothing here uses the decoder.
+
+#include "telemetry/orba_record.h"
+
+#include <QByteArray>
+#include <QMap>
+
+#include <vector>
+
+namespace orbatest {
+
+inline QByteArray le(quint64 v, int width)
+{
+    QByteArray b;
+    for (int i = 0; i < width; ++i)
+        b.append(char((v >> (8 * i)) & 0xFF));
+    return b;
+}
+
+inline int widthOf(int no)
+{
+    return orba::kFields[no - 1].width;
+}
+
+// A recognisable byte pattern for field no, different for every field and byte.
+inline QByteArray pattern(int no)
+{
+    QByteArray b;
+    for (int i = 0; i < widthOf(no); ++i)
+        b.append(char((no * 37 + i * 11 + 1) & 0xFF));
+    return b;
+}
+
+class RecordBuilder
+{
+public:
+    RecordBuilder& set(int no, const QByteArray& bytes)
+    {
+        Q_ASSERT(bytes.size() == widthOf(no));
+        m_values[no] = bytes;
+        return *this;
+    }
+    RecordBuilder& setNumber(int no, quint64 v) { return set(no, le(v, widthOf(no))); }
+    RecordBuilder& setPattern(int no) { return set(no, pattern(no)); }
+    QByteArray mask() const
+    {
+        QByteArray m(orba::kMaskBytes, '\0');
+        auto mark = [&](int no) { m[(no - 1) / 8] = char(m[(no - 1) / 8] | (0x80 >> ((no - 1) % 8))); };
+        for (auto it = m_values.begin(); it != m_values.end(); ++it)
+            mark(it.key());
+        return m;
+    }
+    QByteArray body() const
+    {
+        QByteArray b;
+        for (auto it = m_values.begin(); it != m_values.end(); ++it)
+            b += it.value();
+        return b;
+    }
+    QByteArray record(int version = 3) const
+    {
+        QByteArray r;
+        r.append(char(orba::kKindCurrent));
+        r.append(char(orba::kVersionByte[version]));
+        return r + mask() + body();
+    }
+    // The all-fields structure a correct decoder fills: each set field at its place.
+    QByteArray expectedStructure(int version) const
+    {
+        QByteArray s(orba::recordSize(version), '\0');
+        for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+            if (it.key() <= orba::kLastField[version])
+                s.replace(orba::kOffsets[it.key()], it.value().size(), it.value());
+        }
+        return s;
+    }
+
+private:
+    QMap<int, QByteArray> m_values; // ordered by field number, as the record is
+};
+
+// An exactly sized heap copy, so that a sanitizer sees any read past the end.
+struct ExactBuffer
+{
+    explicit ExactBuffer(const QByteArray& b)
+        : bytes(b.begin(), b.end())
+    {
+    }
+    const unsigned char* data() const { return bytes.empty() ? nullptr : bytes.data(); }
+    int size() const { return int(bytes.size()); }
+    std::vector<unsigned char> bytes;
+};
+
+inline QByteArray structureBytes(const void* p, int size)
+{
+    return QByteArray(reinterpret_cast<const char*>(p), size);
+}
+
+} // namespace orbatest
