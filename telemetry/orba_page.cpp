@@ -1,5 +1,7 @@
 #include "telemetry/orba_page.h"
 
+#include "config_model/common_routines.h"
+
 #include <QDateTime>
 
 #include <algorithm>
@@ -49,12 +51,12 @@ void OrbaPage::setCurrentTMI(const unsigned char* data, int len)
 
 quint8 OrbaPage::getByteForNumber(quint8 byte, int n)
 {
-    return (n >= 0 && n <= 7) ? quint8((byte >> n) & 1) : 0;
+    return quint8(::getBitFromByte(byte, n));
 }
 
 quint8 OrbaPage::get2BitFromByte(quint8 byte, int n)
 {
-    return (n >= 0 && n <= 6) ? quint8((byte >> n) & 3) : 0;
+    return quint8(::get2BitFromByte(byte, n));
 }
 
 unsigned char OrbaPage::startNewRecord(const unsigned char* buf, int len)
