@@ -315,7 +315,7 @@ QString noDataText()
 
 QString temperatureUnit()
 {
-    //% "°C"
+    //% "°С"
     return qtTrId("abbr_017");
 }
 

@@ -55,5 +55,9 @@
         <source></source>
         <translation>Cancel</translation>
     </message>
+    <message id="abbr_017">
+        <source>°С</source>
+        <translation>°C</translation>
+    </message>
 </context>
 </TS>

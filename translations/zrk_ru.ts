@@ -55,5 +55,9 @@
         <source></source>
         <translation>Отмена</translation>
     </message>
+    <message id="abbr_017">
+        <source>°С</source>
+        <translation>°С</translation>
+    </message>
 </context>
 </TS>
