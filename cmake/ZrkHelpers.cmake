@@ -1,9 +1,14 @@
-# zrk_add_qtest(NAME <name> SOURCES <files...> [LIBS <libs...>] [ENV <VAR=value...>] [XVFB])
+# zrk_add_qtest(NAME <name> SOURCES <files...> [LIBS <libs...>] [ENV <VAR=value...>] [XVFB] [TOOL])
 # One QtTest executable, registered with CTest. Widget tests run on the offscreen platform
-# unless XVFB asks for a real X server.
+# unless XVFB asks for a real X server. TOOL: the test runs the built zrk-tool
+# (tests/common/tool_run.h).
 function(zrk_add_qtest)
-  cmake_parse_arguments(T "XVFB" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
+  cmake_parse_arguments(T "XVFB;TOOL" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
   add_executable(${T_NAME} ${T_SOURCES})
+  if(T_TOOL)
+    target_compile_definitions(${T_NAME} PRIVATE ZRK_TOOL_PATH="$<TARGET_FILE:zrk-tool>")
+    add_dependencies(${T_NAME} zrk-tool)
+  endif()
   target_link_libraries(${T_NAME} PRIVATE Qt5::Test ${T_LIBS})
   target_compile_definitions(${T_NAME} PRIVATE ZRK_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
                                                ZRK_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")
