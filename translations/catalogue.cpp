@@ -1,7 +1,6 @@
 #include "translations/catalogue.h"
 
 #include <QCoreApplication>
-#include <QPointer>
 #include <QTranslator>
 
 static void initCatalogueResources()
@@ -12,19 +11,10 @@ static void initCatalogueResources()
 namespace zrk {
 namespace {
 
-// Both live until the process ends (never destroyed), so that removeCatalogue() is safe from any
-// static destructor of the library, whatever order the statics were made in.
-QPointer<QTranslator>& translatorSlot()
-{
-    static auto* translator = new QPointer<QTranslator>;
-    return *translator;
-}
-
-QString& languageSlot()
-{
-    static auto* language = new QString;
-    return *language;
-}
+// A plain pointer, owned here and not by the application: it has no destructor of its own, so
+// removeCatalogue() is safe from any static destructor of the library, in whatever order the
+// statics were made, and nothing is left behind when the library is unloaded.
+QTranslator* g_translator = nullptr;
 
 } // namespace
 
@@ -35,31 +25,30 @@ bool installCatalogue(const QString& language)
     static const bool resourcesReady = (initCatalogueResources(), true);
     Q_UNUSED(resourcesReady);
     const QString lang = language == QLatin1String("en") ? QStringLiteral("en") : QStringLiteral("ru");
-    auto* translator = new QTranslator(QCoreApplication::instance());
+    auto* translator = new QTranslator;
     if (!translator->load(QStringLiteral(":/zrk/i18n/zrk_%1.qm").arg(lang))) {
         delete translator;
         return false;
     }
+    translator->setObjectName(lang);
     removeCatalogue();
     QCoreApplication::installTranslator(translator);
-    translatorSlot() = translator;
-    languageSlot() = lang;
+    g_translator = translator;
     return true;
 }
 
 void removeCatalogue()
 {
-    if (QTranslator* old = translatorSlot().data()) {
-        QCoreApplication::removeTranslator(old);
-        delete old;
-    }
-    translatorSlot() = nullptr;
-    languageSlot().clear();
+    if (!g_translator)
+        return;
+    QCoreApplication::removeTranslator(g_translator);
+    delete g_translator;
+    g_translator = nullptr;
 }
 
 QString installedCatalogueLanguage()
 {
-    return languageSlot();
+    return g_translator ? g_translator->objectName() : QString();
 }
 
 } // namespace zrk
