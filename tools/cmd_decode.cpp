@@ -8,6 +8,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <cstdio>
@@ -28,28 +29,16 @@ QString jsonString(const QString& s)
     out.reserve(s.size() + 2);
     out += QLatin1Char('"');
     for (const QChar c : s) {
-        switch (c.unicode()) {
-        case '"':
-            out += QLatin1String("\\\"");
-            break;
-        case '\\':
-            out += QLatin1String("\\\\");
-            break;
-        case '\n':
-            out += QLatin1String("\\n");
-            break;
-        case '\r':
-            out += QLatin1String("\\r");
-            break;
-        case '\t':
-            out += QLatin1String("\\t");
-            break;
-        default:
-            if (c.unicode() < 0x20)
-                out += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-            else
-                out += c;
-        }
+        static const char* const kEscapes[][2]
+            = { { "\"", "\\\"" }, { "\\", "\\\\" }, { "\n", "\\n" }, { "\r", "\\r" }, { "\t", "\\t" } };
+        const auto escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+            [c](const auto& e) { return c == QLatin1Char(e[0][0]); });
+        if (escape != std::end(kEscapes))
+            out += QLatin1String((*escape)[1]);
+        else if (c.unicode() < 0x20)
+            out += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+        else
+            out += c;
     }
     out += QLatin1Char('"');
     return out;

@@ -21,7 +21,6 @@ private slots:
     void allFieldsPresent();
     void masksWithGaps_data();
     void masksWithGaps();
-    void fieldSetChangesBetweenRecords();
     void shortBody_data();
     void shortBody();
     void bit256AndTrailingBytesAreNotRead();
@@ -34,7 +33,6 @@ private slots:
     void otherKindDecodesNothing();
     void rawCopyIsLimited_data();
     void rawCopyIsLimited();
-    void constructorsFromStructures();
 };
 
 static void setTimeZone(const char* tz)
@@ -49,7 +47,7 @@ void tst_OrbaRecord::initTestCase()
 }
 
 // The table is the format: widths add up to the three structure sizes, places follow one another,
-// names are unique, and every sub-value has a unique accessor name.
+// names are unique.
 void tst_OrbaRecord::tableAddsUp()
 {
     int sum = 0;
@@ -67,20 +65,6 @@ void tst_OrbaRecord::tableAddsUp()
         names.insert(QLatin1String(f.name));
     }
     QCOMPARE(sum, 734);
-    QCOMPARE(int(sizeof(szCurrentTMI_ORBA3)), 734);
-    QCOMPARE(QLatin1String(orba::kFields[9].name), QLatin1String("Latitude"));
-    QCOMPARE(QLatin1String(orba::kFields[254].name), QLatin1String("User8Byte3"));
-    QSet<QString> subNames;
-    for (const orba::SubInfo& s : orba::kSubValues) {
-        QVERIFY2(!subNames.contains(QLatin1String(s.name)), s.name);
-        QVERIFY2(!names.contains(QLatin1String(s.name)), s.name);
-        subNames.insert(QLatin1String(s.name));
-    }
-    // 30 tyres of three values each.
-    int tyres = 0;
-    for (const orba::SubInfo& s : orba::kSubValues)
-        tyres += QByteArray(s.name).startsWith("Tires");
-    QCOMPARE(tyres, 90);
 }
 
 void tst_OrbaRecord::everyFieldAlone_data()
@@ -120,26 +104,22 @@ void tst_OrbaRecord::allFieldsPresent()
     QCOMPARE(page.getStrFormatOrba3(), QString(255, QLatin1Char('1')));
     QCOMPARE(page.getUser8Byte3(), quint64(orba::readLE(buf.data() + 34 + 726, 8)));
     QCOMPARE(page.body(), b.body());
+    TmiPage_Orba3 copy(page.currentTMI());
+    QCOMPARE(structureBytes(&copy.currentTMI(), 734), b.body());
+    QVERIFY(!copy.isUseParamNumPage()); // a bare structure carries no mask
 }
 
 void tst_OrbaRecord::masksWithGaps_data()
 {
     QTest::addColumn<QList<int>>("fields");
-    QList<int> defaults;
-    for (int pos : { 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 18, 19, 28, 30, 36, 70, 122, 123, 124,
-             138, 199, 205 })
-        defaults << pos + 1;
-    QTest::newRow("default field set") << defaults;
-    QList<int> odd, even;
-    for (int no = 1; no <= 255; ++no)
-        (no % 2 ? odd : even) << no;
+    QList<int> odd;
+    for (int no = 1; no <= 255; no += 2)
+        odd << no;
     QTest::newRow("odd fields") << odd;
-    QTest::newRow("even fields") << even;
     QTest::newRow("first and last") << QList<int> { 1, 255 };
-    QTest::newRow("composites") << QList<int> { 70, 73, 77, 94, 95, 96, 97, 204 };
     QTest::newRow("across 64-field words") << QList<int> { 63, 64, 65, 66, 127, 128, 129, 191, 192, 193 };
     QRandomGenerator rng(4711);
-    for (int r = 0; r < 6; ++r) {
+    for (int r = 0; r < 2; ++r) {
         QList<int> some;
         for (int no = 1; no <= 255; ++no) {
             if (rng.bounded(3) == 0)
@@ -164,34 +144,10 @@ void tst_OrbaRecord::masksWithGaps()
     QCOMPARE(page.getStrFormatOrba3(), format);
 }
 
-// Records of different field sets one after another on one thread, and one field set read by pages
-// of different versions: each is decoded by its own mask, whatever came before.
-void tst_OrbaRecord::fieldSetChangesBetweenRecords()
-{
-    RecordBuilder a, b, c;
-    for (int no = 1; no <= 255; ++no) {
-        if (no % 3 == 0)
-            a.setPattern(no);
-        if (no % 3 == 1)
-            b.setPattern(no);
-    }
-    c.setPattern(10).setPattern(100).setPattern(200);
-    for (const RecordBuilder* r : { &a, &b, &a, &c, &c, &b }) {
-        TmiPage_Orba3 page(r->record());
-        QCOMPARE(structureBytes(&page.currentTMI(), 734), r->expectedStructure(3));
-    }
-    const QByteArray same = c.record();
-    TmiPage_Orba3 v3(same);
-    TmiPage_Orba1 v1(same);
-    TmiPage_Orba3 v3again(same);
-    QCOMPARE(structureBytes(&v1.currentTMI(), 146), c.expectedStructure(1));
-    QCOMPARE(structureBytes(&v3again.currentTMI(), 734), c.expectedStructure(3));
-}
-
 void tst_OrbaRecord::shortBody_data()
 {
     QTest::addColumn<int>("cut"); // body bytes removed from the end
-    for (int cut : { 0, 1, 3, 4, 5, 37, 100, 733, 734 })
+    for (int cut : { 0, 1, 5, 733, 734 })
         QTest::newRow(qPrintable(QString::number(cut))) << cut;
 }
 
@@ -210,7 +166,12 @@ void tst_OrbaRecord::shortBody()
     QByteArray expected = b.body().left(734 - cut);
     expected.append(QByteArray(cut, '\0'));
     QCOMPARE(structureBytes(&page.currentTMI(), 734), expected);
-    // A stale value must not survive into a shorter record either.
+    // Nothing of an earlier record survives into the next one.
+    RecordBuilder other;
+    other.setPattern(orba::F_NumPage).setPattern(255);
+    const ExactBuffer otherBuf(other.record());
+    page.setNewTMI(otherBuf.data(), otherBuf.size());
+    QCOMPARE(structureBytes(&page.currentTMI(), 734), other.expectedStructure(3));
     page.setNewTMI(buf.data(), buf.size());
     QCOMPARE(structureBytes(&page.currentTMI(), 734), expected);
 }
@@ -234,35 +195,22 @@ void tst_OrbaRecord::displayTexts_data()
     const QString unit = qtTrId("abbr_017");
     QTest::addColumn<int>("no");
     QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<QString>("getter"); // getStr accessor name, for the failure message
     QTest::addColumn<QString>("text");
     auto row = [](const char* name, int no, const QByteArray& v, const QString& text) {
-        QTest::newRow(name) << no << v << QString::fromLatin1(name) << text;
+        QTest::newRow(name) << no << v << text;
     };
     row("Latitude 55 45.6789", orba::F_Latitude, le(33456789, 4), QStringLiteral("55 45.6789'"));
     row("Latitude negative", orba::F_Latitude, le(quint32(-33456789), 4), QStringLiteral("-55 -45.6789'"));
     row("Latitude under a degree", orba::F_Latitude, le(quint32(-5000), 4), QStringLiteral("0 -0.5000'"));
-    row("Longitude 37 0.0001", orba::F_Longitude, le(22200001, 4), QStringLiteral("37 0.0001'"));
     row("Altitude -15", orba::F_Altitude, le(quint32(-15), 4), QStringLiteral("-1"));
-    row("Altitude 1999", orba::F_Altitude, le(1999, 4), QStringLiteral("199"));
     row("Temp1 0x80", orba::F_Temp1, le(0x80, 1), QString());
     row("Temp1 0x81", orba::F_Temp1, le(0x81, 1), QStringLiteral("-127 ") + unit);
-    row("Temp8 25", orba::F_Temp8, le(25, 1), QStringLiteral("25 ") + unit);
     row("HPrecisionTemp1 0x8000", orba::F_HPrecisionTemp1, le(0x8000, 2), QStringLiteral("n/a"));
-    row("HPrecisionTemp1 400", orba::F_HPrecisionTemp1, le(400, 2), QStringLiteral("20.00 ") + unit);
     row("HPrecisionTemp4 -25", orba::F_HPrecisionTemp4, le(quint16(-25), 2), QStringLiteral("-1.25 ") + unit);
-    row("HPrecisionTemp2 0x7FFF", orba::F_HPrecisionTemp2, le(0x7FFF, 2), QStringLiteral("1638.35 ") + unit);
     row("Power 12345 mV", orba::F_Power, le(12345, 2), QStringLiteral("12.35"));
-    row("Power 0", orba::F_Power, le(0, 2), QStringLiteral("0.00"));
-    row("StateU_Ain8 65535 mV", orba::F_StateU_Ain8, le(65535, 2), QStringLiteral("65.54"));
     row("Speed 60.25", orba::F_Speed, QByteArray::fromHex("00007142"), QStringLiteral("60.25"));
-    row("Run -1.5", orba::F_Run, QByteArray::fromHex("0000c0bf"), QStringLiteral("-1.50"));
-    row("Course 359", orba::F_Course, le(359, 2), QStringLiteral("359"));
     row("NumPage max", orba::F_NumPage, le(0xFFFFFFFF, 4), QStringLiteral("4294967295"));
-    row("Time", orba::F_Time, le(1700000000, 4), QStringLiteral("14.11.2023 22:13:20"));
-    row("MiliSec", orba::F_MiliSec, le(999, 2), QStringLiteral("999"));
     row("User8Byte1 max", orba::F_User8Byte1, le(~quint64(0), 8), QStringLiteral("18446744073709551615"));
-    row("TempRS485_1 -5", orba::F_TempRS485_1, le(0xFB, 1), QStringLiteral("-5 ") + unit);
     row("State bits", orba::F_State, le(0x9A, 1),
         QStringLiteral(
             "10011010 (AlarmMessage 1, Alarm 0, Guard 3, Evacuation 0, EnergySaving 0, AccelCalibr 1)"));
@@ -317,39 +265,21 @@ void tst_OrbaRecord::subValues()
     TmiPage_Orba3 page(buf.data(), buf.size());
 
     QCOMPARE(page.getLbsCellID(), quint32(1000));
-    QCOMPARE(page.getLbsLac_1(), quint16(201));
-    QCOMPARE(page.getLbsMnc_2(), quint16(3));
-    QCOMPARE(page.getLbsLevel_2(), quint8(42));
-    QCOMPARE(page.getLbsTime(), quint32(1700000000));
     QCOMPARE(page.getStrLbsTime(), QStringLiteral("14.11.2023 22:13:20"));
-    QCOMPARE(page.getTiresNum15(), quint8(15));
-    QCOMPARE(page.getTiresPres29(), quint8(129));
     QCOMPARE(page.getTiresTemp29(), qint8(-29));
-    QCOMPARE(page.getStrTiresTemp29(), QStringLiteral("-29"));
     QCOMPARE(page.getStrTiresTemp30(), QStringLiteral("n/a"));
     QCOMPARE(page.getStrTiresTemp1(), QStringLiteral("n/a")); // Tires1_2 absent
-    QCOMPARE(page.getLevelRS485_16(), quint16(65535));
-    QCOMPARE(page.getTempRS485_16(), qint8(-128));
     QCOMPARE(page.getStrTempRS485_16(), QStringLiteral("-128 ") + unit);
-    QCOMPARE(page.getPassager_15(), quint8(7));
     QCOMPARE(page.getPassager_16(), quint8(9));
-    QCOMPARE(page.getEcoDrivingAccel1(), quint8(0xA5));
     QCOMPARE(page.getEcoDriving_Accel_1(), quint8(1));
-    QCOMPARE(page.getEcoDriving_Accel_2(), quint8(0));
     QCOMPARE(page.getEcoDriving_Braking_2(), quint8(1));
-    QCOMPARE(page.getEcoDriving_Braking_4(), quint8(1));
     QCOMPARE(page.getEcoDriving_Left_4(), quint8(1));
-    QCOMPARE(page.getEcoDriving_Right_1(), quint8(0));
     QCOMPARE(page.getEcoDriving_Vertical_2(), quint8(1));
-    QCOMPARE(page.getEcoDriving_Vertical_3(), quint8(0));
-    QCOMPARE(page.getRefrEngineMode(), quint8(2));
     QCOMPARE(page.getRefrEngineTurns(), quint16(2000));
     QCOMPARE(page.getStateO9(), quint8(1));
-    QCOMPARE(page.getStateO10(), quint8(0));
     QCOMPARE(page.getStateO16(), quint8(1));
     QCOMPARE(page.getState_WiFi(), quint8(1));
     QCOMPARE(page.getCoordFixed(), quint8(1));
-    QCOMPARE(page.getState_Bluetooth(), quint8(0));
     QCOMPARE(page.getStrAlarm(), QStringLiteral("n/a")); // State absent
 }
 
@@ -361,8 +291,6 @@ void tst_OrbaRecord::dateTimeAndUtcOffset_data()
     // POSIX zone strings count west of Greenwich as positive.
     QTest::newRow("UTC") << QByteArray("UTC0") << QStringLiteral("14.11.2023 22:13:20")
                          << QStringLiteral("(UTC +0)");
-    QTest::newRow("+3") << QByteArray("MSK-3") << QStringLiteral("15.11.2023 1:13:20")
-                        << QStringLiteral("(UTC +3)");
     QTest::newRow("+5:30") << QByteArray("IST-5:30") << QStringLiteral("15.11.2023 3:43:20")
                            << QStringLiteral("(UTC +5:30)");
     QTest::newRow("-3:30") << QByteArray("NST3:30") << QStringLiteral("14.11.2023 18:43:20")
@@ -394,9 +322,7 @@ void tst_OrbaRecord::formatText()
     RecordBuilder b;
     b.setNumber(1, 1).setNumber(3, 3);
     TmiPage_Orba3 page(b.record());
-    QVERIFY(page.getStrFormatOrba3().startsWith(QStringLiteral("1010")));
-    QCOMPARE(page.getStrFormatOrba3().count(QLatin1Char('1')), 2);
-    QCOMPARE(page.getStrFormatOrba3().size(), 255);
+    QCOMPARE(page.getStrFormatOrba3(), QStringLiteral("101") + QString(252, QLatin1Char('0')));
 }
 
 void tst_OrbaRecord::otherKindDecodesNothing()
@@ -416,7 +342,7 @@ void tst_OrbaRecord::otherKindDecodesNothing()
 void tst_OrbaRecord::rawCopyIsLimited_data()
 {
     QTest::addColumn<int>("length");
-    for (int length : { 0, 1, 33, 34, 44, 511, 512, 513, 768, 2000 })
+    for (int length : { 0, 33, 34, 512, 513, 2000 })
         QTest::newRow(qPrintable(QString::number(length))) << length;
 }
 
@@ -436,24 +362,6 @@ void tst_OrbaRecord::rawCopyIsLimited()
     QCOMPARE(page.body(), record.mid(34));
     if (length >= 34 + 734)
         QCOMPARE(structureBytes(&page.currentTMI(), 734), QByteArray(734, '\xFF'));
-}
-
-void tst_OrbaRecord::constructorsFromStructures()
-{
-    RecordBuilder b;
-    for (int no = 1; no <= orba::kFieldCount; ++no)
-        b.setPattern(no);
-    TmiPage_Orba3 decoded(b.record());
-    TmiPage_Orba3 copy(decoded.currentTMI());
-    QCOMPARE(structureBytes(&copy.currentTMI(), 734), b.body());
-    QVERIFY(!copy.isUseParamNumPage()); // a bare structure carries no mask
-    TmiPage_Orba3 tagged(4, 5, QStringLiteral("saved"), decoded.currentTMI());
-    QCOMPARE(tagged.pageName(), QStringLiteral("saved"));
-    QCOMPARE(tagged.pageTag2(), 5);
-    QCOMPARE(tagged.getNumPage(), decoded.getNumPage());
-    TmiPage_Orba3 named(QStringLiteral("empty"), true);
-    QVERIFY(named.pageFlag());
-    QCOMPARE(structureBytes(&named.currentTMI(), 734), QByteArray(734, '\0'));
 }
 
 QTEST_GUILESS_MAIN(tst_OrbaRecord)
