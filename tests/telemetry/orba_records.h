@@ -68,13 +68,16 @@ public:
         r.append(char(orba::kVersionByte[version]));
         return r + mask() + body();
     }
-    // The all-fields structure a correct decoder fills: each set field at its place.
-    QByteArray expectedStructure(int version) const
+    // The all-fields structure a correct decoder fills from the record with cut bytes missing at
+    // its end: each field of the version at its place, from the body in field order.
+    QByteArray expectedStructure(int version, int cut = 0) const
     {
-        QByteArray s(orba::recordSize(version), '\0');
-        for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+        QByteArray s(orba::recordSize(version), '\0'), b = body();
+        b = b.left(b.size() - cut) + QByteArray(cut, '\0');
+        int at = 0;
+        for (auto it = m_values.begin(); it != m_values.end(); at += it.value().size(), ++it) {
             if (it.key() <= orba::kLastField[version])
-                s.replace(orba::kOffsets[it.key()], it.value().size(), it.value());
+                s.replace(orba::kOffsets[it.key()], it.value().size(), b.mid(at, it.value().size()));
         }
         return s;
     }
