@@ -86,6 +86,27 @@ private:
     QMap<int, QByteArray> m_values; // ordered by field number, as the record is
 };
 
+// An extended record laid out as the terminal writes it: kind, DataSize, the visible part with its
+// version (1) and size, the hidden part with its version (2) and size, the dynamic data. NumPage
+// 12, Code 0x0102, Time 1700000000, StateNGauge 3, LastTime 1699999990, Latitude 33456789,
+// Longitude -22200001, Altitude -15, Speed 12.5, Course 270, Run -1.5; State 0x99 (TypeWork 1,
+// Guard 3, AccelCalibr 1), StateOut1 0x81, StateIn_Imp1 100000, StateIn_Imp2 7, Motochas 3600.
+inline QByteArray extRecord(const QByteArray& dynamic = {})
+{
+    const QByteArray after = QByteArray::fromHex("0125" // visible part
+                                                 "0c000000020100f1536503f6f053659582fe013f41adfe"
+                                                 "f1ffffff000048410e010000c0bf"
+                                                 "020e" // hidden part
+                                                 "9981a086010007000000100e0000")
+        + dynamic;
+    return QByteArray(1, char(orba::kKindExtended)) + le(after.size(), 2) + after;
+}
+
+inline QByteArray item(int type, int size, const QByteArray& value)
+{
+    return QByteArray(1, char(type)) + QByteArray(1, char(size)) + value;
+}
+
 // An exactly sized heap copy, so that a sanitizer sees any read past the end.
 struct ExactBuffer
 {

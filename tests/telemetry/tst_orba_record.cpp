@@ -199,7 +199,6 @@ private slots:
         b.set(orba::F_RS485_16, QByteArray::fromHex("ffff80"));
         b.set(orba::F_EcoDrivingAccel, QByteArray::fromHex("a50f03"));
         b.set(orba::F_RefrEngine, QByteArray::fromHex("02d007"));
-        b.setNumber(orba::F_Out2, 0x81);
         b.setNumber(orba::F_Module2, 0x48);
         const ExactBuffer buf(b.record());
         TmiPage_Orba3 page(buf.data(), buf.size());
@@ -209,10 +208,7 @@ private slots:
         QCOMPARE(page.getStrTiresTemp30(), QStringLiteral("n/a"));
         QCOMPARE(page.getStrTempRS485_16(), QStringLiteral("-128 ") + unit);
         QCOMPARE(page.getEcoDriving_Accel_1(), quint8(1));
-        QCOMPARE(page.getEcoDriving_Vertical_2(), quint8(1));
         QCOMPARE(page.getRefrEngineTurns(), quint16(2000));
-        QCOMPARE(page.getStateO16(), quint8(1));
-        QCOMPARE(page.getState_WiFi(), quint8(1));
         QCOMPARE(page.getCoordFixed(), quint8(1));
         QCOMPARE(page.getStrAlarm(), QStringLiteral("n/a")); // State absent
     }

@@ -47,15 +47,9 @@ QByteArray sampleRecord(int version)
     return b.record(version);
 }
 
-QByteArray extRecord()
+QByteArray extRecordWithItems()
 {
-    QByteArray visible = le(99, 4) + le(1, 2) + le(1700000000, 4) + QByteArray(5, '\0') + le(33456789, 4)
-        + QByteArray(8, '\0') + QByteArray::fromHex("00004841") + le(90, 2) + le(0, 4);
-    QByteArray hidden = le(0x01, 1) + le(0x80, 1) + le(5, 4) + le(6, 4) + le(7, 4);
-    QByteArray dynamic
-        = QByteArray("\x01\x08", 2) + le(42, 8) + QByteArray("\x02\x10LOG,1\"", 8) + QByteArray(10, '\0');
-    QByteArray after = QByteArray("\x01\x25", 2) + visible + QByteArray("\x02\x0e", 2) + hidden + dynamic;
-    return QByteArray(1, char(0xB1)) + le(after.size(), 2) + after;
+    return extRecord(item(1, 8, le(42, 8)) + item(2, 16, QByteArray("LOG,1\"") + QByteArray(10, '\0')));
 }
 
 } // namespace
@@ -67,7 +61,7 @@ private slots:
     void records_data()
     {
         QTest::addColumn<QByteArray>("record");
-        QTest::addColumn<QString>("source"); // hex, file or stdin
+        QTest::addColumn<QString>("source"); // hex or file
         QTest::addColumn<QStringList>("expected"); // "path=text" (fields/0 is field 1)
         for (int v : { 1, 2, 3 }) {
             const int last = orba::kLastField[v];
@@ -81,8 +75,6 @@ private slots:
                        "format=" + format, "fields/0/value=4242", "fields/1/present=false",
                        "fields/1/text=n/a", "fields/9/text=55 45.6789'" };
         }
-        QTest::newRow("version 3 on standard input") << sampleRecord(
-            3) << QStringLiteral("stdin") << QStringList { "page=TmiPage_Orba3", "fields/0/value=4242" };
         QByteArray packet(128, '\0');
         packet[0] = char(0x08);
         packet.replace(1, 4, le(7, 4));
@@ -92,9 +84,9 @@ private slots:
             << QStringList { "kind=8", "page=TmiPage_Orba1", "fields/0/value=7", "fields/5/text=n/a",
                    "fields/9/text=55 45.6789'" };
         QTest::newRow("extended record")
-            << extRecord() << QStringLiteral("hex")
-            << QStringList { "kind=177", "page=TmiPage_Orba3", "head/NumberTmiPage=99",
-                   "head/Latitude=33456789", "head/Speed=12.5", "head/Motochas=7", "dynamicSize=28",
+            << extRecordWithItems() << QStringLiteral("hex")
+            << QStringList { "kind=177", "page=TmiPage_Orba3", "head/NumberTmiPage=12",
+                   "head/Latitude=33456789", "head/Speed=12.5", "head/Motochas=3600", "dynamicSize=28",
                    "dynamic=2", "dynamic/0/value=42", "dynamic/1/value=LOG,1\"" };
     }
 
@@ -109,8 +101,7 @@ private slots:
         f.close();
         const auto r = source == QLatin1String("hex")
             ? decode({ QStringLiteral("--hex"), QString::fromLatin1(record.toHex()) })
-            : source == QLatin1String("file") ? decode({ f.fileName() })
-                                              : decode({}, record.toHex() + "\n");
+            : decode({ f.fileName() });
         QCOMPARE(r.code, 0);
         QCOMPARE(lines(r.out).size(), 1);
         for (const QString& e : expected) {
@@ -144,8 +135,8 @@ private slots:
 
     void csv()
     {
-        const auto r = decode(
-            { QStringLiteral("--csv") }, sampleRecord(1).toHex() + "\n" + extRecord().toHex() + "\nff\n");
+        const auto r = decode({ QStringLiteral("--csv") },
+            sampleRecord(1).toHex() + "\n" + extRecordWithItems().toHex() + "\nff\n");
         QCOMPARE(r.code, 0);
         const QList<QByteArray> l = lines(r.out);
         QCOMPARE(l.size(), 4);
@@ -155,7 +146,7 @@ private slots:
         QVERIFY(l[1].startsWith("176,10,"));
         QVERIFY(l[1].contains(",4242,"));
         QVERIFY(l[1].contains(",55 45.6789',"));
-        QVERIFY(l[2].contains(",TmiPage_Orba3,,99,1,14.11.2023 22:13:20,"));
+        QVERIFY(l[2].contains(",TmiPage_Orba3,,12,258,14.11.2023 22:13:20,"));
         QCOMPARE(l[3], QByteArray("255,,1,unknown,") + QByteArray(255, ','));
     }
 
