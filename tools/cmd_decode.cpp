@@ -219,21 +219,24 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
     QString language = QStringLiteral("ru");
     for (int i = 0; i < args.size(); ++i) {
         const QString& a = args[i];
+        // The value after an option; false (and the error said) when there is none.
+        const auto value = [&](QString& into, const char* needs) {
+            if (i + 1 >= args.size()) {
+                err << "zrk-tool " << name << ": " << a << " needs " << needs << "\n";
+                return false;
+            }
+            into = args[++i];
+            return true;
+        };
         if (a == QLatin1String("--csv")) {
             csv = true;
         } else if (a == QLatin1String("--hex")) {
-            if (i + 1 >= args.size()) {
-                err << "zrk-tool " << name << ": --hex needs a hex string\n";
+            if (!value(hex, "a hex string"))
                 return 2;
-            }
-            hex = args[++i];
             haveHex = true;
         } else if (a == QLatin1String("--lang")) {
-            if (i + 1 >= args.size()) {
-                err << "zrk-tool " << name << ": --lang needs ru or en\n";
+            if (!value(language, "ru or en"))
                 return 2;
-            }
-            language = args[++i];
         } else if (a.startsWith(QLatin1String("--"))) {
             err << "zrk-tool " << name << ": unknown option '" << a << "'\n";
             return 2;
