@@ -126,6 +126,7 @@ private slots:
             TmiPage_Orba3 reused(RecordBuilder().setPattern(2).setPattern(200).record());
             reused.setNewTMI(buf.data(), buf.size());
             QCOMPARE(structureBytes(&reused.currentTMI(), 734), b.expectedStructure(3, cut));
+            QCOMPARE(reused.getStrFormatOrba3(), format);
         }
     }
 
