@@ -6,6 +6,8 @@
 
 #include <QTextStream>
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 
 inline void readEverything(const OrbaPage& page)
@@ -28,4 +30,17 @@ inline void readExtended(const szExtTMI_ORBA3& ext)
     QString xml;
     QTextStream s(&xml);
     orba::writeXmlPageExt(s, ext);
+}
+
+// A received buffer of any bytes given to a version-2 or version-3 page, and to its decoder
+// directly with the mask the page kept.
+template <class Page> int fuzzCurrentOrExtPage(const uint8_t* data, size_t size)
+{
+    const int len = int(std::min<size_t>(size, 1 << 16));
+    Page page(data, len);
+    readEverything(page);
+    readExtended(page.extTMI());
+    page.setCurrentTMI(data, len);
+    readEverything(page);
+    return 0;
 }

@@ -15,6 +15,18 @@ namespace orba {
 
 namespace {
 
+// Size bytes (sizeof(T) to 2 * sizeof(T)) as two overlapping fixed-size moves.
+template <class T>
+__attribute__((always_inline)) inline void copyOverlapping(
+    unsigned char* to, const unsigned char* from, int size)
+{
+    T a, b;
+    std::memcpy(&a, from, sizeof a);
+    std::memcpy(&b, from + size - int(sizeof b), sizeof b);
+    std::memcpy(to, &a, sizeof a);
+    std::memcpy(to + size - int(sizeof b), &b, sizeof b);
+}
+
 // An exact copy of size bytes; short ones as two overlapping fixed-size moves, which the compiler
 // inlines, since most runs of a sparse field set are a few bytes long.
 __attribute__((always_inline)) inline void copyBytes(unsigned char* to, const unsigned char* from, int size)
@@ -22,23 +34,11 @@ __attribute__((always_inline)) inline void copyBytes(unsigned char* to, const un
     if (size >= 16) {
         std::memcpy(to, from, size_t(size));
     } else if (size >= 8) {
-        quint64 a, b;
-        std::memcpy(&a, from, 8);
-        std::memcpy(&b, from + size - 8, 8);
-        std::memcpy(to, &a, 8);
-        std::memcpy(to + size - 8, &b, 8);
+        copyOverlapping<quint64>(to, from, size);
     } else if (size >= 4) {
-        quint32 a, b;
-        std::memcpy(&a, from, 4);
-        std::memcpy(&b, from + size - 4, 4);
-        std::memcpy(to, &a, 4);
-        std::memcpy(to + size - 4, &b, 4);
+        copyOverlapping<quint32>(to, from, size);
     } else if (size >= 2) {
-        quint16 a, b;
-        std::memcpy(&a, from, 2);
-        std::memcpy(&b, from + size - 2, 2);
-        std::memcpy(to, &a, 2);
-        std::memcpy(to + size - 2, &b, 2);
+        copyOverlapping<quint16>(to, from, size);
     } else if (size == 1) {
         *to = *from;
     }

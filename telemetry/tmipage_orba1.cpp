@@ -88,7 +88,7 @@ static_assert(fixedPacketIsConsistent(), "the fixed packet's fields fill its 128
 } // namespace
 
 TmiPage_Orba1::TmiPage_Orba1(const unsigned char* buf, int len, QObject* parent)
-    : OrbaPage(reinterpret_cast<unsigned char*>(&m_tmi), 1, parent)
+    : PageOf(parent)
 {
     keepBody(buf, len);
     if (buf && len > 0 && buf[0] == orba::kKindFixedPacket) {
@@ -103,26 +103,6 @@ TmiPage_Orba1::TmiPage_Orba1(const unsigned char* buf, int len, QObject* parent)
 TmiPage_Orba1::TmiPage_Orba1(const QByteArray& buf, QObject* parent)
     : TmiPage_Orba1(reinterpret_cast<const unsigned char*>(buf.constData()), buf.size(), parent)
 {
-}
-
-TmiPage_Orba1::TmiPage_Orba1(const szCurrentTMI_ORBA1& record, QObject* parent)
-    : OrbaPage(reinterpret_cast<unsigned char*>(&m_tmi), 1, parent)
-{
-    setRecordFrom(&record);
-}
-
-TmiPage_Orba1::TmiPage_Orba1(const QString& name, bool flag, QObject* parent)
-    : OrbaPage(reinterpret_cast<unsigned char*>(&m_tmi), 1, parent)
-{
-    setViewTags(name, flag, 0, 0);
-}
-
-TmiPage_Orba1::TmiPage_Orba1(
-    int tag1, int tag2, const QString& name, const szCurrentTMI_ORBA1& record, QObject* parent)
-    : OrbaPage(reinterpret_cast<unsigned char*>(&m_tmi), 1, parent)
-{
-    setViewTags(name, false, tag1, tag2);
-    setRecordFrom(&record);
 }
 
 void TmiPage_Orba1::setNewTMI(const unsigned char* buf, int len)
@@ -146,8 +126,8 @@ void TmiPage_Orba1::setCurrentTMI_From_F8(const unsigned char* packet, int len)
     if (packet && len > 0)
         std::memcpy(area, packet, size_t(std::min(len, orba::kFixedPacketBytes)));
     std::memcpy(headForWriting(), kFixedPacketHead, sizeof kFixedPacketHead);
-    std::memset(&m_tmi, 0, sizeof m_tmi);
-    unsigned char* rec = reinterpret_cast<unsigned char*>(&m_tmi);
+    recordForWriting() = {};
+    unsigned char* rec = reinterpret_cast<unsigned char*>(&recordForWriting());
     int at = 1;
     for (int no : kFixedPacketFields) {
         const int width = orba::kFields[no - 1].width;

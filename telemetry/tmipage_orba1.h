@@ -1,22 +1,18 @@
 #pragma once
 
-#include "telemetry/orba_page.h"
+#include "telemetry/orba_page_of.h"
 
 // One decoded record of ORBA version 1: a current record (kind 0xB0) by its own field mask, or
 // the fixed 128-byte packet (kind 0x08) with its fixed field set.
-class TmiPage_Orba1 : public OrbaPage
+class TmiPage_Orba1 : public orba::PageOf<1>
 {
     Q_OBJECT
 public:
+    using PageOf::PageOf;
+
     // A received buffer, kind byte first. A fixed packet also gets the record body it stands for.
     TmiPage_Orba1(const unsigned char* buf, int len, QObject* parent = nullptr);
     explicit TmiPage_Orba1(const QByteArray& buf, QObject* parent = nullptr);
-    // A filled record (nothing is marked present: the page has no mask).
-    explicit TmiPage_Orba1(const szCurrentTMI_ORBA1& record, QObject* parent = nullptr);
-    // Empty pages the telemetry view names and marks.
-    TmiPage_Orba1(const QString& name, bool flag, QObject* parent = nullptr);
-    TmiPage_Orba1(
-        int tag1, int tag2, const QString& name, const szCurrentTMI_ORBA1& record, QObject* parent = nullptr);
 
     // Decodes buf anew: 0xB0 a current record, 0x08 a fixed packet, anything else nothing.
     void setNewTMI(const unsigned char* buf, int len);
@@ -30,12 +26,8 @@ public:
     // page decodes to the same fields.
     QByteArray currentRecordBuffer() const;
 
-    const szCurrentTMI_ORBA1& currentTMI() const { return m_tmi; }
     QString getStrFormatOrba1() const { return formatText(); }
 
 #define ORBA_PAGE_VERSION 1
 #include "telemetry/orba_accessors.inc"
-
-private:
-    szCurrentTMI_ORBA1 m_tmi = {};
 };

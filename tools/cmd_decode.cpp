@@ -8,6 +8,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <cstdio>
@@ -28,28 +29,16 @@ QString jsonString(const QString& s)
     out.reserve(s.size() + 2);
     out += QLatin1Char('"');
     for (const QChar c : s) {
-        switch (c.unicode()) {
-        case '"':
-            out += QLatin1String("\\\"");
-            break;
-        case '\\':
-            out += QLatin1String("\\\\");
-            break;
-        case '\n':
-            out += QLatin1String("\\n");
-            break;
-        case '\r':
-            out += QLatin1String("\\r");
-            break;
-        case '\t':
-            out += QLatin1String("\\t");
-            break;
-        default:
-            if (c.unicode() < 0x20)
-                out += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-            else
-                out += c;
-        }
+        static const char* const kEscapes[][2]
+            = { { "\"", "\\\"" }, { "\\", "\\\\" }, { "\n", "\\n" }, { "\r", "\\r" }, { "\t", "\\t" } };
+        const auto escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+            [c](const auto& e) { return c == QLatin1Char(e[0][0]); });
+        if (escape != std::end(kEscapes))
+            out += QLatin1String((*escape)[1]);
+        else if (c.unicode() < 0x20)
+            out += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+        else
+            out += c;
     }
     out += QLatin1Char('"');
     return out;
@@ -230,21 +219,24 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
     QString language = QStringLiteral("ru");
     for (int i = 0; i < args.size(); ++i) {
         const QString& a = args[i];
+        // The value after an option; false (and the error said) when there is none.
+        const auto value = [&](QString& into, const char* needs) {
+            if (i + 1 >= args.size()) {
+                err << "zrk-tool " << name << ": " << a << " needs " << needs << "\n";
+                return false;
+            }
+            into = args[++i];
+            return true;
+        };
         if (a == QLatin1String("--csv")) {
             csv = true;
         } else if (a == QLatin1String("--hex")) {
-            if (i + 1 >= args.size()) {
-                err << "zrk-tool " << name << ": --hex needs a hex string\n";
+            if (!value(hex, "a hex string"))
                 return 2;
-            }
-            hex = args[++i];
             haveHex = true;
         } else if (a == QLatin1String("--lang")) {
-            if (i + 1 >= args.size()) {
-                err << "zrk-tool " << name << ": --lang needs ru or en\n";
+            if (!value(language, "ru or en"))
                 return 2;
-            }
-            language = args[++i];
         } else if (a.startsWith(QLatin1String("--"))) {
             err << "zrk-tool " << name << ": unknown option '" << a << "'\n";
             return 2;

@@ -68,13 +68,16 @@ public:
         r.append(char(orba::kVersionByte[version]));
         return r + mask() + body();
     }
-    // The all-fields structure a correct decoder fills: each set field at its place.
-    QByteArray expectedStructure(int version) const
+    // The all-fields structure a correct decoder fills from the record with cut bytes missing at
+    // its end: each field of the version at its place, from the body in field order.
+    QByteArray expectedStructure(int version, int cut = 0) const
     {
-        QByteArray s(orba::recordSize(version), '\0');
-        for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+        QByteArray s(orba::recordSize(version), '\0'), b = body();
+        b = b.left(b.size() - cut) + QByteArray(cut, '\0');
+        int at = 0;
+        for (auto it = m_values.begin(); it != m_values.end(); at += it.value().size(), ++it) {
             if (it.key() <= orba::kLastField[version])
-                s.replace(orba::kOffsets[it.key()], it.value().size(), it.value());
+                s.replace(orba::kOffsets[it.key()], it.value().size(), b.mid(at, it.value().size()));
         }
         return s;
     }
@@ -82,6 +85,27 @@ public:
 private:
     QMap<int, QByteArray> m_values; // ordered by field number, as the record is
 };
+
+// An extended record laid out as the terminal writes it: kind, DataSize, the visible part with its
+// version (1) and size, the hidden part with its version (2) and size, the dynamic data. NumPage
+// 12, Code 0x0102, Time 1700000000, StateNGauge 3, LastTime 1699999990, Latitude 33456789,
+// Longitude -22200001, Altitude -15, Speed 12.5, Course 270, Run -1.5; State 0x99 (TypeWork 1,
+// Guard 3, AccelCalibr 1), StateOut1 0x81, StateIn_Imp1 100000, StateIn_Imp2 7, Motochas 3600.
+inline QByteArray extRecord(const QByteArray& dynamic = {})
+{
+    const QByteArray after = QByteArray::fromHex("0125" // visible part
+                                                 "0c000000020100f1536503f6f053659582fe013f41adfe"
+                                                 "f1ffffff000048410e010000c0bf"
+                                                 "020e" // hidden part
+                                                 "9981a086010007000000100e0000")
+        + dynamic;
+    return QByteArray(1, char(orba::kKindExtended)) + le(after.size(), 2) + after;
+}
+
+inline QByteArray item(int type, int size, const QByteArray& value)
+{
+    return QByteArray(1, char(type)) + QByteArray(1, char(size)) + value;
+}
 
 // An exactly sized heap copy, so that a sanitizer sees any read past the end.
 struct ExactBuffer

@@ -10,269 +10,130 @@
 
 using namespace orbatest;
 
+// A fixed packet: NumPage 7, Temp4 -40, Latitude -33456789, CanEngineTime 0xA1B2C3D4 and
+// CanSpeed 88 at their packet offsets after the kind byte.
+static QByteArray makeFixedPacket()
+{
+    QByteArray p(128, '\0');
+    p[0] = char(orba::kKindFixedPacket);
+    p.replace(1, 4, le(7, 4));
+    p[59] = char(-40);
+    p.replace(65, 4, le(quint32(-33456789), 4));
+    p.replace(121, 4, le(0xA1B2C3D4, 4));
+    p[127] = char(88);
+    return p;
+}
+
 class tst_OrbaVersions : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void lowerVersionIgnoresHigherBits_data();
-    void lowerVersionIgnoresHigherBits();
-    void sameRecordSameValuesInEveryVersion();
-    void version1RefusesExtendedRecord();
-    void version2AcceptsExtendedRecord();
-    void fixedPacket_data();
-    void fixedPacket();
-    void fixedPacketBecomesRecordBody();
-    void chooseForm_data();
-    void chooseForm();
-    void buildPage_data();
-    void buildPage();
-};
-
-void tst_OrbaVersions::initTestCase()
-{
-    qputenv("TZ", "UTC0");
-    tzset();
-}
-
-void tst_OrbaVersions::lowerVersionIgnoresHigherBits_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::addColumn<int>("highest"); // the highest field the record carries
-    QTest::newRow("version 1, bit 70") << 1 << 70;
-    QTest::newRow("version 1, all bits") << 1 << 255;
-    QTest::newRow("version 2, bit 123") << 2 << 123;
-    QTest::newRow("version 2, all bits") << 2 << 255;
-    QTest::newRow("version 3, all bits") << 3 << 255;
-}
-
-// Fields up to the version's last are decoded; the body after them is left unread and the mask
-// bits above them read as absent.
-void tst_OrbaVersions::lowerVersionIgnoresHigherBits()
-{
-    QFETCH(int, version);
-    QFETCH(int, highest);
-    RecordBuilder b;
-    for (int no = 1; no <= highest; ++no)
-        b.setPattern(no);
-    const ExactBuffer buf(b.record(version));
-    const int last = orba::kLastField[version];
-    std::unique_ptr<OrbaPage> page;
-    if (version == 1)
-        page = std::make_unique<TmiPage_Orba1>(buf.data(), buf.size());
-    else if (version == 2)
-        page = std::make_unique<TmiPage_Orba2>(buf.data(), buf.size());
-    else
-        page = std::make_unique<TmiPage_Orba3>(buf.data(), buf.size());
-    QCOMPARE(page->lastField(), last);
-    QCOMPARE(structureBytes(page->recordBytes(), orba::recordSize(version)), b.expectedStructure(version));
-    QCOMPARE(structureBytes(page->recordBytes(), orba::recordSize(version)),
-        b.body().left(orba::recordSize(version)));
-    QCOMPARE(page->formatText(), QString(last, QLatin1Char('1')));
-    QVERIFY(page->isUsed(last));
-    QVERIFY(!page->isUsed(last + 1));
-    QCOMPARE(page->fieldText(last + 1), QStringLiteral("n/a"));
-}
-
-void tst_OrbaVersions::sameRecordSameValuesInEveryVersion()
-{
-    RecordBuilder b;
-    b.setNumber(orba::F_NumPage, 77).setNumber(orba::F_Latitude, 33456789).setNumber(orba::F_CanSpeed, 90);
-    b.setNumber(orba::F_Camera, 3).setNumber(orba::F_User8Byte3, 0x0102030405060708ULL);
-    const QByteArray record = b.record();
-    TmiPage_Orba1 v1(record);
-    TmiPage_Orba2 v2(record);
-    TmiPage_Orba3 v3(record);
-    QCOMPARE(v1.getStrLatitude(), QStringLiteral("55 45.6789'"));
-    QCOMPARE(v2.getStrLatitude(), v1.getStrLatitude());
-    QCOMPARE(v3.getStrLatitude(), v1.getStrLatitude());
-    QCOMPARE(v1.getCanSpeed(), quint8(90));
-    QCOMPARE(v2.getCamera(), quint8(3));
-    QCOMPARE(v3.getCamera(), quint8(3));
-    QCOMPARE(v3.getUser8Byte3(), quint64(0x0102030405060708ULL));
-    QCOMPARE(v1.getStrFormatOrba1().size(), 69);
-    QCOMPARE(v2.getStrFormatOrba2().size(), 122);
-    QCOMPARE(v2.getStrFormatOrba2(), v3.getStrFormatOrba3().left(122));
-}
-
-void tst_OrbaVersions::version1RefusesExtendedRecord()
-{
-    QByteArray ext(60, '\x11');
-    ext[0] = char(orba::kKindExtended);
-    const ExactBuffer buf(ext);
-    TmiPage_Orba1 page(buf.data(), buf.size());
-    QCOMPARE(structureBytes(&page.currentTMI(), 146), QByteArray(146, '\0'));
-    QCOMPARE(page.isExtended(), 0);
-}
-
-void tst_OrbaVersions::version2AcceptsExtendedRecord()
-{
-    QByteArray ext(58, '\0');
-    ext[0] = char(orba::kKindExtended);
-    ext[1] = char(55); // DataSize: the head after its first 3 bytes, no dynamic data
-    ext[4] = char(37);
-    ext[43] = char(14);
-    ext.replace(20, 4, le(33456789, 4));
-    TmiPage_Orba2 page(ext);
-    QCOMPARE(page.isExtended(), 1);
-    QCOMPARE(page.getStrLatitude_Ext(), QStringLiteral("55 45.6789'"));
-    QCOMPARE(page.getDynamicDataSize_Ext(), quint16(0));
-    QCOMPARE(page.body(), ext.mid(1));
-}
-
-// Values at the packet offsets, in packet order after the kind byte.
-static QByteArray makeFixedPacket(quint32 numPage, qint32 latitude, qint8 temp4, quint8 canSpeed)
-{
-    QByteArray p(128, '\0');
-    p[0] = char(orba::kKindFixedPacket);
-    p.replace(1, 4, le(numPage, 4));
-    p.replace(5, 2, le(0x1234, 2)); // Code
-    p[13] = char(0x1F); // GSM
-    p[14] = char(0x05); // Out1
-    p.replace(16, 2, le(12345, 2)); // Power
-    p[59] = char(temp4);
-    p[60] = char(0x02); // StateNGauge
-    p.replace(65, 4, le(quint32(latitude), 4));
-    p.replace(121, 4, le(0xA1B2C3D4, 4)); // CanEngineTime
-    p[127] = char(canSpeed);
-    return p;
-}
-
-void tst_OrbaVersions::fixedPacket_data()
-{
-    QTest::addColumn<int>("length");
-    QTest::newRow("full") << 128;
-    QTest::newRow("longer than 128") << 200;
-    QTest::newRow("without the last byte") << 127;
-    QTest::newRow("cut inside Latitude") << 67;
-    QTest::newRow("kind byte only") << 1;
-}
-
-void tst_OrbaVersions::fixedPacket()
-{
-    QFETCH(int, length);
-    QByteArray packet = makeFixedPacket(7, -33456789, -40, 88);
-    packet = length > 128 ? packet + QByteArray(length - 128, '\x77') : packet.left(length);
-    const ExactBuffer buf(packet);
-    TmiPage_Orba1 page(buf.data(), buf.size());
-    QByteArray padded = packet.left(128);
-    padded.append(QByteArray(128 - padded.size(), '\0'));
-    auto at = [&](int offset, int width) {
-        return orba::readLE(reinterpret_cast<const uchar*>(padded.constData()) + offset, width);
-    };
-    QCOMPARE(page.getNumPage(), quint32(at(1, 4)));
-    QCOMPARE(page.getCode(), quint16(at(5, 2)));
-    QCOMPARE(page.getGSM(), quint8(at(13, 1)));
-    QCOMPARE(page.getOut1(), quint8(at(14, 1)));
-    QCOMPARE(page.getPower(), quint16(at(16, 2)));
-    QCOMPARE(page.getTemp4(), qint8(at(59, 1)));
-    QCOMPARE(page.getStateNGauge(), quint8(at(60, 1)));
-    QCOMPARE(page.getLatitude(), qint32(at(65, 4)));
-    QCOMPARE(page.getCanEngineTime(), quint32(at(121, 4)));
-    QCOMPARE(page.getCanSpeed(), quint8(at(127, 1)));
-    if (length >= 128) {
-        QCOMPARE(page.getNumPage(), quint32(7));
-        QCOMPARE(page.getStrLatitude(), QStringLiteral("-55 -45.6789'"));
-        QCOMPARE(page.getStrTemp4(), QStringLiteral("-40 ") + qtTrId("abbr_017"));
-        QCOMPARE(page.getStrPower(), QStringLiteral("12.35"));
-        QCOMPARE(page.getCanSpeed(), quint8(88));
+    void initTestCase()
+    {
+        qputenv("TZ", "UTC0");
+        tzset();
     }
-    if (length == 67)
-        QCOMPARE(page.getLatitude() & ~0xFFFF, 0); // the two missing bytes read as zero
-    QVERIFY(page.isUseParamNumPage());
-    QVERIFY(!page.isUseParamModule2());
-    QCOMPARE(page.getStrModule2(), QStringLiteral("n/a"));
-    QVERIFY(!page.isUseParamIn2());
-    QVERIFY(!page.isUseParamStateU_Ain4());
-    QVERIFY(!page.isUseParamCanLevelFiltr());
-    QVERIFY(page.isUseParamCanSpeed());
-    QCOMPARE(page.getStrFormatOrba1(),
-        QStringLiteral("111110111111111111111110000010101111111111111111000011111111111110111"));
-    QCOMPARE(structureBytes(page.headBytes(), 11), QByteArray::fromHex("b00afbfffe0affff0fffb8"));
-    QCOMPARE(page.rawLength(), length);
-}
 
-// The body the page builds from a fixed packet is a version-1 record body: decoded by another page
-// it gives the same fields.
-void tst_OrbaVersions::fixedPacketBecomesRecordBody()
-{
-    QByteArray packet(128, '\0');
-    for (int i = 1; i < 128; ++i)
-        packet[i] = char(i * 3 + 1);
-    packet[0] = char(orba::kKindFixedPacket);
-    TmiPage_Orba1 fromPacket(packet);
-    QCOMPARE(fromPacket.body().size(), 127);
-    QCOMPARE(fromPacket.currentRecordBuffer().mid(34), fromPacket.body());
-    TmiPage_Orba1 fromRecord(fromPacket.currentRecordBuffer());
-    QCOMPARE(structureBytes(&fromRecord.currentTMI(), 146), structureBytes(&fromPacket.currentTMI(), 146));
-    QCOMPARE(fromRecord.getStrFormatOrba1(), fromPacket.getStrFormatOrba1());
-    for (int no = 1; no <= 69; ++no)
-        QCOMPARE(fromRecord.fieldText(no), fromPacket.fieldText(no));
-    // The packet's values in packet order are the body: the fields are in field order there.
-    QCOMPARE(fromPacket.getNumPage(),
-        quint32(orba::readLE(reinterpret_cast<const uchar*>(packet.constData()) + 1, 4)));
-    QCOMPARE(fromPacket.body().left(4), packet.mid(1, 4));
-}
+    void version2AcceptsExtendedRecord()
+    {
+        const QByteArray ext = extRecord();
+        TmiPage_Orba2 page(ext);
+        QCOMPARE(page.isExtended(), 1);
+        QCOMPARE(page.getStrLatitude_Ext(), QStringLiteral("55 45.6789'"));
+        QCOMPARE(page.body(), ext.mid(1));
+    }
 
-void tst_OrbaVersions::chooseForm_data()
-{
-    QTest::addColumn<QByteArray>("buffer");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<bool>("showUnknown");
-    QTest::addColumn<int>("form");
-    using F = orba::Form;
-    QTest::newRow("empty") << QByteArray() << 0 << true << int(F::Dropped);
-    QTest::newRow("kind byte only") << QByteArray("\xB0", 1) << 0 << true << int(F::Dropped);
-    QTest::newRow("extended, kind and one byte")
-        << QByteArray("\xB1\x00", 2) << 0 << false << int(F::Extended);
-    QTest::newRow("version 2") << QByteArray("\xB0\x14", 2) << 0 << false << int(F::Orba2);
-    QTest::newRow("version 1") << QByteArray("\xB0\x0A", 2) << 0 << false << int(F::Orba1);
-    QTest::newRow("version 3") << QByteArray("\xB0\x1E", 2) << 0 << false << int(F::Orba3);
-    QTest::newRow("version 3, mode 1") << QByteArray("\xB0\x1E", 2) << 1 << false << int(F::Orba3Production);
-    QTest::newRow("version 3, mode 2") << QByteArray("\xB0\x1E", 2) << 2 << false << int(F::Orba3Production);
-    QTest::newRow("version 3, mode 5") << QByteArray("\xB0\x1E", 2) << 5 << false << int(F::Orba3);
-    QTest::newRow("version 40 shown") << QByteArray("\xB0\x28", 2) << 0 << true << int(F::Unknown);
-    QTest::newRow("version 40 dropped") << QByteArray("\xB0\x28", 2) << 0 << false << int(F::Dropped);
-    QTest::newRow("fixed packet kind shown") << QByteArray("\x08\x0A", 2) << 0 << true << int(F::Unknown);
-    QTest::newRow("kind 0 dropped") << QByteArray(40, '\0') << 0 << false << int(F::Dropped);
-}
+    void fixedPacket_data()
+    {
+        QTest::addColumn<int>("length");
+        QTest::newRow("full") << 128;
+        QTest::newRow("cut inside Latitude") << 67;
+        QTest::newRow("kind byte only") << 1;
+    }
 
-void tst_OrbaVersions::chooseForm()
-{
-    QFETCH(QByteArray, buffer);
-    QFETCH(int, mode);
-    QFETCH(bool, showUnknown);
-    QFETCH(int, form);
-    const ExactBuffer buf(buffer);
-    QCOMPARE(int(orba::chooseForm(buf.data(), buf.size(), mode, showUnknown)), form);
-}
+    void fixedPacket()
+    {
+        QFETCH(int, length);
+        const QByteArray packet = makeFixedPacket().left(length);
+        const ExactBuffer buf(packet);
+        TmiPage_Orba1 page(buf.data(), buf.size());
+        QByteArray padded = packet.left(128);
+        padded.append(QByteArray(128 - padded.size(), '\0'));
+        auto at = [&](int offset, int width) {
+            return orba::readLE(reinterpret_cast<const uchar*>(padded.constData()) + offset, width);
+        };
+        QCOMPARE(page.getNumPage(), quint32(at(1, 4)));
+        QCOMPARE(page.getTemp4(), qint8(at(59, 1)));
+        QCOMPARE(page.getLatitude(), qint32(at(65, 4)));
+        QCOMPARE(page.getCanEngineTime(), quint32(at(121, 4)));
+        QCOMPARE(page.getCanSpeed(), quint8(at(127, 1)));
+        if (length == 128)
+            QCOMPARE(page.getNumPage(), quint32(7));
+        if (length == 67)
+            QCOMPARE(page.getLatitude() & ~0xFFFF, 0); // the two missing bytes read as zero
+        QVERIFY(!page.isUseParamModule2());
+        QCOMPARE(page.getStrModule2(), QStringLiteral("n/a"));
+        QCOMPARE(page.getStrFormatOrba1(),
+            QStringLiteral("111110111111111111111110000010101111111111111111000011111111111110111"));
+        QCOMPARE(structureBytes(page.headBytes(), 11), QByteArray::fromHex("b00afbfffe0affff0fffb8"));
+        QCOMPARE(page.rawLength(), length);
+    }
 
-void tst_OrbaVersions::buildPage_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::addColumn<QString>("className");
-    QTest::newRow("1") << 1 << QStringLiteral("TmiPage_Orba1");
-    QTest::newRow("2") << 2 << QStringLiteral("TmiPage_Orba2");
-    QTest::newRow("3") << 3 << QStringLiteral("TmiPage_Orba3");
-}
+    // The body the page builds from a fixed packet is a version-1 record body: decoded by another page
+    // it gives the same fields.
+    void fixedPacketBecomesRecordBody()
+    {
+        QByteArray packet(128, '\0');
+        for (int i = 1; i < 128; ++i)
+            packet[i] = char(i * 3 + 1);
+        packet[0] = char(orba::kKindFixedPacket);
+        TmiPage_Orba1 fromPacket(packet);
+        QCOMPARE(fromPacket.body().size(), 127);
+        QCOMPARE(fromPacket.currentRecordBuffer().mid(34), fromPacket.body());
+        TmiPage_Orba1 fromRecord(fromPacket.currentRecordBuffer());
+        QCOMPARE(
+            structureBytes(&fromRecord.currentTMI(), 146), structureBytes(&fromPacket.currentTMI(), 146));
+        QCOMPARE(fromRecord.getStrFormatOrba1(), fromPacket.getStrFormatOrba1());
+        QCOMPARE(fromPacket.body().left(4), packet.mid(1, 4));
+    }
 
-void tst_OrbaVersions::buildPage()
-{
-    QFETCH(int, version);
-    QFETCH(QString, className);
-    RecordBuilder b;
-    b.setNumber(orba::F_NumPage, 1234).setNumber(orba::F_Course, 180);
-    const ExactBuffer buf(b.record(version));
-    const orba::Form form = orba::chooseForm(buf.data(), buf.size(), 0, true);
-    QCOMPARE(QString::fromLatin1(orba::pageClassName(form)), className);
-    const std::unique_ptr<OrbaPage> page = orba::buildPage(form, buf.data(), buf.size());
-    QVERIFY(page);
-    QCOMPARE(QString::fromLatin1(page->metaObject()->className()), className);
-    QCOMPARE(page->version(), version);
-    QCOMPARE(page->fieldText(orba::F_NumPage), QStringLiteral("1234"));
-    QCOMPARE(page->fieldText(orba::F_Course), QStringLiteral("180"));
-    QVERIFY(!orba::buildPage(orba::Form::Unknown, buf.data(), buf.size()));
-}
+    void chooseForm_data()
+    {
+        QTest::addColumn<QByteArray>("buffer");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<bool>("showUnknown");
+        QTest::addColumn<int>("form");
+        using F = orba::Form;
+        QTest::newRow("empty") << QByteArray() << 0 << true << int(F::Dropped);
+        QTest::newRow("kind byte only") << QByteArray("\xB0", 1) << 0 << true << int(F::Dropped);
+        QTest::newRow("extended, kind and one byte")
+            << QByteArray("\xB1\x00", 2) << 0 << false << int(F::Extended);
+        QTest::newRow("version 2") << QByteArray("\xB0\x14", 2) << 0 << false << int(F::Orba2);
+        QTest::newRow("version 1") << QByteArray("\xB0\x0A", 2) << 0 << false << int(F::Orba1);
+        QTest::newRow("version 3") << QByteArray("\xB0\x1E", 2) << 0 << false << int(F::Orba3);
+        QTest::newRow("version 3, mode 1")
+            << QByteArray("\xB0\x1E", 2) << 1 << false << int(F::Orba3Production);
+        QTest::newRow("version 3, mode 2")
+            << QByteArray("\xB0\x1E", 2) << 2 << false << int(F::Orba3Production);
+        QTest::newRow("version 3, mode 5") << QByteArray("\xB0\x1E", 2) << 5 << false << int(F::Orba3);
+        QTest::newRow("version 40 shown") << QByteArray("\xB0\x28", 2) << 0 << true << int(F::Unknown);
+        QTest::newRow("version 40 dropped") << QByteArray("\xB0\x28", 2) << 0 << false << int(F::Dropped);
+        QTest::newRow("fixed packet kind shown") << QByteArray("\x08\x0A", 2) << 0 << true << int(F::Unknown);
+        QTest::newRow("kind 0 dropped") << QByteArray(40, '\0') << 0 << false << int(F::Dropped);
+    }
+
+    void chooseForm()
+    {
+        QFETCH(QByteArray, buffer);
+        QFETCH(int, mode);
+        QFETCH(bool, showUnknown);
+        QFETCH(int, form);
+        const ExactBuffer buf(buffer);
+        QCOMPARE(int(orba::chooseForm(buf.data(), buf.size(), mode, showUnknown)), form);
+        if (form == int(orba::Form::Unknown))
+            QVERIFY(!orba::buildPage(orba::Form::Unknown, buf.data(), buf.size()));
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_OrbaVersions)
 #include "tst_orba_versions.moc"

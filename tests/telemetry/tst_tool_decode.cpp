@@ -1,10 +1,10 @@
 // zrk-tool decode, run as the built program.
 #include "orba_records.h"
+#include "tests/common/tool_run.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -12,27 +12,10 @@ using namespace orbatest;
 
 namespace {
 
-struct Run
+zrktest::ToolRun decode(QStringList args, const QByteArray& input = {})
 {
-    int exitCode = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run runTool(const QStringList& args, const QByteArray& input = {})
-{
-    QProcess p;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("TZ"), QStringLiteral("UTC0"));
-    p.setProcessEnvironment(env);
-    p.start(QStringLiteral(ZRK_TOOL_PATH), QStringList { QStringLiteral("decode") } + args);
-    if (!p.waitForStarted())
-        return {};
-    p.write(input);
-    p.closeWriteChannel();
-    p.waitForFinished(30000);
-    return { p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, p.readAllStandardOutput(),
-        p.readAllStandardError() };
+    args.prepend(QStringLiteral("decode"));
+    return zrktest::runZrkTool(args, input);
 }
 
 QList<QByteArray> lines(const QByteArray& out)
@@ -43,44 +26,30 @@ QList<QByteArray> lines(const QByteArray& out)
     return l;
 }
 
-QJsonObject object(const QByteArray& line)
+// The value at a path of object keys and array indexes, "fields/10/text", as text.
+QString at(const QByteArray& json, const QString& path)
 {
-    QJsonParseError e;
-    const QJsonDocument d = QJsonDocument::fromJson(line, &e);
-    if (e.error != QJsonParseError::NoError)
-        qWarning("not JSON (%s): %s", qPrintable(e.errorString()), line.left(200).constData());
-    return d.object();
-}
-
-QJsonObject field(const QJsonObject& record, int no)
-{
-    return record[QLatin1String("fields")].toArray()[no - 1].toObject();
+    QJsonValue v = QJsonDocument::fromJson(json).object();
+    for (const QString& step : path.split(QLatin1Char('/'))) {
+        bool isIndex = false;
+        const int i = step.toInt(&isIndex);
+        v = isIndex ? v.toArray()[i] : v.toObject()[step];
+    }
+    return v.isArray() ? QString::number(v.toArray().size()) : v.toVariant().toString();
 }
 
 QByteArray sampleRecord(int version)
 {
     RecordBuilder b;
-    b.setNumber(orba::F_NumPage, 4242)
-        .setNumber(orba::F_Latitude, 33456789)
-        .setNumber(orba::F_Altitude, quint32(-15));
-    b.set(orba::F_Speed, QByteArray::fromHex("00007142")); // 60.25
-    if (version >= 2)
-        b.set(orba::F_NaviCoord, QByteArray::fromHex("000000000000f03f000000000000e0bf"));
-    if (version >= 3)
-        b.setNumber(orba::F_User8Byte3, 0x8000000000000001ULL);
+    b.setNumber(orba::F_NumPage, 4242).setNumber(orba::F_Latitude, 33456789);
+    // The last field of the version; in version 3 beyond a double's precision.
+    b.setNumber(orba::kLastField[version], version == 3 ? 0x8000000000000001ULL : 1);
     return b.record(version);
 }
 
-QByteArray extRecord()
+QByteArray extRecordWithItems()
 {
-    QByteArray visible = le(99, 4) + le(1, 2) + le(1700000000, 4) + le(2, 1) + le(0, 4) + le(33456789, 4)
-        + le(0, 4) + le(0, 4) + QByteArray::fromHex("00004841") + le(90, 2) + le(0, 4);
-    QByteArray hidden = le(0x01, 1) + le(0x80, 1) + le(5, 4) + le(6, 4) + le(7, 4);
-    QByteArray dynamic = QByteArray("\x01\x08", 2) + le(42, 8) + QByteArray("\x02\x10", 2)
-        + QByteArray("LOG,1\"") + QByteArray(10, '\0');
-    QByteArray after = QByteArray("\x01", 1) + le(visible.size(), 1) + visible + QByteArray("\x02", 1)
-        + le(hidden.size(), 1) + hidden + dynamic;
-    return QByteArray(1, char(0xB1)) + le(after.size(), 2) + after;
+    return extRecord(item(1, 8, le(42, 8)) + item(2, 16, QByteArray("LOG,1\"") + QByteArray(10, '\0')));
 }
 
 } // namespace
@@ -89,177 +58,128 @@ class tst_ToolDecode : public QObject
 {
     Q_OBJECT
 private slots:
-    void currentRecords_data();
-    void currentRecords();
-    void linesOnStandardInput();
-    void extendedRecord();
-    void fixedPacketAndFile();
-    void csv();
-    void badInput_data();
-    void badInput();
+    void records_data()
+    {
+        QTest::addColumn<QByteArray>("record");
+        QTest::addColumn<QString>("source"); // hex or file
+        QTest::addColumn<QStringList>("expected"); // "path=text" (fields/0 is field 1)
+        for (int v : { 1, 2, 3 }) {
+            const int last = orba::kLastField[v];
+            QString format(last, QLatin1Char('0'));
+            format[0] = format[9] = format[last - 1] = QLatin1Char('1');
+            QTest::newRow(qPrintable(QStringLiteral("version %1").arg(v)))
+                << sampleRecord(v) << QStringLiteral("hex")
+                << QStringList { "kind=176", QStringLiteral("version=%1").arg(v * 10),
+                       QStringLiteral("page=TmiPage_Orba%1").arg(v), QStringLiteral("fields=%1").arg(last),
+                       QStringLiteral("fields/%1/name=%2").arg(last - 1).arg(orba::kFields[last - 1].name),
+                       "format=" + format, "fields/0/value=4242", "fields/1/present=false",
+                       "fields/1/text=n/a", "fields/9/text=55 45.6789'" };
+        }
+        QByteArray packet(128, '\0');
+        packet[0] = char(0x08);
+        packet.replace(1, 4, le(7, 4));
+        packet.replace(65, 4, le(33456789, 4));
+        QTest::newRow("fixed packet from a file")
+            << packet << QStringLiteral("file")
+            << QStringList { "kind=8", "page=TmiPage_Orba1", "fields/0/value=7", "fields/5/text=n/a",
+                   "fields/9/text=55 45.6789'" };
+        QTest::newRow("extended record")
+            << extRecordWithItems() << QStringLiteral("hex")
+            << QStringList { "kind=177", "page=TmiPage_Orba3", "head/NumberTmiPage=12",
+                   "head/Latitude=33456789", "head/Speed=12.5", "head/Motochas=3600", "dynamicSize=28",
+                   "dynamic=2", "dynamic/0/value=42", "dynamic/1/value=LOG,1\"" };
+    }
+
+    void records()
+    {
+        QFETCH(QByteArray, record);
+        QFETCH(QString, source);
+        QFETCH(QStringList, expected);
+        QTemporaryDir dir;
+        QFile f(dir.filePath(QStringLiteral("record.bin")));
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write(record) == record.size());
+        f.close();
+        const auto r = source == QLatin1String("hex")
+            ? decode({ QStringLiteral("--hex"), QString::fromLatin1(record.toHex()) })
+            : decode({ f.fileName() });
+        QCOMPARE(r.code, 0);
+        QCOMPARE(lines(r.out).size(), 1);
+        for (const QString& e : expected) {
+            const int eq = e.indexOf(QLatin1Char('='));
+            QCOMPARE(at(r.out, e.left(eq)), e.mid(eq + 1));
+        }
+        if (record.size() > 34 && record[1] == char(30)) // beyond a double's precision: written whole
+            QVERIFY(
+                r.out.contains("\"name\":\"User8Byte3\",\"present\":true,\"value\":9223372036854775809,"));
+        if (record[0] == char(0xB1))
+            QVERIFY(at(r.out, "xml")
+                        .contains(QStringLiteral(
+                            "\t\t<Dynamic type=\"2\" size=\"16\" value=\"LOG,1&quot;\"/>\r\n")));
+    }
+
+    void linesOnStandardInput()
+    {
+        const QByteArray input = sampleRecord(2).toHex() + "\n\n" + sampleRecord(3).toHex().toUpper()
+            + "\r\nb028ff\n" + "  b0 0a " + sampleRecord(1).mid(2).toHex() + "\n";
+        const auto r = decode({}, input);
+        QCOMPARE(r.code, 0);
+        const QList<QByteArray> l = lines(r.out);
+        QCOMPARE(l.size(), 4);
+        QCOMPARE(at(l[0], "page"), QStringLiteral("TmiPage_Orba2"));
+        QCOMPARE(at(l[1], "page"), QStringLiteral("TmiPage_Orba3"));
+        QCOMPARE(l[2], QByteArray("{\"kind\":176,\"version\":40,\"length\":3,\"page\":\"unknown\"}"));
+        QCOMPARE(at(l[3], "page"), QStringLiteral("TmiPage_Orba1"));
+        QCOMPARE(decode({ QStringLiteral("-") }, "b1\n").out,
+            QByteArray("{\"kind\":177,\"version\":null,\"length\":1,\"page\":\"unknown\"}\n"));
+    }
+
+    void csv()
+    {
+        const auto r = decode({ QStringLiteral("--csv") },
+            sampleRecord(1).toHex() + "\n" + extRecordWithItems().toHex() + "\nff\n");
+        QCOMPARE(r.code, 0);
+        const QList<QByteArray> l = lines(r.out);
+        QCOMPARE(l.size(), 4);
+        const QList<QByteArray> header = l[0].split(',');
+        QCOMPARE(header.size(), 5 + 255);
+        QCOMPARE(header[5], QByteArray("NumPage"));
+        QVERIFY(l[1].startsWith("176,10,"));
+        QVERIFY(l[1].contains(",4242,"));
+        QVERIFY(l[1].contains(",55 45.6789',"));
+        QVERIFY(l[2].contains(",TmiPage_Orba3,,12,258,14.11.2023 22:13:20,"));
+        QCOMPARE(l[3], QByteArray("255,,1,unknown,") + QByteArray(255, ','));
+    }
+
+    void badInput_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<QByteArray>("input");
+        QTest::addColumn<QByteArray>("message");
+        QTest::newRow("odd hex") << QStringList { "--hex", "b01e0" } << QByteArray()
+                                 << QByteArray("odd number of hex digits");
+        QTest::newRow("not hex") << QStringList { "--hex", "b0zz" } << QByteArray()
+                                 << QByteArray("'z' is not a hex digit");
+        QTest::newRow("--hex without value")
+            << QStringList { "--hex" } << QByteArray() << QByteArray("--hex needs");
+        QTest::newRow("unreadable file") << QStringList { "/nonexistent/record.bin" } << QByteArray()
+                                         << QByteArray("cannot read /nonexistent/record.bin");
+        QTest::newRow("odd line on standard input")
+            << QStringList { "-" } << QByteArray("b01e\nb01e0\n") << QByteArray("line 2: odd number");
+        QTest::newRow("unknown option")
+            << QStringList { "--json" } << QByteArray() << QByteArray("unknown option");
+    }
+
+    void badInput()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(QByteArray, input);
+        QFETCH(QByteArray, message);
+        const auto r = decode(args, input);
+        QVERIFY(r.code > 0);
+        QCOMPARE(lines(r.err).size(), 1);
+        QVERIFY2(r.err.contains(message), r.err.constData());
+    }
 };
-
-void tst_ToolDecode::currentRecords_data()
-{
-    QTest::addColumn<int>("version");
-    QTest::addColumn<QString>("page");
-    QTest::newRow("1") << 1 << QStringLiteral("TmiPage_Orba1");
-    QTest::newRow("2") << 2 << QStringLiteral("TmiPage_Orba2");
-    QTest::newRow("3") << 3 << QStringLiteral("TmiPage_Orba3");
-}
-
-void tst_ToolDecode::currentRecords()
-{
-    QFETCH(int, version);
-    QFETCH(QString, page);
-    const QByteArray record = sampleRecord(version);
-    const Run r = runTool({ QStringLiteral("--hex"), QString::fromLatin1(record.toHex()) });
-    QCOMPARE(r.exitCode, 0);
-    QCOMPARE(lines(r.out).size(), 1);
-    const QJsonObject o = object(r.out);
-    QCOMPARE(o[QLatin1String("kind")].toInt(), 176);
-    QCOMPARE(o[QLatin1String("version")].toInt(), version * 10);
-    QCOMPARE(o[QLatin1String("page")].toString(), page);
-    const int last = orba::kLastField[version];
-    QCOMPARE(o[QLatin1String("fields")].toArray().size(), last);
-    QCOMPARE(o[QLatin1String("format")].toString().size(), last);
-    QVERIFY(o[QLatin1String("format")].toString().startsWith(QStringLiteral("1000000001011")));
-    for (int no = 1; no <= last; ++no) {
-        const QJsonObject f = field(o, no);
-        QCOMPARE(f[QLatin1String("no")].toInt(), no);
-        QCOMPARE(f[QLatin1String("name")].toString(), QLatin1String(orba::kFields[no - 1].name));
-    }
-    QCOMPARE(field(o, 1)[QLatin1String("value")].toInt(), 4242);
-    QCOMPARE(field(o, 2)[QLatin1String("present")].toBool(), false);
-    QCOMPARE(field(o, 2)[QLatin1String("text")].toString(), QStringLiteral("n/a"));
-    QCOMPARE(field(o, 10)[QLatin1String("value")].toInt(), 33456789);
-    QCOMPARE(field(o, 10)[QLatin1String("text")].toString(), QStringLiteral("55 45.6789'"));
-    QCOMPARE(field(o, 12)[QLatin1String("value")].toInt(), -15);
-    QCOMPARE(field(o, 12)[QLatin1String("text")].toString(), QStringLiteral("-1"));
-    QCOMPARE(field(o, 13)[QLatin1String("value")].toDouble(), 60.25);
-    if (version >= 2) {
-        QCOMPARE(field(o, 73)[QLatin1String("value")].toString(),
-            QStringLiteral("000000000000f03f000000000000e0bf"));
-        QCOMPARE(
-            field(o, 73)[QLatin1String("text")].toString(), QStringLiteral("lat 1.000000, lon -0.500000"));
-    }
-    if (version >= 3) // beyond a double's precision: the number is written whole
-        QVERIFY(r.out.contains("\"name\":\"User8Byte3\",\"present\":true,\"value\":9223372036854775809,"));
-}
-
-void tst_ToolDecode::linesOnStandardInput()
-{
-    const QByteArray input = sampleRecord(2).toHex() + "\n\n" + sampleRecord(3).toHex().toUpper()
-        + "\r\nb028ff\n" + "  b0 0a " + sampleRecord(1).mid(2).toHex() + "\n";
-    const Run r = runTool({}, input);
-    QCOMPARE(r.exitCode, 0);
-    const QList<QByteArray> l = lines(r.out);
-    QCOMPARE(l.size(), 4);
-    QCOMPARE(object(l[0])[QLatin1String("page")].toString(), QStringLiteral("TmiPage_Orba2"));
-    QCOMPARE(object(l[1])[QLatin1String("page")].toString(), QStringLiteral("TmiPage_Orba3"));
-    QCOMPARE(l[2], QByteArray("{\"kind\":176,\"version\":40,\"length\":3,\"page\":\"unknown\"}"));
-    QCOMPARE(object(l[3])[QLatin1String("page")].toString(), QStringLiteral("TmiPage_Orba1"));
-    QCOMPARE(runTool({ QStringLiteral("-") }, "b1\n").out,
-        QByteArray("{\"kind\":177,\"version\":null,\"length\":1,\"page\":\"unknown\"}\n"));
-}
-
-void tst_ToolDecode::extendedRecord()
-{
-    const Run r = runTool({ QStringLiteral("--hex"), QString::fromLatin1(extRecord().toHex()) });
-    QCOMPARE(r.exitCode, 0);
-    const QJsonObject o = object(r.out);
-    QCOMPARE(o[QLatin1String("kind")].toInt(), 177);
-    QCOMPARE(o[QLatin1String("page")].toString(), QStringLiteral("TmiPage_Orba3"));
-    const QJsonObject head = o[QLatin1String("head")].toObject();
-    QCOMPARE(head[QLatin1String("NumberTmiPage")].toInt(), 99);
-    QCOMPARE(head[QLatin1String("Latitude")].toInt(), 33456789);
-    QCOMPARE(head[QLatin1String("Speed")].toDouble(), 12.5);
-    QCOMPARE(head[QLatin1String("StateOut1")].toInt(), 128);
-    QCOMPARE(head[QLatin1String("Motochas")].toInt(), 7);
-    QCOMPARE(o[QLatin1String("dynamicSize")].toInt(), 28);
-    const QJsonArray items = o[QLatin1String("dynamic")].toArray();
-    QCOMPARE(items.size(), 2);
-    QCOMPARE(items[0].toObject()[QLatin1String("type")].toInt(), 1);
-    QCOMPARE(items[0].toObject()[QLatin1String("size")].toInt(), 8);
-    QCOMPARE(items[0].toObject()[QLatin1String("value")].toInt(), 42);
-    QCOMPARE(items[1].toObject()[QLatin1String("value")].toString(), QStringLiteral("LOG,1\""));
-    const QString xml = o[QLatin1String("xml")].toString();
-    QVERIFY(xml.startsWith(QStringLiteral(
-        "\t<Page type=\"177\" size=\"83\" stVer=\"1\" stSize=\"37\" hVer=\"2\" hSize=\"14\">\r\n")));
-    QVERIFY(xml.contains(QStringLiteral("\t\t<Dynamic type=\"2\" size=\"16\" value=\"LOG,1&quot;\"/>\r\n")));
-}
-
-void tst_ToolDecode::fixedPacketAndFile()
-{
-    QByteArray packet(128, '\0');
-    packet[0] = char(0x08);
-    packet.replace(1, 4, le(7, 4));
-    packet.replace(65, 4, le(33456789, 4));
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("packet.bin"));
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(packet);
-    f.close();
-    const Run r = runTool({ path });
-    QCOMPARE(r.exitCode, 0);
-    const QJsonObject o = object(r.out);
-    QCOMPARE(o[QLatin1String("kind")].toInt(), 8);
-    QCOMPARE(o[QLatin1String("page")].toString(), QStringLiteral("TmiPage_Orba1"));
-    QCOMPARE(o[QLatin1String("fields")].toArray().size(), 69);
-    QCOMPARE(field(o, 1)[QLatin1String("value")].toInt(), 7);
-    QCOMPARE(field(o, 6)[QLatin1String("text")].toString(), QStringLiteral("n/a"));
-    QCOMPARE(field(o, 10)[QLatin1String("text")].toString(), QStringLiteral("55 45.6789'"));
-}
-
-void tst_ToolDecode::csv()
-{
-    const QByteArray input = sampleRecord(1).toHex() + "\n" + extRecord().toHex() + "\nff\n";
-    const Run r = runTool({ QStringLiteral("--csv") }, input);
-    QCOMPARE(r.exitCode, 0);
-    const QList<QByteArray> l = lines(r.out);
-    QCOMPARE(l.size(), 4);
-    const QList<QByteArray> header = l[0].split(',');
-    QCOMPARE(header.size(), 5 + 255);
-    QCOMPARE(header[5], QByteArray("NumPage"));
-    QCOMPARE(header.last(), QByteArray("User8Byte3"));
-    QVERIFY(l[1].startsWith("176,10,"));
-    QVERIFY(l[1].contains(",4242,"));
-    QVERIFY(l[1].contains(",55 45.6789',"));
-    QVERIFY(l[2].startsWith("177,"));
-    QVERIFY(l[2].contains(",TmiPage_Orba3,,99,1,14.11.2023 22:13:20,"));
-    QCOMPARE(l[3], QByteArray("255,,1,unknown,") + QByteArray(255, ','));
-}
-
-void tst_ToolDecode::badInput_data()
-{
-    QTest::addColumn<QStringList>("args");
-    QTest::addColumn<QByteArray>("input");
-    QTest::addColumn<QByteArray>("message");
-    QTest::newRow("odd hex") << QStringList { "--hex", "b01e0" } << QByteArray()
-                             << QByteArray("odd number of hex digits");
-    QTest::newRow("not hex") << QStringList { "--hex", "b0zz" } << QByteArray()
-                             << QByteArray("'z' is not a hex digit");
-    QTest::newRow("--hex without value")
-        << QStringList { "--hex" } << QByteArray() << QByteArray("--hex needs");
-    QTest::newRow("unreadable file") << QStringList { "/nonexistent/record.bin" } << QByteArray()
-                                     << QByteArray("cannot read /nonexistent/record.bin");
-    QTest::newRow("odd line on standard input")
-        << QStringList { "-" } << QByteArray("b01e\nb01e0\n") << QByteArray("line 2: odd number");
-    QTest::newRow("unknown option") << QStringList { "--json" } << QByteArray()
-                                    << QByteArray("unknown option");
-}
-
-void tst_ToolDecode::badInput()
-{
-    QFETCH(QStringList, args);
-    QFETCH(QByteArray, input);
-    QFETCH(QByteArray, message);
-    const Run r = runTool(args, input);
-    QVERIFY(r.exitCode > 0);
-    QCOMPARE(lines(r.err).size(), 1);
-    QVERIFY2(r.err.contains(message), r.err.constData());
-}
 
 QTEST_GUILESS_MAIN(tst_ToolDecode)
 #include "tst_tool_decode.moc"
