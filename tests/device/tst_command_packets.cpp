@@ -35,9 +35,34 @@ QByteArray handPacket(const QByteArray& payload)
     return p + payload;
 }
 
+void exact(const char* name, const QByteArray& packet, const QByteArray& expected)
+{
+    QTest::newRow(name) << packet << expected;
+}
+
+// A builder's row by the payload it must carry.
 void row(const char* name, const QByteArray& packet, const QByteArray& payload)
 {
-    QTest::newRow(name) << packet << payload;
+    exact(name, packet, handPacket(payload));
+}
+
+// What the finder and the completeness test say about a buffer: "offset" from the finder, then
+// "length flag" when the packet is complete. Both must agree on the offset.
+QByteArray find(const QByteArray& buffer)
+{
+    int offset = -7, length = -7, flag = -7;
+    const bool good = CF::isGoodPacket(buffer, offset, length, flag);
+    QByteArray out = QByteArray::number(CF::findPacketZRKB(buffer));
+    if (offset != out.toInt())
+        return "offsets differ";
+    return good ? out + ' ' + QByteArray::number(length) + ' ' + QByteArray::number(flag)
+                : out + (length == 0 && flag == 0 ? "" : " not cleared");
+}
+
+// The kind of a reply with this payload, by name.
+QByteArray kindOf(const QByteArray& payload)
+{
+    return CF::replyKindName(CF::getTypeReceivePacket(handPacket(payload)));
 }
 
 } // namespace
@@ -46,52 +71,28 @@ class tst_CommandPackets : public QObject
 {
     Q_OBJECT
 private slots:
-    void goldenPackets_data();
-    void goldenPackets();
-    void builderTexts_data();
-    void builderTexts();
-    void payloadLimit();
-    void xorSum_data();
-    void xorSum();
-    void xorSumCopies();
-    void finder_data();
-    void finder();
-    void finderBackToBack();
+    void packets_data();
+    void packets();
+    void xorSums();
     void finderNeverReadsPastTheEnd();
-    void classify_data();
-    void classify();
     void everyPrefixIsReachable();
 };
 
-// Whole packets assembled byte by byte.
-void tst_CommandPackets::goldenPackets_data()
+// Each row: bytes made by the code, the bytes they must be. Sent packets: a few written out byte by
+// byte, which also pins handPacket(), the rest as their payload in the envelope handPacket() makes.
+void tst_CommandPackets::packets_data()
 {
-    QTest::addColumn<QByteArray>("packet");
+    QTest::addColumn<QByteArray>("actual");
     QTest::addColumn<QByteArray>("expected");
-    row("ping", CF::getUsbCommand_Ping(), hex("405a524b 00000000 01000000 0800 14 1e") + "*?PING 1");
+    exact("ping", CF::getUsbCommand_Ping(), hex("405a524b 00000000 01000000 0800 14 1e") + "*?PING 1");
     // "Я" is 0xDF in the code page, "☺" has no place there and goes as "_".
-    row("password", CF::getUsbCommand_DevicePassword(QString::fromUtf8("Я☺1")),
+    exact("password", CF::getUsbCommand_DevicePassword(QString::fromUtf8("Я☺1")),
         hex("405a524b 00000000 01000000 0a00 8e 86") + "*>PASS:\xDF_1");
-    row("empty payload", CF::getUsbArrCommandToDevice(QByteArray()),
+    exact("empty payload", CF::getUsbArrCommandToDevice(QByteArray()),
         hex("405a524b 00000000 01000000 0000 00 02"));
     // "*!R" (2a 21 52, XOR 59) then page 0x01020304 little-endian (XOR 04): payload check 5d.
-    row("read page", CF::getUsbCommand_ReadPage(0x01020304u),
+    exact("read page", CF::getUsbCommand_ReadPage(0x01020304u),
         hex("405a524b 00000000 01000000 0700 5d 58 2a2152 04030201"));
-}
-
-void tst_CommandPackets::goldenPackets()
-{
-    QFETCH(QByteArray, packet);
-    QFETCH(QByteArray, expected);
-    QCOMPARE(packet.toHex(), expected.toHex());
-}
-
-// Each builder's payload, and an envelope that is consistent with it.
-void tst_CommandPackets::builderTexts_data()
-{
-    QTest::addColumn<QByteArray>("packet");
-    QTest::addColumn<QByteArray>("payload");
-    row("Ping", CF::getUsbCommand_Ping(), "*?PING 1");
     row("DeviceType", CF::getUsbCommand_DeviceType(), "*?V");
     row("DeviceBhr", CF::getUsbCommand_DeviceBhr(), "*?H");
     row("DeviceImei", CF::getUsbCommand_DeviceImei(), "*?S");
@@ -122,7 +123,6 @@ void tst_CommandPackets::builderTexts_data()
     row("Dtp_Test", CF::getUsbCommand_Dtp_Test(), "*?KRAI");
     row("Dtp_Protection", CF::getUsbCommand_Dtp_Protection(), "*!KRAI");
     row("Dtp_ReadPageFile", CF::getUsbCommand_Dtp_ReadPageFile(7), QByteArray("*!R\x07\0\0\0", 7));
-    row("ReadPage", CF::getUsbCommand_ReadPage(0xA0B0C0D0u), "*!R\xD0\xC0\xB0\xA0");
     row("WritePage", CF::getUsbCommand_WritePage("page"), "*!Wpage");
     row("File_ReadPage", CF::getUsbCommand_File_ReadPage("r"), "*!FRr");
     row("File_WritePage", CF::getUsbCommand_File_WritePage("w"), "*!FWw");
@@ -153,57 +153,77 @@ void tst_CommandPackets::builderTexts_data()
     // Raw bytes go unconverted; 0xC0 read as text would not survive the code page.
     row("raw bytes", CF::getUsbArrCommandToDevice("\xC0\xFF"), "\xC0\xFF");
     row("text bytes and data", CF::getHeaderCommand(QByteArray("*!W"), hex("01")), "*!W\x01");
-}
-
-void tst_CommandPackets::builderTexts()
-{
-    QFETCH(QByteArray, packet);
-    QFETCH(QByteArray, payload);
-    QCOMPARE(packet.mid(16), payload);
-    QCOMPARE(packet.left(12), hex("405a524b 00000000 01000000"));
-    QCOMPARE(uchar(packet.at(12)) | (uchar(packet.at(13)) << 8), payload.size());
-    QCOMPARE(uchar(packet.at(14)), xorOf(payload, 0, payload.size()));
-    QCOMPARE(uchar(packet.at(15)), xorOf(packet, 0, 15));
-}
-
-// 1008 payload bytes fit the terminal's receive area, one more does not, text and arguments together.
-void tst_CommandPackets::payloadLimit()
-{
+    // 1008 payload bytes fit the terminal's receive area, one more does not, text and arguments together.
+    row("1008 text", CF::getUsbCommandToDevice(QString(1008, 'a')), QByteArray(1008, 'a'));
+    // A payload that does not fit leaves nothing of what was there before.
     QByteArray out("stale");
-    QVERIFY(CF::getHeaderCommand(QString(1008, QLatin1Char('a')), out));
-    QCOMPARE(out.size(), 16 + 1008);
-    QCOMPARE(uchar(out.at(12)) | (uchar(out.at(13)) << 8), 1008);
-    QVERIFY(!CF::getHeaderCommand(QString(1009, QLatin1Char('a')), out));
-    QVERIFY(out.isEmpty());
-    QVERIFY(!CF::getHeaderCommand(QString(1000, QLatin1Char('a')), QByteArray(9, 'b'), out));
-    QVERIFY(out.isEmpty());
-    QCOMPARE(CF::getUsbArrCommandToDevice(QByteArray(1008, 'x')).size(), 16 + 1008);
-    QVERIFY(CF::getUsbArrCommandToDevice(QByteArray(1009, 'x')).isEmpty());
+    CF::getHeaderCommand(QString(1009, 'a'), out);
+    exact("1009 text", out, QByteArray());
+    exact(
+        "1000 text, 9 args", CF::getUsbCommandToDevice(QString(1000, 'a'), QByteArray(9, 'b')), QByteArray());
+    row("1008 raw", CF::getUsbArrCommandToDevice(QByteArray(1008, 'x')), QByteArray(1008, 'x'));
+    exact("1009 raw", CF::getUsbArrCommandToDevice(QByteArray(1009, 'x')), QByteArray());
+
+    // Received bytes: where the finder puts the first packet (see find()), and the kind of a reply.
+    const QByteArray ping = handPacket("*?PING 1");
+    const QByteArray empty = handPacket(QByteArray());
+    // A preamble whose header check does not hold: XOR of bytes 0..14 is 0xFC, byte 15 is 0xFF.
+    const QByteArray falsePreamble = QByteArray("@ZRK") + QByteArray(12, '\xFF');
+    // A header check that holds over a preamble that is not ours.
+    QByteArray otherPreamble = ping;
+    otherPreamble[3] = 'k';
+    otherPreamble[15] = char(xorOf(otherPreamble, 0, 15));
+    // A good header that announces 1000 bytes more than the buffer holds.
+    const QByteArray bigHeader = hex("405a524b 00000000 01000000 e803 00 e9");
+
+    exact("empty buffer", find(QByteArray()), "-1");
+    exact("15 bytes", find(empty.left(15)), "-1");
+    exact("exactly 16, size 0", find(empty), "0 16 1");
+    exact("ping and a trailing byte", find(ping + "x"), "0 24 1");
+    exact("ping truncated", find(ping.left(23)), "-1");
+    exact("noise, then ping", find("@@ZR" + ping), "4 24 1");
+    // The finder's completeness test uses the whole buffer: with one byte of noise in front and the
+    // last byte missing, 8 + 15 < 24 and the offset comes back, but the packet is not all there.
+    exact("offset, last byte missing", find("x" + ping.left(23)), "1");
+    exact("false preamble skipped", find(falsePreamble + ping), "16 24 1");
+    exact("false preamble overlapping", find("@ZRK@ZRK" + ping.mid(4)), "4 24 1");
+    exact("other preamble", find(otherPreamble), "-1");
+    exact("corrupted payload", find(ping.left(23) + "2"), "0 24 0");
+    exact("corrupted size", find(ping.left(12) + "\x09" + ping.mid(13)), "-1");
+    exact("long packet pending hides the next", find(bigHeader + ping), "-1");
+
+    exact("FUEL_UN over FUEL", kindOf("*#FUEL_UN 12,3"), "DataFuelUn");
+    exact("FUEL_U is FUEL", kindOf("*#FUEL_U"), "DataFuel");
+    exact("SDFS with space", kindOf("*@SDFS 1"), "AckSdfsArg");
+    exact("SDFS other", kindOf("*@SDFS:"), "AckSdfs");
+    exact("SDFS more without space", kindOf("*&SDFS"), "Unknown");
+    exact("unknown", kindOf("*#Z"), "Unknown");
+    exact("too short", kindOf("*#"), "Unknown");
+    exact("empty", kindOf(QByteArray()), "Unknown");
+    exact("not at start", kindOf(" *#V"), "Unknown");
 }
 
-// Lengths around the eight-byte steps of the sum, and no length at all.
-void tst_CommandPackets::xorSum_data()
+void tst_CommandPackets::packets()
 {
-    QTest::addColumn<int>("length");
-    for (int n : { -1, 0, 1, 7, 8, 9, 16, 17 })
-        QTest::newRow(qPrintable(QString::number(n))) << n;
+    QFETCH(QByteArray, actual);
+    QFETCH(QByteArray, expected);
+    QCOMPARE(actual.toHex(), expected.toHex());
 }
 
-void tst_CommandPackets::xorSum()
+// Lengths around the eight-byte steps of the sum, and no length at all; bytes beyond the length
+// must not count, whatever alignment the start has.
+void tst_CommandPackets::xorSums()
 {
-    QFETCH(int, length);
-    QByteArray data(qMax(length, 0) + 3, Qt::Uninitialized);
+    QByteArray data(20, Qt::Uninitialized);
     for (int i = 0; i < data.size(); ++i)
         data[i] = static_cast<char>(i * 37 + 11);
-    // Bytes beyond the length must not count, whatever alignment the start has.
-    for (int start = 0; start < 3; ++start) {
-        const unsigned char expected = length < 1 ? 0 : xorOf(data, start, start + length);
-        QCOMPARE(CF::getSumDataToByte(data.constData() + start, length), expected);
+    for (int length : { -1, 0, 1, 7, 8, 9, 16, 17 }) {
+        for (int start = 0; start < 3; ++start) {
+            const unsigned char expected = length < 1 ? 0 : xorOf(data, start, start + length);
+            QCOMPARE(CF::getSumDataToByte(data.constData() + start, length), expected);
+        }
     }
-}
-
-void tst_CommandPackets::xorSumCopies()
-{
+    // The two-part form copies both parts one after the other; a negative length counts as none.
     unsigned char out[8];
     std::memset(out, 0xEE, sizeof out);
     const unsigned char b[] = { 0x0F, 0xF0 };
@@ -215,80 +235,6 @@ void tst_CommandPackets::xorSumCopies()
     QCOMPARE(int(CF::getSumDataToByte(nullptr, 0, nullptr, 0, out)), 0);
 }
 
-void tst_CommandPackets::finder_data()
-{
-    QTest::addColumn<QByteArray>("buffer");
-    QTest::addColumn<int>("found");
-    QTest::addColumn<bool>("good");
-    QTest::addColumn<int>("length");
-    QTest::addColumn<int>("flag");
-
-    const QByteArray ping = hex("405a524b 00000000 01000000 0800 14 1e") + "*?PING 1";
-    const QByteArray empty = hex("405a524b 00000000 01000000 0000 00 02");
-    // A preamble whose header check does not hold: XOR of bytes 0..14 is 0xFC, byte 15 is 0xFF.
-    const QByteArray falsePreamble = QByteArray("@ZRK") + QByteArray(12, '\xFF');
-    // A header check that holds over a preamble that is not ours.
-    QByteArray otherPreamble = ping;
-    otherPreamble[3] = 'k';
-    otherPreamble[15] = char(xorOf(otherPreamble, 0, 15));
-
-    QTest::newRow("empty buffer") << QByteArray() << -1 << false << 0 << 0;
-    QTest::newRow("15 bytes") << empty.left(15) << -1 << false << 0 << 0;
-    QTest::newRow("exactly 16, size 0") << empty << 0 << true << 16 << 1;
-    QTest::newRow("ping") << ping << 0 << true << 24 << 1;
-    QTest::newRow("ping and a trailing byte") << ping + "x" << 0 << true << 24 << 1;
-    QTest::newRow("ping truncated") << ping.left(23) << -1 << false << 0 << 0;
-    QTest::newRow("noise, then ping") << QByteArray("@@ZR") + ping << 4 << true << 24 << 1;
-    // The completeness test uses the whole buffer: with one byte of noise in front and the last
-    // byte missing, 8 + 15 < 24 and the offset comes back, but the packet is not all there.
-    QTest::newRow("offset, last byte missing") << "x" + ping.left(23) << 1 << false << 0 << 0;
-    QTest::newRow("false preamble skipped") << falsePreamble + ping << 16 << true << 24 << 1;
-    QTest::newRow("false preamble overlapping")
-        << QByteArray("@ZRK@ZRK") + ping.mid(4) << 4 << true << 24 << 1;
-    QTest::newRow("other preamble") << otherPreamble << -1 << false << 0 << 0;
-    QTest::newRow("corrupted payload") << ping.left(23) + "2" << 0 << true << 24 << 0;
-    QTest::newRow("corrupted size") << ping.left(12) + "\x09" + ping.mid(13) << -1 << false << 0 << 0;
-    // A good header that announces more bytes than the buffer holds hides a later packet.
-    const QByteArray bigHeader = hex("405a524b 00000000 01000000 e803 00 e9");
-    QTest::newRow("long packet pending") << bigHeader + ping << -1 << false << 0 << 0;
-}
-
-void tst_CommandPackets::finder()
-{
-    QFETCH(QByteArray, buffer);
-    QFETCH(int, found);
-    QFETCH(bool, good);
-    QFETCH(int, length);
-    QFETCH(int, flag);
-    QCOMPARE(CF::findPacketZRKB(buffer), found);
-    int offset = -7, len = -7, fl = -7;
-    QCOMPARE(CF::isGoodPacket(buffer, offset, len, fl), good);
-    QCOMPARE(offset, found);
-    QCOMPARE(len, length);
-    QCOMPARE(fl, flag);
-}
-
-// A receiver's loop over several packets in one buffer.
-void tst_CommandPackets::finderBackToBack()
-{
-    const QByteArray a = handPacket("*#V K-7140");
-    const QByteArray b = handPacket(QByteArray());
-    const QByteArray c = handPacket("*@SETTIME");
-    QByteArray buffer = a + b + "\x01\x02" + c + c.left(5);
-    QList<QByteArray> taken;
-    int offset = 0, length = 0, flag = 0;
-    while (CF::isGoodPacket(buffer, offset, length, flag)) {
-        QCOMPARE(flag, 1);
-        taken << buffer.mid(offset, length);
-        buffer.remove(0, offset + length);
-    }
-    QCOMPARE(taken, (QList<QByteArray>() << a << b << c));
-    QCOMPARE(buffer, c.left(5));
-    buffer += c.mid(5);
-    QVERIFY(CF::isGoodPacket(buffer, offset, length, flag));
-    QCOMPARE(buffer.mid(offset, length), c);
-}
-
 // A header whose check byte would be the first byte after the buffer, and every prefix of a
 // packet: copied into exactly sized heap blocks so that a read past the end is caught by ASan.
 void tst_CommandPackets::finderNeverReadsPastTheEnd()
@@ -298,39 +244,17 @@ void tst_CommandPackets::finderNeverReadsPastTheEnd()
     const QByteArray cut = "x" + QByteArray("@ZRK") + hex("03000000000000000000 00");
     const QByteArray stream = cut + handPacket("*#H 12") + handPacket("*#H 12");
     for (int n = 0; n <= stream.size(); ++n) {
-        std::unique_ptr<char[]> exact(new char[static_cast<size_t>(qMax(n, 1))]);
-        std::memcpy(exact.get(), stream.constData(), static_cast<size_t>(n));
+        std::unique_ptr<char[]> block(new char[static_cast<size_t>(qMax(n, 1))]);
+        std::memcpy(block.get(), stream.constData(), static_cast<size_t>(n));
         int offset = 0, length = 0, flag = 0;
-        const int found = CF::findPacketZRKB(exact.get(), n);
-        const bool good = CF::isGoodPacket(exact.get(), n, offset, length, flag);
+        const int found = CF::findPacketZRKB(block.get(), n);
+        const bool good = CF::isGoodPacket(block.get(), n, offset, length, flag);
         QCOMPARE(offset, found);
         if (n == cut.size())
             QCOMPARE(found, -1);
         if (good)
             QVERIFY(offset + length <= n);
     }
-}
-
-void tst_CommandPackets::classify_data()
-{
-    QTest::addColumn<QByteArray>("payload");
-    QTest::addColumn<int>("kind");
-    QTest::newRow("FUEL_UN over FUEL") << QByteArray("*#FUEL_UN 12,3") << int(CF::Reply_DataFuelUn);
-    QTest::newRow("FUEL_U is FUEL") << QByteArray("*#FUEL_U") << int(CF::Reply_DataFuel);
-    QTest::newRow("SDFS with space") << QByteArray("*@SDFS 1") << int(CF::Reply_AckSdfsArg);
-    QTest::newRow("SDFS other") << QByteArray("*@SDFS:") << int(CF::Reply_AckSdfs);
-    QTest::newRow("SDFS more without space") << QByteArray("*&SDFS") << int(CF::Reply_Unknown);
-    QTest::newRow("unknown") << QByteArray("*#Z") << int(CF::Reply_Unknown);
-    QTest::newRow("too short") << QByteArray("*#") << int(CF::Reply_Unknown);
-    QTest::newRow("empty") << QByteArray() << int(CF::Reply_Unknown);
-    QTest::newRow("not at start") << QByteArray(" *#V") << int(CF::Reply_Unknown);
-}
-
-void tst_CommandPackets::classify()
-{
-    QFETCH(QByteArray, payload);
-    QFETCH(int, kind);
-    QCOMPARE(CF::getTypeReceivePacket(handPacket(payload)), kind);
 }
 
 // Each prefix, sent alone, comes back as its own kind: no earlier, shorter prefix hides it.
