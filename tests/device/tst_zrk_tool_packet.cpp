@@ -20,6 +20,7 @@ class tst_ZrkToolPacket : public QObject
 private slots:
     void commands_data();
     void commands();
+    void helpNamesTheCommands();
 
 private:
     QTemporaryDir m_dir;
@@ -92,6 +93,13 @@ void tst_ZrkToolPacket::commands()
         QVERIFY(r.err.endsWith('\n'));
         QCOMPARE(r.err.count('\n'), 1);
     }
+}
+
+void tst_ZrkToolPacket::helpNamesTheCommands()
+{
+    const zrktest::ToolRun r = zrktest::runZrkTool({ "--help" });
+    QCOMPARE(r.code, 0);
+    QVERIFY(r.out.contains("packet build TEXT") && r.out.contains("crc8|crc16|crc32 FILE"));
 }
 
 QTEST_GUILESS_MAIN(tst_ZrkToolPacket)
