@@ -11,6 +11,7 @@ namespace {
 constexpr const char* kCommandTexts[] = {
 #define ZRK_COMMAND(name, text) text,
 #define ZRK_COMMAND_ARG(name, text) text,
+#define ZRK_COMMAND_BYTES(name, text) text,
 #include "device/command_texts.def"
 };
 
@@ -83,6 +84,12 @@ QByteArray textPacket(commonFunctions::Command c)
 QByteArray argsPacket(commonFunctions::Command c, const QByteArray& args)
 {
     return commonFunctions::getUsbCommandToDevice(QString::fromLatin1(commonFunctions::commandText(c)), args);
+}
+
+// The command text with a text argument after it, converted to the code page together.
+QByteArray suffixPacket(commonFunctions::Command c, const QString& suffix)
+{
+    return commonFunctions::getUsbCommandToDevice(QLatin1String(commonFunctions::commandText(c)) + suffix);
 }
 
 QByteArray numberPacket(commonFunctions::Command c, const QString& number)
@@ -279,6 +286,11 @@ int commonFunctions::getTypeReceivePacket(const QByteArray& packet)
         return textPacket(Command::name);                                                                    \
     }
 #define ZRK_COMMAND_ARG(name, text)
+#define ZRK_COMMAND_BYTES(name, text)                                                                        \
+    QByteArray commonFunctions::getUsbCommand_##name(const QByteArray& bytes)                                \
+    {                                                                                                        \
+        return argsPacket(Command::name, bytes);                                                             \
+    }
 #include "device/command_texts.def"
 
 QByteArray commonFunctions::getUsbCommand_DeviceSetTime(int t)
@@ -300,7 +312,7 @@ QByteArray commonFunctions::getUsbCommand_Out_Off(int output)
 
 QByteArray commonFunctions::getUsbCommand_DevicePassword(const QString& password)
 {
-    return getUsbCommandToDevice(QLatin1String(commandText(Command::DevicePassword)) + password);
+    return suffixPacket(Command::DevicePassword, password);
 }
 
 QByteArray commonFunctions::getUsbCommand_TM_FileRead(quint16 file)
@@ -308,19 +320,9 @@ QByteArray commonFunctions::getUsbCommand_TM_FileRead(quint16 file)
     return argsPacket(Command::TM_FileRead, le16(file));
 }
 
-QByteArray commonFunctions::getUsbCommand_TM_FileWrite(const QByteArray& data)
-{
-    return argsPacket(Command::TM_FileWrite, data);
-}
-
 QByteArray commonFunctions::getUsbCommand_Accel_Break(quint16 threshold, quint16 duration)
 {
     return argsPacket(Command::Accel_Break, le16(threshold) + le16(duration));
-}
-
-QByteArray commonFunctions::getUsbCommand_Accel_AclC(const QByteArray& params)
-{
-    return argsPacket(Command::Accel_AclC, params);
 }
 
 QByteArray commonFunctions::getUsbCommand_Dtp_ReadPageFile(quint32 page)
@@ -333,31 +335,6 @@ QByteArray commonFunctions::getUsbCommand_ReadPage(quint32 page)
     return argsPacket(Command::ReadPage, le32(page));
 }
 
-QByteArray commonFunctions::getUsbCommand_WritePage(const QByteArray& page)
-{
-    return argsPacket(Command::WritePage, page);
-}
-
-QByteArray commonFunctions::getUsbCommand_File_ReadPage(const QByteArray& fileRecord)
-{
-    return argsPacket(Command::File_ReadPage, fileRecord);
-}
-
-QByteArray commonFunctions::getUsbCommand_File_WritePage(const QByteArray& fileRecord)
-{
-    return argsPacket(Command::File_WritePage, fileRecord);
-}
-
-QByteArray commonFunctions::getUsbCommand_File_Info(const QByteArray& fileRecord)
-{
-    return argsPacket(Command::File_Info, fileRecord);
-}
-
-QByteArray commonFunctions::getUsbCommand_File_Update(const QByteArray& fileRecord)
-{
-    return argsPacket(Command::File_Update, fileRecord);
-}
-
 QByteArray commonFunctions::getUsbCommand_Canlog_Ver(int version)
 {
     return numberPacket(Command::Canlog_Ver, QString::number(version));
@@ -365,38 +342,12 @@ QByteArray commonFunctions::getUsbCommand_Canlog_Ver(int version)
 
 QByteArray commonFunctions::getUsbCommand_ClearServerToDevice(int server)
 {
-    return getUsbCommandToDevice(
-        QLatin1String(commandText(Command::ClearServerToDevice)) + QString::number(server));
+    return suffixPacket(Command::ClearServerToDevice, QString::number(server));
 }
 
 QByteArray commonFunctions::getUsbCommand_SetRun(quint32 km)
 {
-    return getUsbCommandToDevice(QLatin1String(commandText(Command::SetRun)) + QString::number(km));
-}
-
-QByteArray commonFunctions::getUsbCommand_SetParamValue(const QByteArray& block)
-{
-    return argsPacket(Command::SetParamValue, block);
-}
-
-QByteArray commonFunctions::getUsbCommand_Taho_Quest(const QByteArray& query)
-{
-    return argsPacket(Command::Taho_Quest, query);
-}
-
-QByteArray commonFunctions::getUsbCommand_Taho_File(const QByteArray& query)
-{
-    return argsPacket(Command::Taho_File, query);
-}
-
-QByteArray commonFunctions::getUsbCommand_Camera_Info(const QByteArray& query)
-{
-    return argsPacket(Command::Camera_Info, query);
-}
-
-QByteArray commonFunctions::getUsbCommand_SD_Photo_Info(const QByteArray& query)
-{
-    return argsPacket(Command::SD_Photo_Info, query);
+    return suffixPacket(Command::SetRun, QString::number(km));
 }
 
 QByteArray commonFunctions::getUsbCommand_Log(quint32 first, quint32 last)
@@ -411,5 +362,5 @@ QByteArray commonFunctions::getUsbCommandToDeviceTest(const QByteArray& bytes)
 
 QByteArray commonFunctions::getUsbCommand_CE_UserCmd(const QString& command)
 {
-    return getUsbCommandToDevice(QLatin1String(commandText(Command::CE_UserCmd)) + command);
+    return suffixPacket(Command::CE_UserCmd, command);
 }

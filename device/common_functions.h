@@ -28,6 +28,7 @@ public:
     {
 #define ZRK_COMMAND(name, text) name,
 #define ZRK_COMMAND_ARG(name, text) name,
+#define ZRK_COMMAND_BYTES(name, text) name,
 #include "device/command_texts.def"
     };
     // The command's text as sent (before the argument is filled in or appended).
@@ -95,9 +96,10 @@ public:
     // The kind of a reply packet (header included) by the text at the start of its payload.
     static int getTypeReceivePacket(const QByteArray& packet);
 
-    // Commands sent as their text alone.
+    // Commands sent as their text alone, and those whose text a block of bytes follows unchanged.
 #define ZRK_COMMAND(name, text) static QByteArray getUsbCommand_##name();
 #define ZRK_COMMAND_ARG(name, text)
+#define ZRK_COMMAND_BYTES(name, text) static QByteArray getUsbCommand_##name(const QByteArray& bytes);
 #include "device/command_texts.def"
 
     // Sets the clock by a signed shift; the number is always sent with its sign ("+3", "-2").
@@ -107,27 +109,15 @@ public:
     static QByteArray getUsbCommand_DevicePassword(const QString& password);
     // File number, 16 bits little-endian.
     static QByteArray getUsbCommand_TM_FileRead(quint16 file);
-    static QByteArray getUsbCommand_TM_FileWrite(const QByteArray& data);
     // Threshold and duration, 16 bits little-endian each.
     static QByteArray getUsbCommand_Accel_Break(quint16 threshold, quint16 duration);
-    static QByteArray getUsbCommand_Accel_AclC(const QByteArray& params);
     // Page numbers, 32 bits little-endian.
     static QByteArray getUsbCommand_Dtp_ReadPageFile(quint32 page);
     static QByteArray getUsbCommand_ReadPage(quint32 page);
-    static QByteArray getUsbCommand_WritePage(const QByteArray& page);
-    static QByteArray getUsbCommand_File_ReadPage(const QByteArray& fileRecord);
-    static QByteArray getUsbCommand_File_WritePage(const QByteArray& fileRecord);
-    static QByteArray getUsbCommand_File_Info(const QByteArray& fileRecord);
-    static QByteArray getUsbCommand_File_Update(const QByteArray& fileRecord);
     static QByteArray getUsbCommand_Canlog_Ver(int version);
     // Server number and mileage in decimal text.
     static QByteArray getUsbCommand_ClearServerToDevice(int server);
     static QByteArray getUsbCommand_SetRun(quint32 km);
-    static QByteArray getUsbCommand_SetParamValue(const QByteArray& block);
-    static QByteArray getUsbCommand_Taho_Quest(const QByteArray& query);
-    static QByteArray getUsbCommand_Taho_File(const QByteArray& query);
-    static QByteArray getUsbCommand_Camera_Info(const QByteArray& query);
-    static QByteArray getUsbCommand_SD_Photo_Info(const QByteArray& query);
     // First and last log entry, 32 bits little-endian each.
     static QByteArray getUsbCommand_Log(quint32 first, quint32 last);
     static QByteArray getUsbCommandToDeviceTest(const QByteArray& bytes);

@@ -1,30 +1,15 @@
 // zrk-tool's packet and check-sum commands, run as the built program.
 #include "device/common_functions.h"
+#include "tests/common/tool_run.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 
-struct Run
+void row(const char* name, const QStringList& args, int code, const QByteArray& out = QByteArray())
 {
-    int code = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run runTool(const QStringList& args)
-{
-    QProcess p;
-    p.start(QStringLiteral(ZRK_TOOL_PATH), args);
-    Run r;
-    if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit)
-        return r;
-    r.code = p.exitCode();
-    r.out = p.readAllStandardOutput();
-    r.err = p.readAllStandardError();
-    return r;
+    QTest::newRow(name) << args << code << out;
 }
 
 } // namespace
@@ -33,22 +18,23 @@ class tst_ZrkToolPacket : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
     void commands_data();
     void commands();
+    void helpNamesTheCommands();
 
 private:
     QTemporaryDir m_dir;
     QString path(const char* name) const { return m_dir.filePath(QLatin1String(name)); }
 };
 
-void tst_ZrkToolPacket::initTestCase()
+void tst_ZrkToolPacket::commands_data()
 {
-    QVERIFY(m_dir.isValid());
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("out");
     const auto write = [this](const char* name, const QByteArray& bytes) {
         QFile f(path(name));
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
+        QVERIFY(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
     };
     write("digits", "123456789");
     write("empty", QByteArray());
@@ -56,63 +42,40 @@ void tst_ZrkToolPacket::initTestCase()
     // changed to "*#I" behind the old payload check, and a packet cut after ten bytes.
     write("capture",
         "zz"
-            + QByteArray::fromHex("405a524b000000000100000003004140"
-                                  "2a2348")
-            + QByteArray::fromHex("405a524b000000000100000000000002")
-            + QByteArray::fromHex("405a524b000000000100000003004140"
-                                  "2a2349")
-            + QByteArray::fromHex("405a524b000000000100000003004140").left(10));
-}
+            + QByteArray::fromHex("405a524b000000000100000003004140 2a2348"
+                                  "405a524b000000000100000000000002"
+                                  "405a524b000000000100000003004140 2a2349"
+                                  "405a524b000000000100"));
 
-void tst_ZrkToolPacket::commands_data()
-{
-    QTest::addColumn<QStringList>("args");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QByteArray>("out");
-
-    QTest::newRow("help") << QStringList { "--help" } << 0 << QByteArray();
-    QTest::newRow("build ping") << QStringList { "packet", "build", "*?PING 1" } << 0
-                                << QByteArray("405a524b00000000010000000800141e2a3f50494e472031\n");
-    QTest::newRow("build code page") << QStringList { "packet", "build", QString::fromUtf8("*>PASS:Я☺1") }
-                                     << 0
-                                     << QByteArray("405a524b00000000010000000a008e862a3e504153533adf5f31\n");
-    QTest::newRow("build with args") << QStringList { "packet", "build", "*!R", "--args", "04030201" } << 0
-                                     << QByteArray("405a524b000000000100000007005d582a215204030201\n");
-    QTest::newRow("build with no args") << QStringList { "packet", "build", "", "--args", "" } << 0
-                                        << QByteArray("405a524b000000000100000000000002\n");
+    row("build code page", { "packet", "build", QString::fromUtf8("*>PASS:Я☺1") }, 0,
+        "405a524b00000000010000000a008e862a3e504153533adf5f31\n");
+    row("build with args", { "packet", "build", "*!R", "--args", "04030201" }, 0,
+        "405a524b000000000100000007005d582a215204030201\n");
+    row("build with no args", { "packet", "build", "", "--args", "" }, 0,
+        "405a524b000000000100000000000002\n");
     const QString h = QString::number(commonFunctions::Reply_DataH);
     const QString i = QString::number(commonFunctions::Reply_DataI);
-    QTest::newRow("find") << QStringList { "packet", "find", path("capture") } << 0
-                          << QString("2\t19\tok\t" + h + "\tDataH\t*#H\n" + "21\t16\tok\t0\tUnknown\t\n"
-                                 + "37\t19\tbad\t" + i + "\tDataI\t*#I\n")
-                                 .toUtf8();
-    QTest::newRow("find in empty file")
-        << QStringList { "packet", "find", path("empty") } << 0 << QByteArray();
-    QTest::newRow("crc8") << QStringList { "crc8", path("digits") } << 0 << QByteArray("f7\n");
-    QTest::newRow("crc16") << QStringList { "crc16", path("digits") } << 0 << QByteArray("29b1\n");
-    QTest::newRow("crc32") << QStringList { "crc32", path("digits") } << 0 << QByteArray("cbf43926\n");
-    QTest::newRow("crc8 empty") << QStringList { "crc8", path("empty") } << 0 << QByteArray("ff\n");
-    QTest::newRow("crc16 empty") << QStringList { "crc16", path("empty") } << 0 << QByteArray("ffff\n");
-    QTest::newRow("crc32 empty") << QStringList { "crc32", path("empty") } << 0 << QByteArray("00000000\n");
+    row("find", { "packet", "find", path("capture") }, 0,
+        QString("2\t19\tok\t" + h + "\tDataH\t*#H\n" + "21\t16\tok\t0\tUnknown\t\n" + "37\t19\tbad\t" + i
+            + "\tDataI\t*#I\n")
+            .toUtf8());
+    row("find in empty file", { "packet", "find", path("empty") }, 0);
+    row("crc8", { "crc8", path("digits") }, 0, "f7\n");
+    row("crc16", { "crc16", path("digits") }, 0, "29b1\n");
+    row("crc32", { "crc32", path("digits") }, 0, "cbf43926\n");
+    row("crc32 empty", { "crc32", path("empty") }, 0, "00000000\n");
 
     // Bad input: a non-zero code, nothing on stdout and one line on stderr.
-    QTest::newRow("odd hex") << QStringList { "packet", "build", "*!R", "--args", "123" } << 1
-                             << QByteArray();
-    QTest::newRow("not hex") << QStringList { "packet", "build", "*!R", "--args", "zz" } << 1 << QByteArray();
-    QTest::newRow("too long") << QStringList { "packet", "build", QString(1009, 'a') } << 1 << QByteArray();
-    QTest::newRow("too long with args") << QStringList { "packet", "build", QString(1000, 'a'), "--args",
-        "000102030405060708" } << 1 << QByteArray();
-    QTest::newRow("stray option") << QStringList { "packet", "build", "x", "--hex", "00" } << 2
-                                  << QByteArray();
-    QTest::newRow("no packet command") << QStringList { "packet" } << 2 << QByteArray();
-    QTest::newRow("unknown packet command") << QStringList { "packet", "send" } << 2 << QByteArray();
-    QTest::newRow("find missing file")
-        << QStringList { "packet", "find", path("missing") } << 1 << QByteArray();
-    QTest::newRow("find a folder") << QStringList { "packet", "find", m_dir.path() } << 1 << QByteArray();
-    QTest::newRow("crc missing file") << QStringList { "crc32", path("missing") } << 1 << QByteArray();
-    QTest::newRow("crc two files") << QStringList { "crc8", path("digits"), path("digits") } << 2
-                                   << QByteArray();
-    QTest::newRow("crc no file") << QStringList { "crc16" } << 2 << QByteArray();
+    row("odd hex", { "packet", "build", "*!R", "--args", "123" }, 1);
+    row("not hex", { "packet", "build", "*!R", "--args", "zz" }, 1);
+    row("too long", { "packet", "build", QString(1009, 'a') }, 1);
+    row("stray option", { "packet", "build", "x", "--hex", "00" }, 2);
+    row("no packet command", { "packet" }, 2);
+    row("unknown packet command", { "packet", "send" }, 2);
+    row("find missing file", { "packet", "find", path("missing") }, 1);
+    row("find a folder", { "packet", "find", m_dir.path() }, 1);
+    row("crc missing file", { "crc32", path("missing") }, 1);
+    row("crc two files", { "crc8", path("digits"), path("digits") }, 2);
 }
 
 void tst_ZrkToolPacket::commands()
@@ -120,13 +83,8 @@ void tst_ZrkToolPacket::commands()
     QFETCH(QStringList, args);
     QFETCH(int, code);
     QFETCH(QByteArray, out);
-    const Run r = runTool(args);
+    const zrktest::ToolRun r = zrktest::runZrkTool(args);
     QCOMPARE(r.code, code);
-    if (args.first() == QLatin1String("--help")) {
-        QVERIFY(r.out.contains("packet build TEXT"));
-        QVERIFY(r.out.contains("crc8|crc16|crc32 FILE"));
-        return;
-    }
     QCOMPARE(r.out, out);
     if (code == 0) {
         QVERIFY(r.err.isEmpty());
@@ -135,6 +93,13 @@ void tst_ZrkToolPacket::commands()
         QVERIFY(r.err.endsWith('\n'));
         QCOMPARE(r.err.count('\n'), 1);
     }
+}
+
+void tst_ZrkToolPacket::helpNamesTheCommands()
+{
+    const zrktest::ToolRun r = zrktest::runZrkTool({ "--help" });
+    QCOMPARE(r.code, 0);
+    QVERIFY(r.out.contains("packet build TEXT") && r.out.contains("crc8|crc16|crc32 FILE"));
 }
 
 QTEST_GUILESS_MAIN(tst_ZrkToolPacket)
