@@ -249,40 +249,32 @@ const COneParameter* CListParameters::valued(const char* name) const
     return (p && p->value[0] != '\0') ? p : nullptr;
 }
 
+template <typename T>
+T CListParameters::readValued(const char* name, T def, bool (COneParameter::*as)(T&) const) const
+{
+    if (const COneParameter* p = valued(name))
+        (p->*as)(def);
+    return def;
+}
+
 int CListParameters::readInteger(const char* name, int def) const
 {
-    const COneParameter* p = valued(name);
-    int v = def;
-    if (p)
-        p->asInt(v);
-    return v;
+    return readValued(name, def, &COneParameter::asInt);
 }
 
 bool CListParameters::readBool(const char* name, bool def) const
 {
-    const COneParameter* p = valued(name);
-    bool v = def;
-    if (p)
-        p->asBool(v);
-    return v;
+    return readValued(name, def, &COneParameter::asBool);
 }
 
 float CListParameters::readFloat(const char* name, float def) const
 {
-    const COneParameter* p = valued(name);
-    float v = def;
-    if (p)
-        p->asFloat(v);
-    return v;
+    return readValued(name, def, &COneParameter::asFloat);
 }
 
 double CListParameters::readDouble(const char* name, double def) const
 {
-    const COneParameter* p = valued(name);
-    double v = def;
-    if (p)
-        p->asDouble(v);
-    return v;
+    return readValued(name, def, &COneParameter::asDouble);
 }
 
 char* CListParameters::readString(const char* name, const char* def, char* buf, int len) const

@@ -232,13 +232,8 @@ QString XmlWriter::protect(const QString& text)
     }
     if (plain)
         return text;
-    QString s = text;
-    s.replace(QLatin1Char('&'), QLatin1String("&amp;"));
-    s.replace(QLatin1Char('>'), QLatin1String("&gt;"));
-    s.replace(QLatin1Char('<'), QLatin1String("&lt;"));
-    s.replace(QLatin1Char('"'), QLatin1String("&quot;"));
-    s.replace(QLatin1Char('\''), QLatin1String("&apos;"));
-    return s;
+    return substituteEach(
+        text, { { "&", "&amp;" }, { ">", "&gt;" }, { "<", "&lt;" }, { "\"", "&quot;" }, { "'", "&apos;" } });
 }
 
 QString XmlWriter::protectTag(const QString& name)
