@@ -1,10 +1,14 @@
 #pragma once
 
-// Reading and writing whole files for the configuration tests.
+// Whole files and memory documents for the configuration tests.
+#include "config_model/serialize.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QString>
 #include <QtTest>
+
+#include <memory>
 
 namespace zrktest {
 
@@ -28,6 +32,26 @@ inline void writeFile(const QString& path, const QByteArray& bytes)
 inline QString dataFile(const char* name)
 {
     return QStringLiteral(ZRK_TEST_DATA_DIR "/") + QLatin1String(name);
+}
+
+// The document loaded from text in memory (empty text: an empty document), or null.
+inline std::unique_ptr<CSerialize> parsed(const QByteArray& text = QByteArray())
+{
+    auto s = std::make_unique<CSerialize>(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
+    return s->startSerialize() ? std::move(s) : nullptr;
+}
+
+inline QByteArray rendered(CSerialize& s)
+{
+    s.writeToFileV2Buf();
+    return s.outputData();
+}
+
+// Loads text and renders it again; a null array when it does not load.
+inline QByteArray normalize(const QByteArray& text)
+{
+    const auto s = parsed(text);
+    return s ? rendered(*s) : QByteArray();
 }
 
 } // namespace zrktest
