@@ -112,19 +112,14 @@ void tst_ConfigFacade::trackPageSavesAndReadsBack()
     QCOMPARE(root.readString("version"), QStringLiteral("3.5.8"));
     std::unique_ptr<CXMLWorkData> track(root.createNode("TRACK", 0));
     QCOMPARE(track->readString("page"), QStringLiteral("TRACK"));
-    const struct
-    {
-        const char* node;
-        const char* key;
-        int def;
-        int expected;
-    } reads[] = { { "POINTS", "maxSpeed", 1, 100 }, { "COORDFLT", "maxSpeed", 1, 200 },
-        { "COORDFLT", "minAlt", 0, -100 }, { "POINTS", "angleModeX", 2, 2 }, { "NOSUCH", "x", 9, 9 } };
-    for (const auto& r : reads) {
-        std::unique_ptr<CXMLWorkData> group(track->createNode(r.node, 0));
-        QVERIFY(group);
-        QCOMPARE(group->readInteger(r.key, r.def), r.expected);
-    }
+    const auto read = [&](const char* node, const char* key, int def) {
+        std::unique_ptr<CXMLWorkData> group(track->createNode(node, 0));
+        return group ? group->readInteger(key, def) : -999;
+    };
+    // The same key in another record, a negative value, a missing key, a missing record.
+    QCOMPARE(QVector<int>({ read("POINTS", "maxSpeed", 1), read("COORDFLT", "maxSpeed", 1),
+                 read("COORDFLT", "minAlt", 0), read("POINTS", "angleModeX", 2), read("NOSUCH", "x", 9) }),
+        QVector<int>({ 100, 200, -100, 2, 9 }));
     std::unique_ptr<CXMLWorkData> flt(track->createNode("COORDFLT", 0));
     QCOMPARE(flt->readFloat("maxHDOP", 0), 2.5f);
     closeFile(root, false);
