@@ -302,44 +302,36 @@ int CListParameters::append(const COneParameter& item)
     return addData(&item, 1);
 }
 
-int CListParameters::writeInteger(const char* name, int value)
+int CListParameters::store(const char* name, const COneParameter& fresh)
 {
+    // Looked up by the name as asked for, not as cut to the field: an over-long name never
+    // matches its stored form, so every such write appends.
     if (COneParameter* p = findParameter(name, 0)) {
-        p->setValueInt(value);
-        p->isNode = 0;
+        std::memcpy(p->value, fresh.value, sizeof p->value);
+        p->isNode = fresh.isNode;
         return 0;
     }
-    return append(COneParameter(name, value));
+    return append(fresh);
+}
+
+int CListParameters::writeInteger(const char* name, int value)
+{
+    return store(name, COneParameter(name, value));
 }
 
 int CListParameters::writeFloat(const char* name, float value)
 {
-    if (COneParameter* p = findParameter(name, 0)) {
-        p->setValueFloat(value);
-        p->isNode = 0;
-        return 0;
-    }
-    return append(COneParameter(name, value));
+    return store(name, COneParameter(name, value));
 }
 
 int CListParameters::writeBool(const char* name, bool value)
 {
-    if (COneParameter* p = findParameter(name, 0)) {
-        p->setValue(value ? "1" : "0");
-        p->isNode = 0;
-        return 0;
-    }
-    return append(COneParameter(name, value));
+    return store(name, COneParameter(name, value));
 }
 
 int CListParameters::writeString(const char* name, const char* text)
 {
-    if (COneParameter* p = findParameter(name, 0)) {
-        p->setValue(text);
-        p->isNode = 0;
-        return 0;
-    }
-    return append(COneParameter(name, text ? text : "", 0));
+    return store(name, COneParameter(name, text ? text : "", 0));
 }
 
 int CListParameters::writeString(const char* name, QString& text)

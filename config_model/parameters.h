@@ -137,4 +137,6 @@ private:
     // The typed reads: the default unless that item has a value to convert.
     template <typename T> T readValued(const char* name, T def, bool (COneParameter::*as)(T&) const) const;
     int append(const COneParameter& item);
+    // Rewrites the first item of that name with fresh's value and kind, or appends fresh.
+    int store(const char* name, const COneParameter& fresh);
 };
