@@ -37,7 +37,8 @@ inline QString dataFile(const char* name)
 // The document loaded from text in memory (empty text: an empty document), or null.
 inline std::unique_ptr<CSerialize> parsed(const QByteArray& text = QByteArray())
 {
-    auto s = std::make_unique<CSerialize>(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
+    auto s
+        = std::make_unique<CSerialize>(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
     return s->startSerialize() ? std::move(s) : nullptr;
 }
 
