@@ -249,40 +249,32 @@ const COneParameter* CListParameters::valued(const char* name) const
     return (p && p->value[0] != '\0') ? p : nullptr;
 }
 
+template <typename T>
+T CListParameters::readValued(const char* name, T def, bool (COneParameter::*as)(T&) const) const
+{
+    if (const COneParameter* p = valued(name))
+        (p->*as)(def);
+    return def;
+}
+
 int CListParameters::readInteger(const char* name, int def) const
 {
-    const COneParameter* p = valued(name);
-    int v = def;
-    if (p)
-        p->asInt(v);
-    return v;
+    return readValued(name, def, &COneParameter::asInt);
 }
 
 bool CListParameters::readBool(const char* name, bool def) const
 {
-    const COneParameter* p = valued(name);
-    bool v = def;
-    if (p)
-        p->asBool(v);
-    return v;
+    return readValued(name, def, &COneParameter::asBool);
 }
 
 float CListParameters::readFloat(const char* name, float def) const
 {
-    const COneParameter* p = valued(name);
-    float v = def;
-    if (p)
-        p->asFloat(v);
-    return v;
+    return readValued(name, def, &COneParameter::asFloat);
 }
 
 double CListParameters::readDouble(const char* name, double def) const
 {
-    const COneParameter* p = valued(name);
-    double v = def;
-    if (p)
-        p->asDouble(v);
-    return v;
+    return readValued(name, def, &COneParameter::asDouble);
 }
 
 char* CListParameters::readString(const char* name, const char* def, char* buf, int len) const
@@ -310,44 +302,36 @@ int CListParameters::append(const COneParameter& item)
     return addData(&item, 1);
 }
 
-int CListParameters::writeInteger(const char* name, int value)
+int CListParameters::store(const char* name, const COneParameter& fresh)
 {
+    // Looked up by the name as asked for, not as cut to the field: an over-long name never
+    // matches its stored form, so every such write appends.
     if (COneParameter* p = findParameter(name, 0)) {
-        p->setValueInt(value);
-        p->isNode = 0;
+        std::memcpy(p->value, fresh.value, sizeof p->value);
+        p->isNode = fresh.isNode;
         return 0;
     }
-    return append(COneParameter(name, value));
+    return append(fresh);
+}
+
+int CListParameters::writeInteger(const char* name, int value)
+{
+    return store(name, COneParameter(name, value));
 }
 
 int CListParameters::writeFloat(const char* name, float value)
 {
-    if (COneParameter* p = findParameter(name, 0)) {
-        p->setValueFloat(value);
-        p->isNode = 0;
-        return 0;
-    }
-    return append(COneParameter(name, value));
+    return store(name, COneParameter(name, value));
 }
 
 int CListParameters::writeBool(const char* name, bool value)
 {
-    if (COneParameter* p = findParameter(name, 0)) {
-        p->setValue(value ? "1" : "0");
-        p->isNode = 0;
-        return 0;
-    }
-    return append(COneParameter(name, value));
+    return store(name, COneParameter(name, value));
 }
 
 int CListParameters::writeString(const char* name, const char* text)
 {
-    if (COneParameter* p = findParameter(name, 0)) {
-        p->setValue(text);
-        p->isNode = 0;
-        return 0;
-    }
-    return append(COneParameter(name, text ? text : "", 0));
+    return store(name, COneParameter(name, text ? text : "", 0));
 }
 
 int CListParameters::writeString(const char* name, QString& text)

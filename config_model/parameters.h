@@ -134,5 +134,9 @@ public:
 private:
     // The first item of that name with a non-empty value, or null.
     const COneParameter* valued(const char* name) const;
+    // The typed reads: the default unless that item has a value to convert.
+    template <typename T> T readValued(const char* name, T def, bool (COneParameter::*as)(T&) const) const;
     int append(const COneParameter& item);
+    // Rewrites the first item of that name with fresh's value and kind, or appends fresh.
+    int store(const char* name, const COneParameter& fresh);
 };

@@ -232,13 +232,8 @@ QString XmlWriter::protect(const QString& text)
     }
     if (plain)
         return text;
-    QString s = text;
-    s.replace(QLatin1Char('&'), QLatin1String("&amp;"));
-    s.replace(QLatin1Char('>'), QLatin1String("&gt;"));
-    s.replace(QLatin1Char('<'), QLatin1String("&lt;"));
-    s.replace(QLatin1Char('"'), QLatin1String("&quot;"));
-    s.replace(QLatin1Char('\''), QLatin1String("&apos;"));
-    return s;
+    return substituteEach(
+        text, { { "&", "&amp;" }, { ">", "&gt;" }, { "<", "&lt;" }, { "\"", "&quot;" }, { "'", "&apos;" } });
 }
 
 QString XmlWriter::protectTag(const QString& name)
@@ -589,24 +584,18 @@ void CSerialize::getTagNodeV2(const CXmlTagV2* tag, coreSzArrayItem* out) const
 {
     if (!tag || !out || !out->items)
         return;
+    // Attributes first, then children, as far as the array reaches.
     int i = 0;
-    for (CXmlTagV2* a : tag->values) {
-        if (i >= out->count)
-            return;
-        coreSzItem& item = out->items[i++];
-        copyText(item.name, a->name.toLocal8Bit());
-        copyText(item.value, a->value.toLocal8Bit());
-        item.isNode = 0;
-        item.tag = a;
-    }
-    for (CXmlTagV2* c : tag->children) {
-        if (i >= out->count)
-            return;
-        coreSzItem& item = out->items[i++];
-        copyText(item.name, c->name.toLocal8Bit());
-        copyText(item.value, c->value.toLocal8Bit());
-        item.isNode = 1;
-        item.tag = c;
+    for (const CFxXmListlTag* list : { &tag->values, &tag->children }) {
+        for (CXmlTagV2* t : *list) {
+            if (i >= out->count)
+                return;
+            coreSzItem& item = out->items[i++];
+            copyText(item.name, t->name.toLocal8Bit());
+            copyText(item.value, t->value.toLocal8Bit());
+            item.isNode = list == &tag->children ? 1 : 0;
+            item.tag = t;
+        }
     }
 }
 

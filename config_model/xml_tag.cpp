@@ -159,13 +159,14 @@ QString CXmlTagV2::decodeText(const QString& text)
     // Nothing to decode in the common case: no entity and no "!" escape can be present.
     if (!text.contains(QLatin1Char('&')) && !text.contains(QLatin1String("_33_")))
         return text;
-    QString s = text;
-    s.replace(QLatin1String("&amp;"), QLatin1String("&"));
-    s.replace(QLatin1String("&nbsp;"), QLatin1String(" "));
-    s.replace(QLatin1String("&gt;"), QLatin1String(">"));
-    s.replace(QLatin1String("&lt;"), QLatin1String("<"));
-    s.replace(QLatin1String("&quot;"), QLatin1String("\""));
-    s.replace(QLatin1String("&apos;"), QLatin1String("'"));
-    s.replace(QLatin1String("_33_"), QLatin1String("!"));
-    return s;
+    return substituteEach(text,
+        { { "&amp;", "&" }, { "&nbsp;", " " }, { "&gt;", ">" }, { "&lt;", "<" }, { "&quot;", "\"" },
+            { "&apos;", "'" }, { "_33_", "!" } });
+}
+
+QString substituteEach(QString text, std::initializer_list<TextSubstitution> table)
+{
+    for (const TextSubstitution& t : table)
+        text.replace(QLatin1String(t.from), QLatin1String(t.to));
+    return text;
 }

@@ -2,7 +2,20 @@
 
 #include <QString>
 
+#include <initializer_list>
+
 class CXmlTagV2;
+
+// One replacement of an escaping or decoding table.
+struct TextSubstitution
+{
+    const char* from;
+    const char* to;
+};
+
+// Applies each replacement in turn over the whole text; the order is the table's meaning
+// (an escaping table replaces "&" first, a decoding table decodes "&amp;" first).
+QString substituteEach(QString text, std::initializer_list<TextSubstitution> table);
 
 // An ordered, owning list of elements (the children of one element, or its attribute entries).
 // Doubly linked so that appending and unlinking never move the other entries. The links live in

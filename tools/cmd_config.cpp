@@ -27,12 +27,8 @@ void count(const CXmlTagV2* tag, Counts& c)
 
 QString quoted(const QString& text)
 {
-    QString s = text;
-    s.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
-    s.replace(QLatin1Char('"'), QLatin1String("\\\""));
-    s.replace(QLatin1Char('\n'), QLatin1String("\\n"));
-    s.replace(QLatin1Char('\r'), QLatin1String("\\r"));
-    s.replace(QLatin1Char('\t'), QLatin1String("\\t"));
+    const QString s = substituteEach(
+        text, { { "\\", "\\\\" }, { "\"", "\\\"" }, { "\n", "\\n" }, { "\r", "\\r" }, { "\t", "\\t" } });
     // Other control characters (a name read back from "_1095_" holds one) are shown by code.
     QString shown;
     for (const QChar c : s) {

@@ -1,63 +1,25 @@
 // zrk-tool config, run as the built program.
-#include <QFile>
-#include <QProcess>
+#include "../common/tool_run.h"
+#include "config_files.h"
+
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-
-struct Run
-{
-    int code = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Run runTool(const QStringList& args)
-{
-    QProcess p;
-    p.start(QStringLiteral(ZRK_TOOL), args);
-    Run r;
-    if (!p.waitForFinished(30000))
-        return r;
-    r.code = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2;
-    r.out = p.readAllStandardOutput();
-    r.err = p.readAllStandardError();
-    return r;
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
-}
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
-const QString kData = QStringLiteral(ZRK_TEST_DATA_DIR);
-
-} // namespace
+using namespace zrktest;
 
 class tst_ConfigTool : public QObject
 {
     Q_OBJECT
 private slots:
-    void check();
-    void normalizeShowsTheFormatsRules();
-    void dump();
+    void checkNormalizeDump();
     void failures_data();
     void failures();
 };
 
-void tst_ConfigTool::check()
+void tst_ConfigTool::checkNormalizeDump()
 {
-    Run r = runTool(
-        { QStringLiteral("config"), QStringLiteral("check"), kData + QStringLiteral("/track_page.xml") });
+    const QStringList config { QStringLiteral("config") };
+    ToolRun r = runZrkTool(config + QStringList { "check", dataFile("track_page.xml") });
     QCOMPARE(r.code, 0);
     QCOMPARE(r.out, QByteArray("root DEVICE, 8 elements, 37 attributes\n"));
     QVERIFY(r.err.isEmpty());
@@ -65,35 +27,23 @@ void tst_ConfigTool::check()
     QTemporaryDir dir;
     const QString empty = dir.filePath(QStringLiteral("empty.xml"));
     writeFile(empty, QByteArray());
-    r = runTool({ QStringLiteral("config"), QStringLiteral("check"), empty });
+    r = runZrkTool(config + QStringList { "check", empty });
     QCOMPARE(r.code, 0);
     QVERIFY(r.out.contains("empty document"));
-}
 
-void tst_ConfigTool::normalizeShowsTheFormatsRules()
-{
-    QTemporaryDir dir;
     const QString out = dir.filePath(QStringLiteral("out.xml"));
-    Run r = runTool({ QStringLiteral("config"), QStringLiteral("normalize"),
-        kData + QStringLiteral("/roundtrip_in.xml"), out });
+    r = runZrkTool(config + QStringList { "normalize", dataFile("roundtrip_in.xml"), out });
     QCOMPARE(r.code, 0);
     QVERIFY(r.err.isEmpty());
-    QCOMPARE(readFile(out), readFile(kData + QStringLiteral("/roundtrip_out.xml")));
-}
+    QCOMPARE(readFile(out), readFile(dataFile("roundtrip_out.xml")));
 
-void tst_ConfigTool::dump()
-{
-    QTemporaryDir dir;
     const QString in = dir.filePath(QStringLiteral("in.xml"));
-    writeFile(in,
-        "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n<DEVICE b=\"2\" a=\"\xC6\">"
-        "<T>x \"y\"</T><a_32_b k=\"1\"/></DEVICE>");
-    Run r = runTool({ QStringLiteral("config"), QStringLiteral("dump"), in });
+    writeFile(in, kDecl + "<DEVICE b=\"2\" a=\"\xC6\"><T>x \"y\"</T><a_32_b k=\"1\"/></DEVICE>");
+    r = runZrkTool(config + QStringList { "dump", in });
     QCOMPARE(r.code, 0);
     QCOMPARE(QString::fromUtf8(r.out),
-        QString::fromUtf8("0 1 \"DEVICE\" b=\"2\" a=\"Ж\"\n"
-                          "1 2 \"T\" text=\"x \\\"y\\\"\"\n"
-                          "1 1 \"a b\" k=\"1\"\n"));
+        QString::fromUtf8(
+            "0 1 \"DEVICE\" b=\"2\" a=\"Ж\"\n1 2 \"T\" text=\"x \\\"y\\\"\"\n1 1 \"a b\" k=\"1\"\n"));
 }
 
 void tst_ConfigTool::failures_data()
@@ -129,19 +79,18 @@ void tst_ConfigTool::failures()
     const QString file = dir.filePath(QStringLiteral("f.xml"));
     if (!content.isNull())
         writeFile(file, content);
-    for (QString& a : args) {
-        a.replace(QStringLiteral("FILE"), file);
-        a.replace(QStringLiteral("DIR"), dir.path());
-    }
-    const Run r = runTool(args);
+    for (QString& a : args)
+        a.replace(QStringLiteral("FILE"), file).replace(QStringLiteral("DIR"), dir.path());
+    const ToolRun r = runZrkTool(args);
     QCOMPARE(r.code, code);
     QVERIFY(r.out.isEmpty());
     QVERIFY2(r.err.contains(message), r.err.constData());
     QCOMPARE(r.err.count('\n'), 1); // one line
+    // A file that fails to load is left as it was, and a missing one is not created.
     if (content.isNull())
         QVERIFY(!QFile::exists(file));
     else
-        QCOMPARE(readFile(file), content); // a file that fails to load is left as it was
+        QCOMPARE(readFile(file), content);
 }
 
 QTEST_APPLESS_MAIN(tst_ConfigTool)
