@@ -393,6 +393,12 @@ CSerialize::~CSerialize()
 
 bool CSerialize::startSerialize()
 {
+    m_loadFailed = !load();
+    return !m_loadFailed;
+}
+
+bool CSerialize::load()
+{
     m_depthMarker.clear();
     delete m_root;
     m_root = nullptr;
@@ -534,7 +540,8 @@ bool CSerialize::saveAs(const QString& path)
 
 bool CSerialize::writeToFileV2()
 {
-    if (!m_fileMode)
+    // A file that did not load is never overwritten: the user's bytes would be lost for good.
+    if (!m_fileMode || m_loadFailed)
         return false;
     if (m_file.isOpen())
         m_file.close();

@@ -98,6 +98,7 @@ public:
     QByteArray render();
 
 private:
+    bool load();
     bool parse(const QByteArray& text);
     void writeTagInFileV2(const CXmlTagV2* tag);
     void writeDocument(QIODevice* device);
@@ -112,4 +113,5 @@ private:
     QByteArray m_output;
     bool m_fileMode;
     QString m_error;
+    bool m_loadFailed = false;
 };
