@@ -11,12 +11,12 @@
 #include <limits>
 
 const char* const kPacketUsage
-    = "  packet build TEXT [--args HEX]    the command packet for TEXT (binary arguments in HEX) as hex\n"
-      "  packet find FILE                  every complete packet of a raw capture, as a receiver takes\n"
-      "                                    them: offset, length, payload check (ok/bad), reply kind\n"
-      "                                    number and name, payload text (tab-separated)\n";
+    = "  packet build TEXT [--args HEX]  the command packet for TEXT (binary arguments in HEX) as hex\n"
+      "  packet find FILE                every complete packet of a raw capture, as a receiver takes\n"
+      "                                  them: offset, length, payload check (ok/bad), reply kind\n"
+      "                                  number and name, payload text (tab-separated)\n";
 
-const char* const kCrcUsage = "  crc8|crc16|crc32 FILE             the file's check sum in hex\n";
+const char* const kCrcUsage = "  crc8|crc16|crc32 FILE           the file's check sum in hex\n";
 
 namespace {
 
