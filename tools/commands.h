@@ -7,7 +7,7 @@
 // returns the process exit code and writes a one-line error to err on bad input.
 struct ToolCommand
 {
-    const char* name;  // first word on the command line
+    const char* name; // first word on the command line
     const char* usage; // lines for --help
     int (*run)(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
 };

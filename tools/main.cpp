@@ -8,12 +8,12 @@
 namespace {
 
 const ToolCommand kCommands[] = {
-    {"packet", kPacketUsage, runPacketCommand},
-    {"crc8", kCrcUsage, runCrcCommand},
-    {"crc16", nullptr, runCrcCommand},
-    {"crc32", nullptr, runCrcCommand},
-    {"decode", kDecodeUsage, runDecodeCommand},
-    {"config", kConfigUsage, runConfigCommand},
+    { "packet", kPacketUsage, runPacketCommand },
+    { "crc8", kCrcUsage, runCrcCommand },
+    { "crc16", nullptr, runCrcCommand },
+    { "crc32", nullptr, runCrcCommand },
+    { "decode", kDecodeUsage, runDecodeCommand },
+    { "config", kConfigUsage, runConfigCommand },
 };
 
 void printUsage(QTextStream& s)
