@@ -216,21 +216,18 @@ private slots:
 
     void libraryInfoCutsLongType();
     void routingTableMatchesHeader();
-    void nullAddressesAreIgnored_data();
-    void nullAddressesAreIgnored();
+    void nothingReached_data();
+    void nothingReached();
     void windowRows_data();
     void windowRows();
-    void windowRowsDroppedWithoutWindow();
     void touchMemoryGoesToWaitingWidget_data();
     void touchMemoryGoesToWaitingWidget();
     void hiddenWidgetsAreSkipped();
     void displayValueNeedsActiveTelemetryView();
     void configWriteAndReadNeedConnection();
     void focusNeedsVisibleConfig();
-    void connectSequence_data();
-    void connectSequence();
-    void connectWithOtherTypeDisconnects();
-    void disconnectSequence();
+    void connectionSequence_data();
+    void connectionSequence();
     void connectEmptiesConfigParam();
     void setTypeAndVendor();
     void closeByHost_data();
@@ -258,13 +255,31 @@ private:
             w->setVisible(shown);
         gLog.clear();
     }
+    // Another type comes with another connection type, which must not be taken.
     void connect(const char* type = "K-7140")
     {
         szDeviceConnect rec { type, "861234567890123", "3.5.8", nullptr, 0x1122334455667788ULL, 0xFFFFFFFF,
-            4 };
+            qstrcmp(type, "K-7140") ? 9u : 4u };
         dev->ZRK_ReceiveMessage(dev, 2051, addr(rec), 0);
     }
     void setMode(quint32 mode) { dev->ZRK_ReceiveMessage(dev, 2004, addr(mode), 0); }
+    // A word of the shape a row names: "x" for texts and bytes, 42 for numbers, 1 for flags.
+    unsigned long word(const QByteArray& type)
+    {
+        if (type == "-")
+            return 0;
+        if (type.startsWith("QByteArray"))
+            return addr(bytes = "x");
+        if (type.startsWith("QString"))
+            return addr(text = "x");
+        if (type.startsWith("sz"))
+            return addr(record);
+        return addr(value = type.startsWith("bool") ? 1 : 42);
+    }
+    QByteArray bytes;
+    QString text;
+    quint64 value = 0;
+    alignas(8) char record[64] = {};
 
     ZRK_Device_K7140* dev = nullptr;
     RecWindows windows;
@@ -320,31 +335,39 @@ void tst_DeviceK7140::routingTableMatchesHeader()
             ZRK_Device_K7140::isRoutedMessage(id) == inTable.contains(id), qPrintable(QString::number(id)));
 }
 
-// Every row that reads or writes through an address, given zero words with all windows open and
-// shown: no window operation runs, nothing is sent, nothing crashes.
-void tst_DeviceK7140::nullAddressesAreIgnored_data()
+// Rows that forward their arguments to one window operation, with the windows open and shown.
+void tst_DeviceK7140::nothingReached_data()
 {
     QTest::addColumn<int>("msg");
     for (const ZrkMessageInfo& row : kZrkMessageTable) {
-        if (row.direction == ZrkMessageDirection::HostToPlugin && QByteArray(row.wParam) != "-")
+        if (row.direction == ZrkMessageDirection::HostToPlugin)
             QTest::newRow(row.name) << row.id;
     }
 }
 
-void tst_DeviceK7140::nullAddressesAreIgnored()
+// A row whose window does not exist yet is dropped, and one given zero words where it expects an
+// address is ignored even with all windows open and shown: no window operation, nothing sent.
+void tst_DeviceK7140::nothingReached()
 {
     QFETCH(int, msg);
-    openWindows(true);
-    dev->ZRK_ReceiveMessage(dev, msg, 0, 0);
+    const ZrkMessageInfo* row = zrkMessageInfo(msg, ZrkMessageDirection::HostToPlugin);
+    // Rows that make their window, or touch no window at all.
+    if (!QList<int> { 2001, 2002, 2003, 2004, 2005, 2006, 2010, 2026, 2031, 2049, 2051, 2052, 2101, 2102,
+            2103, 2272, 2346, 2356, 2399 }
+             .contains(msg)) {
+        dev->ZRK_ReceiveMessage(dev, msg, word(row->wParam), word(row->lParam));
+        QVERIFY(!dev->widgetConfig() && !dev->widgetTmiView() && !dev->widgetTest());
+    }
+    if (QByteArray(row->wParam) != "-") {
+        openWindows(true);
+        dev->ZRK_ReceiveMessage(dev, msg, 0, 0);
+        QCOMPARE(dev->getDeviceType(), QStringLiteral("K-7140"));
+        QCOMPARE(lpGlobalEventBus, nullptr);
+    }
     QVERIFY2(gLog.isEmpty(), qPrintable(gLog.join(' ')));
     QVERIFY(gSent.isEmpty());
-    QCOMPARE(dev->getDeviceType(), QStringLiteral("K-7140"));
-    QCOMPARE(lpGlobalEventBus, nullptr);
 }
 
-// Rows that forward their arguments to one window operation, with the windows open and shown.
-// Each argument is taken from the shape its row names: "x" for texts and bytes, 42 for numbers,
-// 1 for flags.
 void tst_DeviceK7140::windowRows_data()
 {
     QTest::addColumn<int>("msg");
@@ -408,52 +431,10 @@ void tst_DeviceK7140::windowRows()
     QFETCH(int, msg);
     QFETCH(QString, expected);
     openWindows(true);
-    QByteArray bytes("x");
-    QString text("x");
-    quint64 value = 42;
-    char record[64] = {};
     const ZrkMessageInfo* row = zrkMessageInfo(msg, ZrkMessageDirection::HostToPlugin);
-    QVERIFY(row);
-    const auto word = [&](const QByteArray& type) -> unsigned long {
-        if (type == "-")
-            return 0;
-        if (type.startsWith("QByteArray"))
-            return addr(bytes);
-        if (type.startsWith("QString"))
-            return addr(text);
-        if (type.startsWith("sz"))
-            return addr(record);
-        if (type.startsWith("bool"))
-            value = 1;
-        return addr(value);
-    };
     const unsigned long w = word(row->wParam);
     dev->ZRK_ReceiveMessage(dev, msg, w, word(row->lParam));
     QCOMPARE(gLog, QStringList { expected });
-}
-
-void tst_DeviceK7140::windowRowsDroppedWithoutWindow()
-{
-    QByteArray bytes("x");
-    quint64 value = 1;
-    QString text("x");
-    for (const ZrkMessageInfo& row : kZrkMessageTable) {
-        if (row.direction != ZrkMessageDirection::HostToPlugin)
-            continue;
-        // Rows that make their window, or touch no window at all.
-        if (QList<int> { 2001, 2002, 2003, 2004, 2005, 2006, 2010, 2026, 2031, 2049, 2051, 2052, 2101, 2102,
-                2103, 2272, 2346, 2356, 2399 }
-                .contains(row.id))
-            continue;
-        const QByteArray wType(row.wParam);
-        unsigned long w = wType == "QString*"                                                 ? addr(text)
-            : wType == "-"                                                                    ? 0
-            : wType.startsWith("uint") || wType.startsWith("int") || wType.startsWith("bool") ? addr(value)
-                                                                                              : addr(bytes);
-        dev->ZRK_ReceiveMessage(dev, row.id, w, addr(value));
-    }
-    QVERIFY2(gLog.isEmpty(), qPrintable(gLog.join(' ')));
-    QVERIFY(!dev->widgetConfig() && !dev->widgetTmiView() && !dev->widgetTest());
 }
 
 void tst_DeviceK7140::touchMemoryGoesToWaitingWidget_data()
@@ -541,68 +522,50 @@ void tst_DeviceK7140::focusNeedsVisibleConfig()
     QCOMPARE(gLog, QStringList { "cfg.setWindowFocus" });
 }
 
-void tst_DeviceK7140::connectSequence_data()
+void tst_DeviceK7140::connectionSequence_data()
 {
     QTest::addColumn<quint32>("mode");
     QTest::addColumn<bool>("windowsOpen");
+    QTest::addColumn<QByteArray>("type"); // the type connected; empty: a disconnect (2052)
     QTest::addColumn<QStringList>("expected");
-    QTest::newRow("no windows, mode 0") << 0u << false << QStringList { "new.test" };
-    QTest::newRow("no windows, mode 5") << 5u << false << QStringList { "new.test", "test.deviceConnect" };
-    QTest::newRow("windows, mode 0") << 0u << true
-                                     << QStringList { "cfg.deviceConnect", "tmi.deviceConnect" };
-    QTest::newRow("windows, mode 5") << 5u << true
-                                     << QStringList { "cfg.deviceConnect", "tmi.deviceConnect",
-                                            "test.deviceConnect" };
+    const QStringList allConnect { "cfg.deviceConnect", "tmi.deviceConnect", "test.deviceConnect" };
+    const QStringList allDisconnect { "cfg.deviceDisconnect", "tmi.deviceDisconnect",
+        "test.deviceDisconnect" };
+    QTest::newRow("no windows, mode 0") << 0u << false << QByteArray("K-7140") << QStringList { "new.test" };
+    QTest::newRow("no windows, mode 5")
+        << 5u << false << QByteArray("K-7140") << QStringList { "new.test", "test.deviceConnect" };
+    QTest::newRow("windows, mode 0") << 0u << true << QByteArray("K-7140")
+                                     << QStringList(allConnect.mid(0, 2));
+    QTest::newRow("windows, mode 5") << 5u << true << QByteArray("K-7140") << allConnect;
+    // Connected before: another type runs the full disconnect; the test window only in mode 5.
+    QTest::newRow("other type, mode 5") << 5u << true << QByteArray("K-7150") << allDisconnect;
+    QTest::newRow("disconnect, mode 5") << 5u << true << QByteArray() << allDisconnect;
+    QTest::newRow("disconnect, mode 1") << 1u << true << QByteArray() << QStringList(allDisconnect.mid(0, 2));
 }
 
-void tst_DeviceK7140::connectSequence()
+void tst_DeviceK7140::connectionSequence()
 {
     QFETCH(quint32, mode);
     QFETCH(bool, windowsOpen);
+    QFETCH(QByteArray, type);
     QFETCH(QStringList, expected);
     setMode(mode);
+    const bool disconnecting = type != "K-7140";
+    if (disconnecting)
+        connect();
     if (windowsOpen)
         openWindows(false);
-    connect();
+    if (type.isEmpty())
+        dev->ZRK_ReceiveMessage(dev, 2052, 0, 0);
+    else
+        connect(type.constData());
     QCOMPARE(gLog, expected);
-    QVERIFY(dev->isDeviceConnected());
-    QCOMPARE(dev->getDeviceImei(), QStringLiteral("861234567890123"));
-    QCOMPARE(dev->getDeviceFirmvareVer(), QStringLiteral("3.5.8"));
-    QCOMPARE(dev->getDeviceBHR(), 0x1122334455667788ULL);
-    QCOMPARE(dev->getConnectType(), 4u);
+    QCOMPARE(dev->isDeviceConnected(), !disconnecting);
+    QCOMPARE(dev->getDeviceImei(), disconnecting ? QString() : QStringLiteral("861234567890123"));
+    QCOMPARE(dev->getDeviceFirmvareVer(), disconnecting ? QString() : QStringLiteral("3.5.8"));
+    QCOMPARE(dev->getDeviceBHR(), disconnecting ? 0ULL : 0x1122334455667788ULL);
+    QCOMPARE(dev->getConnectType(), 4u); // kept from the last connect of this type
     QCOMPARE(dev->getConfiguratorMode(), mode);
-}
-
-void tst_DeviceK7140::connectWithOtherTypeDisconnects()
-{
-    setMode(5);
-    connect();
-    openWindows(false);
-    connect("K-7150");
-    QCOMPARE(gLog, (QStringList { "cfg.deviceDisconnect", "tmi.deviceDisconnect", "test.deviceDisconnect" }));
-    QVERIFY(!dev->isDeviceConnected());
-    QCOMPARE(dev->getDeviceImei(), QString());
-    QCOMPARE(dev->getDeviceFirmvareVer(), QString());
-    QCOMPARE(dev->getDeviceBHR(), 0ULL);
-    QCOMPARE(dev->getConnectType(), 4u); // the connection type stays as it was
-}
-
-void tst_DeviceK7140::disconnectSequence()
-{
-    setMode(5);
-    connect();
-    openWindows(false);
-    dev->ZRK_ReceiveMessage(dev, 2052, 0, 0);
-    QCOMPARE(gLog, (QStringList { "cfg.deviceDisconnect", "tmi.deviceDisconnect", "test.deviceDisconnect" }));
-    QVERIFY(!dev->isDeviceConnected());
-    QCOMPARE(dev->getDeviceImei(), QString());
-    QCOMPARE(dev->getDeviceBHR(), 0ULL);
-    QCOMPARE(dev->getConnectType(), 4u);
-    // Outside the service mode the test window is left alone.
-    setMode(1);
-    gLog.clear();
-    dev->ZRK_ReceiveMessage(dev, 2052, 0, 0);
-    QCOMPARE(gLog, (QStringList { "cfg.deviceDisconnect", "tmi.deviceDisconnect" }));
 }
 
 void tst_DeviceK7140::connectEmptiesConfigParam()

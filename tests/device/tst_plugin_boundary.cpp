@@ -292,18 +292,6 @@ void tst_PluginBoundary::openingWindows()
     QCOMPARE(seen, QStringList { "2370" });
     QCOMPARE(reentrantAnswer, QByteArray()); // the re-entrant 2356 answered inside the callback
 
-    QString name = QStringLiteral("/nowhere/a.tmi");
-    quint32 kind = 2;
-    send(2103, addr(name), addr(kind));
-    QVERIFY(!topLevel("ZRK_Widget_Tmi_Page") && !topLevel("ZRK_Widget_Tmi_Table"));
-    kind = 1;
-    send(2103, addr(name), addr(kind));
-    QVERIFY(topLevel("ZRK_Widget_Tmi_Table"));
-    QVERIFY(topLevel("ZRK_Widget_Tmi_Table")->isVisible());
-    kind = 0;
-    send(2103, addr(name), addr(kind));
-    QVERIFY(topLevel("ZRK_Widget_Tmi_Page"));
-
     // The host closes the plug-in: the configuration window agrees and says so.
     bool closed = false;
     config->show();
