@@ -220,12 +220,8 @@ private slots:
     void nothingReached();
     void windowRows_data();
     void windowRows();
-    void touchMemoryGoesToWaitingWidget_data();
-    void touchMemoryGoesToWaitingWidget();
-    void hiddenWidgetsAreSkipped();
-    void displayValueNeedsActiveTelemetryView();
-    void configWriteAndReadNeedConnection();
-    void focusNeedsVisibleConfig();
+    void conditionalRows_data();
+    void conditionalRows();
     void connectionSequence_data();
     void connectionSequence();
     void connectEmptiesConfigParam();
@@ -437,89 +433,59 @@ void tst_DeviceK7140::windowRows()
     QCOMPARE(gLog, QStringList { expected });
 }
 
-void tst_DeviceK7140::touchMemoryGoesToWaitingWidget_data()
+// Rows whose target depends on state. The state letters: c, t, s the configuration, telemetry and
+// test windows shown; a the telemetry view active; n connected; 0, 1, 2 the widget waiting for a key.
+void tst_DeviceK7140::conditionalRows_data()
 {
-    QTest::addColumn<int>("waiting");
+    QTest::addColumn<int>("msg");
+    QTest::addColumn<QByteArray>("state");
     QTest::addColumn<QStringList>("expected");
-    QTest::newRow("configuration") << 0 << QStringList { "cfg.receiveTM(123456789012)" };
-    QTest::newRow("telemetry") << 1 << QStringList { "tmi.setToucheMemory(123456789012)" };
-    QTest::newRow("2: nobody") << 2 << QStringList();
-    QTest::newRow("-1: nobody") << -1 << QStringList();
+    const QStringList both { "tmi.setCurrentAnalogValue", "cfg.receiveAdValueFuel_UN" };
+    QTest::newRow("2381 not connected") << 2381 << QByteArray("c") << QStringList();
+    QTest::newRow("2381 connected") << 2381 << QByteArray("n") << QStringList { "cfg.saveConfigToDevice" };
+    QTest::newRow("2382 not connected") << 2382 << QByteArray("c") << QStringList();
+    QTest::newRow("2382 connected") << 2382 << QByteArray("n") << QStringList { "cfg.readConfigFromDevice" };
+    QTest::newRow("2373 hidden") << 2373 << QByteArray("ts") << QStringList();
+    QTest::newRow("2373 shown") << 2373 << QByteArray("c") << QStringList { "cfg.setWindowFocus" };
+    QTest::newRow("2081 hidden") << 2081 << QByteArray("t") << QStringList();
+    QTest::newRow("2081 test, cfg") << 2081 << QByteArray("sc")
+                                    << QStringList { "test.receive_Device_Test(x)",
+                                           "cfg.receiveDataTest(x)" };
+    QTest::newRow("2081 cfg") << 2081 << QByteArray("c") << QStringList { "cfg.receiveDataTest(x)" };
+    QTest::newRow("2247 hidden") << 2247 << QByteArray("s") << QStringList();
+    QTest::newRow("2247 cfg") << 2247 << QByteArray("c") << QStringList(both.mid(1));
+    QTest::newRow("2247 both") << 2247 << QByteArray("ct") << both;
+    QTest::newRow("2247 tmi") << 2247 << QByteArray("t") << QStringList(both.mid(0, 1));
+    // The configuration window gets 2265 even while hidden; the view only while active.
+    QTest::newRow("2265 hidden") << 2265 << QByteArray("")
+                                 << QStringList { "cfg.receiveCurrentDispValue(42)" };
+    QTest::newRow("2265 active") << 2265 << QByteArray("ta")
+                                 << QStringList { "tmi.receiveCurrentDispValue(42)",
+                                        "cfg.receiveCurrentDispValue(42)" };
+    QTest::newRow("2241 for cfg") << 2241 << QByteArray("0") << QStringList { "cfg.receiveTM(42)" };
+    QTest::newRow("2241 for tmi") << 2241 << QByteArray("1") << QStringList { "tmi.setToucheMemory(42)" };
+    QTest::newRow("2241 for 2") << 2241 << QByteArray("2ct") << QStringList();
 }
 
-void tst_DeviceK7140::touchMemoryGoesToWaitingWidget()
+void tst_DeviceK7140::conditionalRows()
 {
-    QFETCH(int, waiting);
+    QFETCH(int, msg);
+    QFETCH(QByteArray, state);
     QFETCH(QStringList, expected);
+    if (state.contains('n'))
+        connect();
     openWindows(false);
-    dev->setWidgetWaitReceive(waiting);
-    quint64 code = 123456789012ULL;
-    dev->ZRK_ReceiveMessage(dev, 2241, addr(code), 0);
+    dev->widgetConfig()->setVisible(state.contains('c') || state.contains('n'));
+    dev->widgetTmiView()->setVisible(state.contains('t'));
+    dev->widgetTest()->setVisible(state.contains('s'));
+    if (state.contains('a')) {
+        QApplication::setActiveWindow(dev->widgetTmiView());
+        QVERIFY(dev->widgetTmiView()->isActiveWindow());
+    }
+    dev->setWidgetWaitReceive(QByteArray("012").contains(state[0]) ? state[0] - '0' : -1);
+    const ZrkMessageInfo* row = zrkMessageInfo(msg, ZrkMessageDirection::HostToPlugin);
+    dev->ZRK_ReceiveMessage(dev, msg, word(row->wParam), 0);
     QCOMPARE(gLog, expected);
-}
-
-void tst_DeviceK7140::hiddenWidgetsAreSkipped()
-{
-    QByteArray data("t");
-    char record[16] = {};
-    openWindows(false);
-    dev->ZRK_ReceiveMessage(dev, 2081, addr(data), 0);
-    dev->ZRK_ReceiveMessage(dev, 2247, addr(record), 0);
-    QVERIFY(gLog.isEmpty());
-
-    dev->widgetTest()->show();
-    dev->widgetConfig()->show();
-    dev->ZRK_ReceiveMessage(dev, 2081, addr(data), 0);
-    dev->widgetTest()->hide();
-    dev->ZRK_ReceiveMessage(dev, 2081, addr(data), 0);
-    dev->ZRK_ReceiveMessage(dev, 2247, addr(record), 0);
-    dev->widgetTmiView()->show();
-    dev->ZRK_ReceiveMessage(dev, 2247, addr(record), 0);
-    dev->widgetConfig()->hide();
-    dev->ZRK_ReceiveMessage(dev, 2247, addr(record), 0);
-    QCOMPARE(gLog,
-        (QStringList { "test.receive_Device_Test(t)", "cfg.receiveDataTest(t)", "cfg.receiveDataTest(t)",
-            "cfg.receiveAdValueFuel_UN", "tmi.setCurrentAnalogValue", "cfg.receiveAdValueFuel_UN",
-            "tmi.setCurrentAnalogValue" }));
-}
-
-void tst_DeviceK7140::displayValueNeedsActiveTelemetryView()
-{
-    quint32 value = 17;
-    openWindows(false);
-    // The configuration window gets it even while hidden; the view only while active.
-    dev->ZRK_ReceiveMessage(dev, 2265, addr(value), 0);
-    QCOMPARE(gLog, QStringList { "cfg.receiveCurrentDispValue(17)" });
-    gLog.clear();
-    dev->widgetTmiView()->show();
-    QApplication::setActiveWindow(dev->widgetTmiView());
-    QVERIFY(dev->widgetTmiView()->isActiveWindow());
-    dev->ZRK_ReceiveMessage(dev, 2265, addr(value), 0);
-    QCOMPARE(gLog, (QStringList { "tmi.receiveCurrentDispValue(17)", "cfg.receiveCurrentDispValue(17)" }));
-}
-
-void tst_DeviceK7140::configWriteAndReadNeedConnection()
-{
-    openWindows(true);
-    dev->ZRK_ReceiveMessage(dev, 2381, 0, 0);
-    dev->ZRK_ReceiveMessage(dev, 2382, 0, 0);
-    QVERIFY(gLog.isEmpty());
-    connect();
-    gLog.clear();
-    dev->ZRK_ReceiveMessage(dev, 2381, 0, 0);
-    dev->ZRK_ReceiveMessage(dev, 2382, 0, 0);
-    QCOMPARE(gLog, (QStringList { "cfg.saveConfigToDevice", "cfg.readConfigFromDevice" }));
-}
-
-void tst_DeviceK7140::focusNeedsVisibleConfig()
-{
-    dev->ZRK_ReceiveMessage(dev, 2373, 0, 0);
-    openWindows(false);
-    dev->ZRK_ReceiveMessage(dev, 2373, 0, 0);
-    QVERIFY(gLog.isEmpty());
-    dev->widgetConfig()->show();
-    dev->ZRK_ReceiveMessage(dev, 2373, 0, 0);
-    QCOMPARE(gLog, QStringList { "cfg.setWindowFocus" });
 }
 
 void tst_DeviceK7140::connectionSequence_data()
