@@ -57,9 +57,11 @@ public:
     {
         ZRK_Widget_Config::deviceDisconnect(), Rec { "cfg.deviceDisconnect" }();
     }
-    void openConfig(szConfigFile* f, szConfigParam&) override
+    // Fills the parameter as a configuration read from a file does.
+    void openConfig(szConfigFile* f, szConfigParam& p) override
     {
         Rec { "cfg.openConfig" }(f->mode, f->source, QString::fromLocal8Bit(f->path));
+        qstrncpy(p.text, "ORBA3;255", sizeof p.text);
     }
     bool closeWidgetConfig() override { return Rec { "cfg.closeWidgetConfig" }(), !refuseClose; }
     void getFileConfigure(QString& n) override
@@ -232,11 +234,10 @@ private slots:
     void openFileTmi_data();
     void openFileTmi();
     void initWidgetConfigFollowsConnection();
-    void libFuncRequest();
+    void withAndWithoutInitialize();
     void translateModuleOrder();
     void eventBusStored();
     void waitFormForwarding();
-    void waitFormBeforeInitialize();
     void aboutForm();
     void defaultFactoryMakesRealWindows();
 
@@ -536,25 +537,7 @@ void tst_DeviceK7140::connectionSequence()
 
 void tst_DeviceK7140::connectEmptiesConfigParam()
 {
-    class Filling : public RecWindows
-    {
-    public:
-        ZRK_Widget_Config* createConfig() override
-        {
-            class C : public RecConfig
-            {
-            public:
-                void openConfig(szConfigFile*, szConfigParam& p) override
-                {
-                    qstrncpy(p.text, "ORBA3;255", sizeof p.text);
-                }
-            };
-            return new C;
-        }
-    } filling;
-    dev->setWindowFactory(&filling);
     szConfigFile file {};
-    file.mode = 1;
     dev->openFileConfig(&file);
     szConfigParam out;
     std::memset(&out, 0x55, sizeof out);
@@ -568,7 +551,6 @@ void tst_DeviceK7140::connectEmptiesConfigParam()
     dev->ZRK_ReceiveMessage(dev, 2052, 0, 0);
     dev->getConfigParam(out);
     QCOMPARE(QByteArray(out.text), QByteArray());
-    dev->setWindowFactory(&windows);
 }
 
 void tst_DeviceK7140::setTypeAndVendor()
@@ -636,7 +618,8 @@ void tst_DeviceK7140::windowsMadeOnFirstNeed()
     QVERIFY(!result);
     QCOMPARE(gLog,
         (QStringList { "new.config", "cfg.deviceDisconnect", "cfg.openConfig(1,1,/tmp/a.xml)", "new.tmi",
-            "tmi.showForm(hello,)", "tmi.showForm(hello,)", "tmi.isTestMode(test)", "tmi.isTestMode(no)" }));
+            "tmi.showForm(hello,ORBA3;255)", "tmi.showForm(hello,ORBA3;255)", "tmi.isTestMode(test)",
+            "tmi.isTestMode(no)" }));
 }
 
 void tst_DeviceK7140::openFileTmi_data()
@@ -674,7 +657,7 @@ void tst_DeviceK7140::initWidgetConfigFollowsConnection()
     QCOMPARE(gLog, QStringList { "cfg.deviceConnect" });
 }
 
-void tst_DeviceK7140::libFuncRequest()
+void tst_DeviceK7140::withAndWithoutInitialize()
 {
     const szLibraryFunctions f = dev->getLibFuncForNameModule(QStringLiteral("complex_events"));
     QCOMPARE(gSent.size(), 1);
@@ -682,11 +665,18 @@ void tst_DeviceK7140::libFuncRequest()
     QCOMPARE(gSent[0].w, QStringLiteral("complex_events"));
     QCOMPARE(gSent[0].l, QStringLiteral("zeroed"));
     QCOMPARE(f.moduleName, QStringLiteral("ce_editor"));
-    // Without a callback the record comes back empty.
+    // Before Initialize: no callback, so the record comes back empty; no forms, so their calls
+    // do nothing.
     ZRK_Device_K7140 bare(QStringLiteral("K-7140"), 3, 5, 8, 1);
     const szLibraryFunctions g = bare.getLibFuncForNameModule(QStringLiteral("x"));
     QVERIFY(g.moduleName.isEmpty() && !g.handle && !g.receiveMessage);
     QCOMPARE(bare.SendMessage(&bare, 2001, 0, 0), 0ul);
+    bare.formWait_Show();
+    bare.formWait_Set_Progress_MinMax(1, 2);
+    bare.formWait_Set_Title(QStringLiteral("x"));
+    bare.showFormParamInfo(QStringLiteral("t"), QStringLiteral("x"));
+    bare.translateModule();
+    QVERIFY(!bare.formProgress() && !bare.formAbout());
 }
 
 void tst_DeviceK7140::translateModuleOrder()
@@ -753,18 +743,6 @@ void tst_DeviceK7140::waitFormForwarding()
     QCOMPARE(form->textFileLeft(), QString());
     dev->formWait_Close();
     QVERIFY(!form->isVisible());
-}
-
-void tst_DeviceK7140::waitFormBeforeInitialize()
-{
-    ZRK_Device_K7140 bare(QStringLiteral("K-7140"), 3, 5, 8, 1);
-    QVERIFY(!bare.formProgress() && !bare.formAbout());
-    bare.formWait_Show();
-    bare.formWait_Set_Progress_MinMax(1, 2);
-    bare.formWait_Set_Title(QStringLiteral("x"));
-    bare.showFormParamInfo(QStringLiteral("t"), QStringLiteral("x"));
-    bare.translateModule();
-    QVERIFY(!bare.formProgress() && !bare.formAbout());
 }
 
 void tst_DeviceK7140::aboutForm()
