@@ -1,5 +1,5 @@
 // The embedded catalogues and the language setting that chooses between them.
-#include "../common/test_home.h"
+#include "../common/test_support.h"
 #include "config_model/app_settings.h"
 #include "translations/catalogue.h"
 

@@ -1,14 +1,13 @@
 // The device object with its windows replaced by recorders: which window operation each host
 // message reaches, in which order, and when it reaches none. What the host reads back through the
 // export is the boundary test's.
-#include "../common/test_home.h"
+#include "../common/test_support.h"
 #include "config_ui/zrk_widget_config.h"
 #include "device/zrk_device_k7140.h"
 #include "device/zrk_form_io_progress.h"
 #include "device/zrk_form_param_about.h"
 #include "service/zrk_widget_test.h"
-#include "telemetry/zrk_widget_tmi_page.h"
-#include "telemetry/zrk_widget_tmi_table.h"
+#include "telemetry/zrk_widget_tmi_file.h"
 #include "telemetry/zrk_widget_tmi_view.h"
 #include "translations/catalogue.h"
 
@@ -16,6 +15,8 @@
 
 #include <cstring>
 #include <type_traits>
+
+using zrktest::addr;
 
 namespace {
 
@@ -198,11 +199,6 @@ unsigned long hostCallback(void*, int msg, unsigned long w, unsigned long l)
     }
     gSent.append(s);
     return 0;
-}
-
-template <typename T> unsigned long addr(T& v)
-{
-    return reinterpret_cast<unsigned long>(&v);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // The built plug-in as a host sees it: loaded with QLibrary, reached through its four exports and
 // the callback only. Includes nothing of the plug-in but its public header.
-#include "../common/test_home.h"
+#include "../common/test_support.h"
 #include "zrk/zrk_host_api.h"
 
 #include <QApplication>
@@ -12,6 +12,8 @@
 #include <QtTest>
 
 #include <cstring>
+
+using zrktest::addr;
 
 namespace {
 
@@ -43,11 +45,6 @@ unsigned long hostCallback(void* handle, int msg, unsigned long w, unsigned long
     }
     seen << s;
     return 0;
-}
-
-template <typename T> unsigned long addr(T& v)
-{
-    return reinterpret_cast<unsigned long>(&v);
 }
 
 QWidget* topLevel(const char* className)

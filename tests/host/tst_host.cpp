@@ -1,6 +1,6 @@
 // The reference host's loader, dispatcher and window, against the real plug-in and against
 // libraries that are not plug-ins of the family.
-#include "../common/test_home.h"
+#include "../common/test_support.h"
 #include "host_dispatcher.h"
 #include "host_window.h"
 #include "message_log.h"
@@ -10,12 +10,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-template <typename T> unsigned long addr(T& v)
-{
-    return reinterpret_cast<unsigned long>(&v);
-}
-} // namespace
+using zrktest::addr;
 
 class tst_Host : public QObject
 {

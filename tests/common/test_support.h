@@ -1,12 +1,13 @@
 #pragma once
 
-// Gives a test program a home of its own, so that settings and data directories never reach the
-// user's.
+// What the device and host tests share: a home of their own, and the address of a value as the
+// message words carry it.
 #include <QCoreApplication>
 #include <QTemporaryDir>
 
 namespace zrktest {
 
+// Settings and data directories of the test never reach the user's.
 inline bool useOwnHome(const QTemporaryDir& home, const char* application)
 {
     if (!home.isValid())
@@ -17,6 +18,11 @@ inline bool useOwnHome(const QTemporaryDir& home, const char* application)
     QCoreApplication::setOrganizationName(QStringLiteral("zrk-tests"));
     QCoreApplication::setApplicationName(QString::fromLatin1(application));
     return true;
+}
+
+template <typename T> unsigned long addr(T& v)
+{
+    return reinterpret_cast<unsigned long>(&v);
 }
 
 } // namespace zrktest
