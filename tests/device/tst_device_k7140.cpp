@@ -626,7 +626,6 @@ void tst_DeviceK7140::openFileTmi_data()
     QTest::newRow("table") << 1u
                            << QStringList { "new.table", "table.showForm", "table.setFileTmi(/t/a.tmi)" };
     QTest::newRow("2") << 2u << QStringList();
-    QTest::newRow("max") << 0xFFFFFFFFu << QStringList();
 }
 
 void tst_DeviceK7140::openFileTmi()
