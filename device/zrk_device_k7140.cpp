@@ -5,8 +5,7 @@
 #include "device/zrk_form_io_progress.h"
 #include "device/zrk_form_param_about.h"
 #include "service/zrk_widget_test.h"
-#include "telemetry/zrk_widget_tmi_page.h"
-#include "telemetry/zrk_widget_tmi_table.h"
+#include "telemetry/zrk_widget_tmi_file.h"
 #include "telemetry/zrk_widget_tmi_view.h"
 #include "translations/catalogue.h"
 

@@ -68,15 +68,21 @@ QString ZrkHostDispatcher::describeWord(const char* type, unsigned long word)
     return QString::number(word);
 }
 
-void ZrkHostDispatcher::send(int msg, unsigned long wParam, unsigned long lParam, const QString& wText,
-    const QString& lText, const std::function<QString()>& describeResult)
+ZrkLoggedMessage ZrkHostDispatcher::newEntry(int msg, ZrkMessageDirection direction)
 {
     ZrkLoggedMessage entry;
     entry.sequence = ++m_sequence;
     entry.time = QTime::currentTime();
-    entry.direction = ZrkMessageDirection::HostToPlugin;
+    entry.direction = direction;
     entry.id = msg;
-    entry.name = messageName(msg, ZrkMessageDirection::HostToPlugin);
+    entry.name = messageName(msg, direction);
+    return entry;
+}
+
+void ZrkHostDispatcher::send(int msg, unsigned long wParam, unsigned long lParam, const QString& wText,
+    const QString& lText, const std::function<QString()>& describeResult)
+{
+    ZrkLoggedMessage entry = newEntry(msg, ZrkMessageDirection::HostToPlugin);
     entry.wParam = wText.isEmpty() ? QString::number(wParam) : wText;
     entry.lParam = lText.isEmpty() ? QString::number(lParam) : lText;
     emit messageLogged(entry);
@@ -87,12 +93,7 @@ void ZrkHostDispatcher::send(int msg, unsigned long wParam, unsigned long lParam
 
 unsigned long ZrkHostDispatcher::receive(void* handle, int msg, unsigned long wParam, unsigned long lParam)
 {
-    ZrkLoggedMessage entry;
-    entry.sequence = ++m_sequence;
-    entry.time = QTime::currentTime();
-    entry.direction = ZrkMessageDirection::PluginToHost;
-    entry.id = msg;
-    entry.name = messageName(msg, ZrkMessageDirection::PluginToHost);
+    ZrkLoggedMessage entry = newEntry(msg, ZrkMessageDirection::PluginToHost);
     const ZrkMessageInfo* row = zrkMessageInfo(msg, ZrkMessageDirection::PluginToHost);
     entry.wParam = describeWord(row ? row->wParam : nullptr, wParam);
     entry.lParam = describeWord(row ? row->lParam : nullptr, lParam);

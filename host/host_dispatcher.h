@@ -63,6 +63,8 @@ signals:
     void foreignHandle(int msg);
 
 private:
+    // The next entry of the log: numbered in the order of both directions together.
+    ZrkLoggedMessage newEntry(int msg, ZrkMessageDirection direction);
     unsigned long receive(void* handle, int msg, unsigned long wParam, unsigned long lParam);
 
     ZrkPluginLoader& m_loader;

@@ -1,4 +1,5 @@
 // The embedded catalogues and the language setting that chooses between them.
+#include "../common/test_support.h"
 #include "config_model/app_settings.h"
 #include "translations/catalogue.h"
 
@@ -47,12 +48,7 @@ private:
 
 void tst_Catalogue::initTestCase()
 {
-    QVERIFY(home.isValid());
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toLocal8Bit());
-    qputenv("XDG_DATA_HOME", (home.path() + "/data").toLocal8Bit());
-    QCoreApplication::setOrganizationName(QStringLiteral("zrk-tests"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_catalogue"));
+    QVERIFY(zrktest::useOwnHome(home, "tst_catalogue"));
 }
 
 void tst_Catalogue::cleanupTestCase()

@@ -1,5 +1,6 @@
 // The built plug-in as a host sees it: loaded with QLibrary, reached through its four exports and
 // the callback only. Includes nothing of the plug-in but its public header.
+#include "../common/test_support.h"
 #include "zrk/zrk_host_api.h"
 
 #include <QApplication>
@@ -12,56 +13,38 @@
 
 #include <cstring>
 
+using zrktest::addr;
+
 namespace {
 
-struct Seen
-{
-    void* handle;
-    int msg;
-    QString w;
-    QString l;
-};
-QList<Seen> seen;
+// What the callback saw, one text per message: the id, then what its words carried.
+QStringList seen;
 ZRK_ReceiveMessageFn receiveFn = nullptr;
 void* pluginHandle = nullptr;
 QByteArray reentrantAnswer;
 
 unsigned long hostCallback(void* handle, int msg, unsigned long w, unsigned long l)
 {
-    Seen s { handle, msg, QString(), QString() };
-    switch (msg) {
-    case ZRK_MSG_SHOW_HELP:
-        s.w = *reinterpret_cast<QString*>(w);
-        s.l = *reinterpret_cast<QString*>(l);
-        break;
-    case ZRK_MSG_LOOKUP_MODULE_FUNCTIONS: {
+    QString s = QString::number(msg);
+    if (handle != pluginHandle)
+        s += QLatin1String(" foreign handle");
+    if (msg == ZRK_MSG_SHOW_HELP) {
+        s += " " + *reinterpret_cast<QString*>(w) + " " + *reinterpret_cast<QString*>(l);
+    } else if (msg == ZRK_MSG_LOOKUP_MODULE_FUNCTIONS) {
         // Answered as the reference host does: with an empty record.
         auto* f = reinterpret_cast<szLibraryFunctions*>(l);
-        s.w = *reinterpret_cast<QString*>(w);
-        s.l = f->moduleName.isEmpty() && f->moduleFile.isEmpty() && f->moduleVersion.isEmpty() && !f->handle
-                && !f->receiveMessage
-            ? QStringLiteral("empty")
-            : QStringLiteral("dirty");
-        break;
-    }
-    case ZRK_MSG_CONFIG_WINDOW_OPENED: {
+        const bool empty = f->moduleName.isEmpty() && f->moduleFile.isEmpty() && f->moduleVersion.isEmpty()
+            && !f->handle && !f->receiveMessage;
+        s += " " + *reinterpret_cast<QString*>(w) + (empty ? " empty" : " dirty");
+    } else if (msg == ZRK_MSG_CONFIG_WINDOW_OPENED) {
         // A host may answer from inside the callback.
         szConfigParam p;
         std::memset(&p, 0x41, sizeof p);
         receiveFn(pluginHandle, ZRK_MSG_CONFIG_PARAM_QUERY, reinterpret_cast<unsigned long>(&p), 0);
         reentrantAnswer = QByteArray(p.text);
-        break;
     }
-    default:
-        break;
-    }
-    seen.append(s);
+    seen << s;
     return 0;
-}
-
-template <typename T> unsigned long addr(T& v)
-{
-    return reinterpret_cast<unsigned long>(&v);
 }
 
 QWidget* topLevel(const char* className)
@@ -92,11 +75,9 @@ private slots:
     void ignoredMessages();
     void pathsBeforeAndAfter2049();
     void connectAndDisconnect();
-    void connectWithOtherTypeDisconnects();
     void configParamQuery();
     void openingWindows();
     void requestsSeenByTheCallback();
-    void everyRoutedIdWithZeroWords();
     void everyRoutedIdWithRecords();
     void languageSwitch();
 
@@ -113,13 +94,7 @@ private:
 
 void tst_PluginBoundary::initTestCase()
 {
-    QVERIFY(home.isValid());
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_DATA_HOME", (home.path() + "/data").toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toLocal8Bit());
-    QCoreApplication::setOrganizationName(QStringLiteral("zrk-tests"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_plugin_boundary"));
-
+    QVERIFY(zrktest::useOwnHome(home, "tst_plugin_boundary"));
     library.setFileName(QStringLiteral(ZRK_PLUGIN_FILE));
     QVERIFY2(library.load(), qPrintable(library.errorString()));
     isLibrary = reinterpret_cast<ZRK_IsZrkLibraryVFn>(library.resolve(ZRK_EXPORT_IS_LIBRARY));
@@ -220,16 +195,12 @@ void tst_PluginBoundary::ignoredMessages_data()
     QTest::addColumn<bool>("foreignHandle");
     QTest::addColumn<int>("msg");
     QTest::newRow("foreign handle, 2001") << true << 2001;
-    QTest::newRow("foreign handle, 2004") << true << 2004;
     QTest::newRow("foreign handle, 2051") << true << 2051;
     QTest::newRow("2000") << false << 2000;
     QTest::newRow("2414") << false << 2414;
-    QTest::newRow("0") << false << 0;
     QTest::newRow("negative") << false << -2001;
     QTest::newRow("no row 2007") << false << 2007;
     QTest::newRow("no row 2135") << false << 2135;
-    QTest::newRow("no row 2300") << false << 2300;
-    QTest::newRow("no row 2412") << false << 2412;
 }
 
 void tst_PluginBoundary::ignoredMessages()
@@ -238,16 +209,11 @@ void tst_PluginBoundary::ignoredMessages()
     QFETCH(int, msg);
     const quint32 modeBefore = device()->property("configuratorMode").toUInt();
     const bool connectedBefore = device()->property("deviceConnected").toBool();
-    // A word that means something to every row that reads one.
-    union {
-        quint32 u32;
-        char bytes[64];
-    } out;
-    std::memset(&out, 0, sizeof out);
-    out.u32 = 77;
+    // A record that means something to every row that reads one.
+    alignas(8) quint32 out[16] = { 77 };
     int other = 0;
     receiveFn(foreignHandle ? static_cast<void*>(&other) : pluginHandle, msg, addr(out), addr(out));
-    QCOMPARE(out.u32, 77u);
+    QCOMPARE(out[0], 77u);
     QCOMPARE(device()->property("configuratorMode").toUInt(), modeBefore);
     QCOMPARE(device()->property("deviceConnected").toBool(), connectedBefore);
     QVERIFY(seen.isEmpty());
@@ -255,21 +221,23 @@ void tst_PluginBoundary::ignoredMessages()
 
 void tst_PluginBoundary::pathsBeforeAndAfter2049()
 {
-    const QString base = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    const QString base = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/Data/";
     QVERIFY(base.startsWith(home.path()));
-    QCOMPARE(device()->property("pathTMI").toString(), base + "/Data/TMI/");
-    QCOMPARE(device()->property("pathXML").toString(), base + "/Data/XML/");
-    QCOMPARE(device()->property("pathFirmware").toString(), base + "/Data/Firmware/");
-    QCOMPARE(device()->property("pathSound").toString(), base + "/Data/Sounds/");
-    szDirPath paths { "/data/tmi/", "", "/data/fw/", "/data/snd/" };
-    send(2049, addr(paths));
-    QCOMPARE(device()->property("pathTMI").toString(), QStringLiteral("/data/tmi/"));
-    QCOMPARE(device()->property("pathXML").toString(), base + "/Data/XML/");
-    QCOMPARE(device()->property("pathFirmware").toString(), QStringLiteral("/data/fw/"));
-    QCOMPARE(device()->property("pathSound").toString(), QStringLiteral("/data/snd/"));
-    szDirPath empty;
-    send(2049, addr(empty));
-    QCOMPARE(device()->property("pathTMI").toString(), base + "/Data/TMI/");
+    const auto paths = [this] {
+        QStringList p;
+        for (const char* name : { "pathTMI", "pathXML", "pathFirmware", "pathSound" })
+            p << device()->property(name).toString();
+        return p;
+    };
+    QCOMPARE(paths(), (QStringList { base + "TMI/", base + "XML/", base + "Firmware/", base + "Sounds/" }));
+    // An empty path from the host falls back to the default one.
+    szDirPath fromHost { "/data/tmi/", "", "/data/fw/", "/data/snd/" };
+    send(2049, addr(fromHost));
+    QCOMPARE(paths(), (QStringList { "/data/tmi/", base + "XML/", "/data/fw/", "/data/snd/" }));
+    // A later 2049 replaces all four.
+    szDirPath again { "", "/x", "", "" };
+    send(2049, addr(again));
+    QCOMPARE(paths(), (QStringList { base + "TMI/", "/x", base + "Firmware/", base + "Sounds/" }));
 }
 
 void tst_PluginBoundary::connectAndDisconnect()
@@ -280,10 +248,7 @@ void tst_PluginBoundary::connectAndDisconnect()
     szDeviceConnect rec { "K-7140", "861234567890123", "3.5.8", nullptr, 0xABCDEF0123ULL, 0, 2 };
     send(2051, addr(rec));
     QVERIFY(device()->property("deviceConnected").toBool());
-    QCOMPARE(device()->property("deviceImei").toString(), rec.imei);
-    QCOMPARE(device()->property("deviceFirmware").toString(), rec.firmwareVersion);
     QCOMPARE(device()->property("deviceBHR").toULongLong(), 0xABCDEF0123ULL);
-    QCOMPARE(device()->property("connectType").toUInt(), 2u);
     // The first connect makes the test window; in the service mode it is told of the connection.
     QWidget* test = topLevel("ZRK_Widget_Test");
     QVERIFY(test);
@@ -291,27 +256,10 @@ void tst_PluginBoundary::connectAndDisconnect()
 
     send(2052);
     QVERIFY(!device()->property("deviceConnected").toBool());
-    QCOMPARE(device()->property("deviceImei").toString(), QString());
-    QCOMPARE(device()->property("deviceFirmware").toString(), QString());
-    QCOMPARE(device()->property("deviceBHR").toULongLong(), 0ULL);
-    QCOMPARE(device()->property("connectType").toUInt(), 2u);
     QVERIFY(!test->property("deviceConnected").toBool());
 
     mode = 0;
     send(2004, addr(mode));
-}
-
-void tst_PluginBoundary::connectWithOtherTypeDisconnects()
-{
-    szDeviceConnect rec { "K-7140", "861234567890123", "3.5.8", nullptr, 1, 0, 1 };
-    send(2051, addr(rec));
-    QVERIFY(device()->property("deviceConnected").toBool());
-    szDeviceConnect other { "K-9000", "111", "1.0", nullptr, 5, 0, 9 };
-    send(2051, addr(other));
-    QVERIFY(!device()->property("deviceConnected").toBool());
-    QCOMPARE(device()->property("deviceImei").toString(), QString());
-    QCOMPARE(device()->property("deviceBHR").toULongLong(), 0ULL);
-    QCOMPARE(device()->property("connectType").toUInt(), 1u);
 }
 
 void tst_PluginBoundary::configParamQuery()
@@ -338,22 +286,8 @@ void tst_PluginBoundary::openingWindows()
     QWidget* config = topLevel("ZRK_Widget_Config");
     QVERIFY(config);
     QVERIFY(!config->property("deviceConnected").toBool());
-    QCOMPARE(seen.size(), 1);
-    QCOMPARE(seen[0].msg, int(ZRK_MSG_CONFIG_WINDOW_OPENED));
-    QCOMPARE(seen[0].handle, pluginHandle);
+    QCOMPARE(seen, QStringList { "2370" });
     QCOMPARE(reentrantAnswer, QByteArray()); // the re-entrant 2356 answered inside the callback
-
-    QString name = QStringLiteral("/nowhere/a.tmi");
-    quint32 kind = 2;
-    send(2103, addr(name), addr(kind));
-    QVERIFY(!topLevel("ZRK_Widget_Tmi_Page") && !topLevel("ZRK_Widget_Tmi_Table"));
-    kind = 1;
-    send(2103, addr(name), addr(kind));
-    QVERIFY(topLevel("ZRK_Widget_Tmi_Table"));
-    QVERIFY(topLevel("ZRK_Widget_Tmi_Table")->isVisible());
-    kind = 0;
-    send(2103, addr(name), addr(kind));
-    QVERIFY(topLevel("ZRK_Widget_Tmi_Page"));
 
     // The host closes the plug-in: the configuration window agrees and says so.
     bool closed = false;
@@ -362,44 +296,22 @@ void tst_PluginBoundary::openingWindows()
     send(2037, addr(closed));
     QVERIFY(closed);
     QVERIFY(config->isHidden());
-    QCOMPARE(seen.size(), 1);
-    QCOMPARE(seen[0].msg, int(ZRK_MSG_CONFIG_WINDOW_CLOSED));
+    QCOMPARE(seen, QStringList { "2371" });
 }
 
 void tst_PluginBoundary::requestsSeenByTheCallback()
 {
     QVERIFY(QMetaObject::invokeMethod(device(), "showHelp", Q_ARG(QString, QString())));
     QVERIFY(seen.isEmpty());
+    // The help model is the plug-in's own, whatever type the host set.
+    QString pair[2] = { QStringLiteral("K-7141"), QStringLiteral("ZIRKOMATIC") };
+    send(2026, addr(pair[0]));
     QVERIFY(QMetaObject::invokeMethod(device(), "showHelp", Q_ARG(QString, QStringLiteral("track"))));
-    QCOMPARE(seen.size(), 1);
-    QCOMPARE(seen[0].handle, pluginHandle);
-    QCOMPARE(seen[0].msg, 2007);
-    QCOMPARE(seen[0].w, QStringLiteral("K-7140"));
-    QCOMPARE(seen[0].l, QStringLiteral("track"));
+    pair[0] = QStringLiteral("K-7140");
+    send(2026, addr(pair[0]));
     QVERIFY(
         QMetaObject::invokeMethod(device(), "getLibFuncForNameModule", Q_ARG(QString, QStringLiteral("ce"))));
-    QCOMPARE(seen.size(), 2);
-    QCOMPARE(seen[1].msg, 2135);
-    QCOMPARE(seen[1].w, QStringLiteral("ce"));
-    QCOMPARE(seen[1].l, QStringLiteral("empty"));
-}
-
-// Every routed id with zero words, once before and once after its windows exist and are shown:
-// nothing is written anywhere, nothing crashes.
-void tst_PluginBoundary::everyRoutedIdWithZeroWords()
-{
-    for (int round = 0; round < 2; ++round) {
-        for (const ZrkMessageInfo& row : kZrkMessageTable) {
-            if (row.direction == ZrkMessageDirection::HostToPlugin && QByteArray(row.wParam) != "-")
-                send(row.id, 0, 0);
-        }
-        for (const char* cls : { "ZRK_Widget_Config", "ZRK_Widget_Tmi_View", "ZRK_Widget_Test" }) {
-            if (QWidget* w = topLevel(cls))
-                w->show();
-        }
-    }
-    QVERIFY(seen.isEmpty());
-    QVERIFY(!device()->property("deviceConnected").toBool());
+    QCOMPARE(seen, (QStringList { "2007 K-7140 track", "2135 ce empty" }));
 }
 
 // Every routed id with a record of the shape its row names, windows open: the plug-in's side of
@@ -446,10 +358,7 @@ void tst_PluginBoundary::everyRoutedIdWithRecords()
     QCOMPARE(device()->property("deviceType").toString(), QStringLiteral("K-7140"));
     QCOMPARE(device()->property("deviceVendor").toString(), QStringLiteral("ZIRKOMATIC"));
     QVERIFY(!device()->property("deviceConnected").toBool());
-    QList<int> sentIds;
-    for (const Seen& s : seen)
-        sentIds << s.msg;
-    QCOMPARE(sentIds, (QList<int> { ZRK_MSG_CONFIG_WINDOW_CLOSED, ZRK_MSG_CONFIG_WINDOW_OPENED }));
+    QCOMPARE(seen, (QStringList { "2371", "2370" }));
 }
 
 void tst_PluginBoundary::languageSwitch()

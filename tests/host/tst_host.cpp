@@ -1,5 +1,6 @@
 // The reference host's loader, dispatcher and window, against the real plug-in and against
 // libraries that are not plug-ins of the family.
+#include "../common/test_support.h"
 #include "host_dispatcher.h"
 #include "host_window.h"
 #include "message_log.h"
@@ -9,12 +10,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-namespace {
-template <typename T> unsigned long addr(T& v)
-{
-    return reinterpret_cast<unsigned long>(&v);
-}
-} // namespace
+using zrktest::addr;
 
 class tst_Host : public QObject
 {
@@ -36,12 +32,7 @@ private:
 
 void tst_Host::initTestCase()
 {
-    QVERIFY(home.isValid());
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_DATA_HOME", (home.path() + "/data").toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", (home.path() + "/config").toLocal8Bit());
-    QCoreApplication::setOrganizationName(QStringLiteral("zrk-tests"));
-    QCoreApplication::setApplicationName(QStringLiteral("tst_host"));
+    QVERIFY(zrktest::useOwnHome(home, "tst_host"));
 }
 
 void tst_Host::notPlugins_data()
