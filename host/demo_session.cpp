@@ -120,13 +120,16 @@ int ZrkDemoSession::run()
         std::fprintf(stderr, "zrk-host: the plug-in has no about form\n");
         return 1;
     }
-    QMetaObject::invokeMethod(
-        about, "setParamInfo_Title", Q_ARG(QString, QStringLiteral("Период записи трека")));
+    QMetaObject::invokeMethod(about, "setParamInfo_Title",
+        Q_ARG(QString,
+            //% "Период записи трека"
+            qtTrId("host_076")));
     QMetaObject::invokeMethod(about, "setParamInfo_Text",
         Q_ARG(QString,
-            QStringLiteral("Интервал в секундах, с которым терминал сохраняет точку трека во время "
-                           "движения. При остановке запись идёт с периодом стоянки.\n\n"
-                           "Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.")));
+            //% "Интервал в секундах, с которым терминал сохраняет точку трека во время "
+            //% "движения. При остановке запись идёт с периодом стоянки.\n\n"
+            //% "Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с."
+            qtTrId("host_077")));
     about->move(700, 80);
     about->show();
     ok = grab(about, QStringLiteral("about_form")) && ok;
@@ -143,8 +146,14 @@ int ZrkDemoSession::run()
     QMetaObject::invokeMethod(wait, "setProgress_Value", Q_ARG(int, 29));
     QMetaObject::invokeMethod(
         wait, "setText_FileLeft", Q_ARG(QString, QStringLiteral("zrk_K7140_21-11-26-14-5.xml")));
-    QMetaObject::invokeMethod(wait, "setText_Value_Cur", Q_ARG(QString, QStringLiteral("29 КБ")));
-    QMetaObject::invokeMethod(wait, "setText_Value_All", Q_ARG(QString, QStringLiteral("48 КБ")));
+    QMetaObject::invokeMethod(wait, "setText_Value_Cur",
+        Q_ARG(QString,
+            //% "%1 КБ"
+            qtTrId("host_078").arg(29)));
+    QMetaObject::invokeMethod(wait, "setText_Value_All",
+        Q_ARG(QString,
+            //% "%1 КБ"
+            qtTrId("host_078").arg(48)));
     QMetaObject::invokeMethod(wait, "setText_Time", Q_ARG(QString, QStringLiteral("00:00:12")));
     wait->move(700, 420);
     wait->show();

@@ -19,7 +19,9 @@ ZrkHostDispatcher::ZrkHostDispatcher(ZrkPluginLoader& loader, QObject* parent)
         [](unsigned long, unsigned long l, QString& result) -> unsigned long {
             if (auto* functions = reinterpret_cast<szLibraryFunctions*>(l)) {
                 *functions = szLibraryFunctions { QString(), QString(), QString(), nullptr, nullptr };
-                result = QStringLiteral("пустая запись");
+                result =
+                    //% "пустая запись"
+                    qtTrId("host_006");
             }
             return 0;
         });
@@ -58,13 +60,17 @@ QString ZrkHostDispatcher::describeWord(const char* type, unsigned long word)
         return QStringLiteral("«%1»").arg(*reinterpret_cast<const QString*>(word));
     if (t.startsWith("QByteArray*")) {
         const QByteArray& bytes = *reinterpret_cast<const QByteArray*>(word);
-        return QStringLiteral("%1 байт: %2%3")
-            .arg(bytes.size())
-            .arg(QString::fromLatin1(bytes.left(16).toHex(' ')))
-            .arg(bytes.size() > 16 ? QStringLiteral(" …") : QString());
+        return
+            //% "%1 байт: %2%3"
+            qtTrId("host_007")
+                .arg(bytes.size())
+                .arg(QString::fromLatin1(bytes.left(16).toHex(' ')))
+                .arg(bytes.size() > 16 ? QStringLiteral(" …") : QString());
     }
     if (t.contains('*'))
-        return QStringLiteral("адрес 0x%1").arg(word, 0, 16);
+        return
+            //% "адрес 0x%1"
+            qtTrId("host_008").arg(word, 0, 16);
     return QString::number(word);
 }
 
@@ -98,7 +104,9 @@ unsigned long ZrkHostDispatcher::receive(void* handle, int msg, unsigned long wP
     entry.wParam = describeWord(row ? row->wParam : nullptr, wParam);
     entry.lParam = describeWord(row ? row->lParam : nullptr, lParam);
     if (handle != m_loader.handle()) {
-        entry.result = QStringLiteral("чужой описатель, пропущено");
+        entry.result =
+            //% "чужой описатель, пропущено"
+            qtTrId("host_009");
         emit messageLogged(entry);
         emit foreignHandle(msg);
         return 0;

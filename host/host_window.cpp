@@ -45,7 +45,9 @@ ZrkHostWindow::ZrkHostWindow(ZrkPluginLoader& loader, ZrkHostDispatcher& dispatc
     , m_loader(loader)
     , m_dispatcher(dispatcher)
 {
-    setWindowTitle(QStringLiteral("zrk-host — эталонный хост модулей устройств"));
+    setWindowTitle(
+        //% "zrk-host — эталонный хост модулей устройств"
+        qtTrId("host_017"));
     setObjectName(QStringLiteral("ZrkHostWindow"));
 
     auto* top = new QWidget;
@@ -54,7 +56,9 @@ ZrkHostWindow::ZrkHostWindow(ZrkPluginLoader& loader, ZrkHostDispatcher& dispatc
     topLayout->addWidget(buildInfoPanel(), 4);
     topLayout->addWidget(buildControls(), 6);
 
-    auto* logBox = new QGroupBox(QStringLiteral("Журнал сообщений"));
+    auto* logBox = new QGroupBox(
+        //% "Журнал сообщений"
+        qtTrId("host_018"));
     auto* logLayout = new QVBoxLayout(logBox);
     m_log = new ZrkMessageLog;
     logLayout->addWidget(m_log);
@@ -76,10 +80,14 @@ ZrkHostWindow::ZrkHostWindow(ZrkPluginLoader& loader, ZrkHostDispatcher& dispatc
     connect(&m_dispatcher, &ZrkHostDispatcher::resultLogged, m_log, &ZrkMessageLog::setResult);
     connect(&m_dispatcher, &ZrkHostDispatcher::messageLogged, this, [this](const ZrkLoggedMessage& m) {
         if (m.direction == ZrkMessageDirection::PluginToHost)
-            statusBar()->showMessage(QStringLiteral("От модуля: %1 %2").arg(m.id).arg(m.name), 5000);
+            statusBar()->showMessage(
+                //% "От модуля: %1 %2"
+                qtTrId("host_019").arg(m.id).arg(m.name), 5000);
     });
     setControlsEnabled(false);
-    statusBar()->showMessage(QStringLiteral("Модуль не загружен"));
+    statusBar()->showMessage(
+        //% "Модуль не загружен"
+        qtTrId("host_020"));
     resize(1240, 860);
 }
 
@@ -89,7 +97,9 @@ QWidget* ZrkHostWindow::buildInfoPanel()
     auto* layout = new QVBoxLayout(panel);
     layout->setContentsMargins(0, 0, 0, 0);
 
-    auto* infoBox = new QGroupBox(QStringLiteral("Модуль устройства"));
+    auto* infoBox = new QGroupBox(
+        //% "Модуль устройства"
+        qtTrId("host_021"));
     auto* form = new QFormLayout(infoBox);
     m_file = valueLabel();
     m_file->setWordWrap(true);
@@ -101,44 +111,78 @@ QWidget* ZrkHostWindow::buildInfoPanel()
     m_values = valueLabel();
     m_firmwareWord = valueLabel();
     m_handle = valueLabel();
-    form->addRow(QStringLiteral("Файл:"), m_file);
-    form->addRow(QStringLiteral("Название:"), m_name);
-    form->addRow(QStringLiteral("Тип устройства:"), m_type);
-    form->addRow(QStringLiteral("Параметры хоста:"), m_values);
-    form->addRow(QStringLiteral("Версия прошивки:"), m_firmwareWord);
-    form->addRow(QStringLiteral("Описатель:"), m_handle);
+    form->addRow(
+        //% "Файл:"
+        qtTrId("host_022"), m_file);
+    form->addRow(
+        //% "Название:"
+        qtTrId("host_023"), m_name);
+    form->addRow(
+        //% "Тип устройства:"
+        qtTrId("host_024"), m_type);
+    form->addRow(
+        //% "Параметры хоста:"
+        qtTrId("host_025"), m_values);
+    form->addRow(
+        //% "Версия прошивки:"
+        qtTrId("host_026"), m_firmwareWord);
+    form->addRow(
+        //% "Описатель:"
+        qtTrId("host_027"), m_handle);
     m_error = new QLabel;
     m_error->setWordWrap(true);
     m_error->setStyleSheet(QStringLiteral("color: #b00020;"));
     m_error->hide();
     form->addRow(m_error);
-    auto* loadButton = new QPushButton(QStringLiteral("Загрузить модуль…"));
+    auto* loadButton = new QPushButton(
+        //% "Загрузить модуль…"
+        qtTrId("host_028"));
     connect(loadButton, &QPushButton::clicked, this, &ZrkHostWindow::chooseAndLoadPlugin);
     form->addRow(QString(), loadButton);
     layout->addWidget(infoBox);
 
-    auto* queryBox = new QGroupBox(QStringLiteral("Ответы модуля на запросы"));
+    auto* queryBox = new QGroupBox(
+        //% "Ответы модуля на запросы"
+        qtTrId("host_029"));
     m_queries = new QFormLayout(queryBox);
     const struct
     {
         int msg;
-        const char* text;
+        QString text;
     } rows[] = {
-        { ZRK_MSG_LIBRARY_ALIVE_QUERY, "Модуль отвечает (2001):" },
-        { ZRK_MSG_FIRMWARE_VERSION_QUERY, "Версия прошивки (2002):" },
-        { ZRK_MSG_PROTOCOL_NUMBER_QUERY, "Номер протокола (2003):" },
-        { ZRK_MSG_LIBRARY_VERSION_QUERY, "Версия модуля (2006):" },
-        { ZRK_MSG_CAPABILITY_QUERY_2010, "Возможности (2010):" },
-        { ZRK_MSG_CAPABILITY_QUERY_2272, "Возможности (2272):" },
-        { ZRK_MSG_CAPABILITY_QUERY_2399, "Возможности (2399):" },
-        { ZRK_MSG_CONFIG_PARAM_QUERY, "Параметры конфигурации (2356):" },
+        { ZRK_MSG_LIBRARY_ALIVE_QUERY,
+            //% "Модуль отвечает (2001):"
+            qtTrId("host_030") },
+        { ZRK_MSG_FIRMWARE_VERSION_QUERY,
+            //% "Версия прошивки (2002):"
+            qtTrId("host_031") },
+        { ZRK_MSG_PROTOCOL_NUMBER_QUERY,
+            //% "Номер протокола (2003):"
+            qtTrId("host_032") },
+        { ZRK_MSG_LIBRARY_VERSION_QUERY,
+            //% "Версия модуля (2006):"
+            qtTrId("host_033") },
+        { ZRK_MSG_CAPABILITY_QUERY_2010,
+            //% "Возможности (2010):"
+            qtTrId("host_034") },
+        { ZRK_MSG_CAPABILITY_QUERY_2272,
+            //% "Возможности (2272):"
+            qtTrId("host_035") },
+        { ZRK_MSG_CAPABILITY_QUERY_2399,
+            //% "Возможности (2399):"
+            qtTrId("host_036") },
+        { ZRK_MSG_CONFIG_PARAM_QUERY,
+            //% "Параметры конфигурации (2356):"
+            qtTrId("host_037") },
     };
     for (const auto& row : rows) {
         QLabel* value = valueLabel();
         m_queryValues.insert(row.msg, value);
-        m_queries->addRow(QString::fromUtf8(row.text), value);
+        m_queries->addRow(row.text, value);
     }
-    auto* askButton = new QPushButton(QStringLiteral("Опросить модуль"));
+    auto* askButton = new QPushButton(
+        //% "Опросить модуль"
+        qtTrId("host_038"));
     connect(askButton, &QPushButton::clicked, this, &ZrkHostWindow::askQueries);
     m_pluginControls << askButton;
     m_queries->addRow(QString(), askButton);
@@ -154,33 +198,59 @@ QWidget* ZrkHostWindow::buildControls()
     layout->setContentsMargins(0, 0, 0, 0);
 
     // Directories and mode.
-    auto* setupBox = new QGroupBox(QStringLiteral("Настройки хоста"));
+    auto* setupBox = new QGroupBox(
+        //% "Настройки хоста"
+        qtTrId("host_039"));
     auto* grid = new QGridLayout(setupBox);
-    const char* dirLabels[4] = { "Телеметрия:", "Конфигурации XML:", "Прошивки:", "Звуки:" };
+    QStringList dirLabels;
+    //% "Телеметрия:"
+    dirLabels << qtTrId("host_040");
+    //% "Конфигурации XML:"
+    dirLabels << qtTrId("host_041");
+    //% "Прошивки:"
+    dirLabels << qtTrId("host_042");
+    //% "Звуки:"
+    dirLabels << qtTrId("host_043");
     for (int i = 0; i < 4; ++i) {
         m_dirs[i] = new QLineEdit;
-        m_dirs[i]->setPlaceholderText(QStringLiteral("по умолчанию модуля"));
-        grid->addWidget(new QLabel(QString::fromUtf8(dirLabels[i])), i / 2, (i % 2) * 2);
+        m_dirs[i]->setPlaceholderText(
+            //% "по умолчанию модуля"
+            qtTrId("host_044"));
+        grid->addWidget(new QLabel(dirLabels[i]), i / 2, (i % 2) * 2);
         grid->addWidget(m_dirs[i], i / 2, (i % 2) * 2 + 1);
     }
-    auto* dirButton = new QPushButton(QStringLiteral("Передать каталоги (2049)"));
+    auto* dirButton = new QPushButton(
+        //% "Передать каталоги (2049)"
+        qtTrId("host_045"));
     connect(dirButton, &QPushButton::clicked, this, &ZrkHostWindow::sendDirectories);
     grid->addWidget(dirButton, 2, 3);
     m_mode = new QSpinBox;
     m_mode->setRange(0, 9);
-    m_mode->setToolTip(QStringLiteral("5 — сервисный режим с окном теста терминала"));
-    auto* modeButton = new QPushButton(QStringLiteral("Установить режим (2004)"));
+    m_mode->setToolTip(
+        //% "5 — сервисный режим с окном теста терминала"
+        qtTrId("host_046"));
+    auto* modeButton = new QPushButton(
+        //% "Установить режим (2004)"
+        qtTrId("host_047"));
     connect(modeButton, &QPushButton::clicked, this, &ZrkHostWindow::sendMode);
-    grid->addWidget(new QLabel(QStringLiteral("Режим конфигуратора:")), 3, 0);
+    grid->addWidget(new QLabel(
+                        //% "Режим конфигуратора:"
+                        qtTrId("host_048")),
+        3, 0);
     grid->addWidget(m_mode, 3, 1);
     grid->addWidget(modeButton, 3, 3);
     m_language = new QComboBox;
     m_language->addItem(QStringLiteral("Русский"), QStringLiteral("ru"));
     m_language->addItem(QStringLiteral("English"), QStringLiteral("en"));
-    auto* langButton = new QPushButton(QStringLiteral("Сменить язык (2031)"));
+    auto* langButton = new QPushButton(
+        //% "Сменить язык (2031)"
+        qtTrId("host_049"));
     connect(langButton, &QPushButton::clicked, this,
         [this] { setLanguage(m_language->currentData().toString()); });
-    grid->addWidget(new QLabel(QStringLiteral("Язык модуля:")), 4, 0);
+    grid->addWidget(new QLabel(
+                        //% "Язык модуля:"
+                        qtTrId("host_050")),
+        4, 0);
     grid->addWidget(m_language, 4, 1);
     grid->addWidget(langButton, 4, 3);
     grid->setColumnStretch(1, 1);
@@ -189,27 +259,46 @@ QWidget* ZrkHostWindow::buildControls()
     m_pluginControls << dirButton << modeButton << langButton;
 
     // The simulated terminal.
-    auto* termBox = new QGroupBox(QStringLiteral("Терминал (имитация)"));
+    auto* termBox = new QGroupBox(
+        //% "Терминал (имитация)"
+        qtTrId("host_051"));
     auto* termGrid = new QGridLayout(termBox);
     m_termType = new QLineEdit(QStringLiteral("K-7140"));
     m_termImei = new QLineEdit(QStringLiteral("861234567890123"));
     m_termFirmware = new QLineEdit(QStringLiteral("3.5.8"));
     m_termConnect = new QComboBox;
     m_termConnect->addItem(QStringLiteral("USB"), 0u);
-    m_termConnect->addItem(QStringLiteral("Удалённо через сервер"), 1u);
-    termGrid->addWidget(new QLabel(QStringLiteral("Тип:")), 0, 0);
+    m_termConnect->addItem(
+        //% "Удалённо через сервер"
+        qtTrId("host_052"), 1u);
+    termGrid->addWidget(new QLabel(
+                            //% "Тип:"
+                            qtTrId("host_053")),
+        0, 0);
     termGrid->addWidget(m_termType, 0, 1);
     termGrid->addWidget(new QLabel(QStringLiteral("IMEI:")), 0, 2);
     termGrid->addWidget(m_termImei, 0, 3);
-    termGrid->addWidget(new QLabel(QStringLiteral("Прошивка:")), 1, 0);
+    termGrid->addWidget(new QLabel(
+                            //% "Прошивка:"
+                            qtTrId("host_054")),
+        1, 0);
     termGrid->addWidget(m_termFirmware, 1, 1);
-    termGrid->addWidget(new QLabel(QStringLiteral("Связь:")), 1, 2);
+    termGrid->addWidget(new QLabel(
+                            //% "Связь:"
+                            qtTrId("host_055")),
+        1, 2);
     termGrid->addWidget(m_termConnect, 1, 3);
-    auto* connectButton = new QPushButton(QStringLiteral("Подключить (2051)"));
-    auto* disconnectButton = new QPushButton(QStringLiteral("Отключить (2052)"));
+    auto* connectButton = new QPushButton(
+        //% "Подключить (2051)"
+        qtTrId("host_056"));
+    auto* disconnectButton = new QPushButton(
+        //% "Отключить (2052)"
+        qtTrId("host_057"));
     connect(connectButton, &QPushButton::clicked, this, &ZrkHostWindow::connectTerminal);
     connect(disconnectButton, &QPushButton::clicked, this, &ZrkHostWindow::disconnectTerminal);
-    m_termState = new QLabel(QStringLiteral("Терминал не подключён"));
+    m_termState = new QLabel(
+        //% "Терминал не подключён"
+        qtTrId("host_058"));
     termGrid->addWidget(m_termState, 2, 0, 1, 2);
     termGrid->addWidget(connectButton, 2, 2);
     termGrid->addWidget(disconnectButton, 2, 3);
@@ -219,14 +308,26 @@ QWidget* ZrkHostWindow::buildControls()
     m_pluginControls << connectButton << disconnectButton;
 
     // The plug-in's windows.
-    auto* winBox = new QGroupBox(QStringLiteral("Окна модуля"));
+    auto* winBox = new QGroupBox(
+        //% "Окна модуля"
+        qtTrId("host_059"));
     auto* winGrid = new QGridLayout(winBox);
-    auto* newConfig = new QPushButton(QStringLiteral("Новая конфигурация (2101)"));
-    auto* tmiView = new QPushButton(QStringLiteral("Телеметрия (2102)"));
-    auto* tmiFile = new QPushButton(QStringLiteral("Файл телеметрии… (2103)"));
+    auto* newConfig = new QPushButton(
+        //% "Новая конфигурация (2101)"
+        qtTrId("host_060"));
+    auto* tmiView = new QPushButton(
+        //% "Телеметрия (2102)"
+        qtTrId("host_061"));
+    auto* tmiFile = new QPushButton(
+        //% "Файл телеметрии… (2103)"
+        qtTrId("host_062"));
     m_tmiKind = new QComboBox;
-    m_tmiKind->addItem(QStringLiteral("постранично"), 0u);
-    m_tmiKind->addItem(QStringLiteral("таблицей"), 1u);
+    m_tmiKind->addItem(
+        //% "постранично"
+        qtTrId("host_063"), 0u);
+    m_tmiKind->addItem(
+        //% "таблицей"
+        qtTrId("host_064"), 1u);
     connect(newConfig, &QPushButton::clicked, this, &ZrkHostWindow::openNewConfiguration);
     connect(tmiView, &QPushButton::clicked, this, &ZrkHostWindow::openTelemetryView);
     connect(tmiFile, &QPushButton::clicked, this, &ZrkHostWindow::chooseTelemetryFile);
@@ -257,13 +358,17 @@ bool ZrkHostWindow::loadPlugin(const QString& fileName)
         for (QLabel* l : { m_type, m_name, m_values, m_firmwareWord, m_handle })
             l->setText(QStringLiteral("—"));
         setControlsEnabled(false);
-        statusBar()->showMessage(QStringLiteral("Модуль не загружен"));
+        statusBar()->showMessage(
+            //% "Модуль не загружен"
+            qtTrId("host_020"));
         return false;
     }
     showLibraryInfo();
     m_loader.initialize(&ZrkHostDispatcher::callback);
     setControlsEnabled(true);
-    statusBar()->showMessage(QStringLiteral("Модуль загружен и инициализирован"), 5000);
+    statusBar()->showMessage(
+        //% "Модуль загружен и инициализирован"
+        qtTrId("host_065"), 5000);
     askQueries();
     return true;
 }
@@ -273,12 +378,14 @@ void ZrkHostWindow::showLibraryInfo()
     const szLibraryInfo& info = m_loader.info();
     m_type->setText(QString::fromUtf8(info.deviceType));
     m_name->setText(QString::fromLocal8Bit(info.displayName));
-    m_values->setText(QStringLiteral("%1, %2, %3, %4 (слово %5)")
-                          .arg(info.hostValues[0])
-                          .arg(info.hostValues[1])
-                          .arg(info.hostValues[2])
-                          .arg(info.hostValues[3])
-                          .arg(info.reserved));
+    m_values->setText(
+        //% "%1, %2, %3, %4 (слово %5)"
+        qtTrId("host_066")
+            .arg(info.hostValues[0])
+            .arg(info.hostValues[1])
+            .arg(info.hostValues[2])
+            .arg(info.hostValues[3])
+            .arg(info.reserved));
     m_firmwareWord->setText(QString::number(info.firmwareVersion));
     m_handle->setText(QStringLiteral("0x%1").arg(reinterpret_cast<quintptr>(info.handle), 0, 16));
     setWindowTitle(QStringLiteral("zrk-host — %1").arg(QString::fromLocal8Bit(info.displayName)));
@@ -296,25 +403,29 @@ void ZrkHostWindow::askQueries()
         { ZRK_MSG_LIBRARY_ALIVE_QUERY, ZRK_MSG_FIRMWARE_VERSION_QUERY, ZRK_MSG_PROTOCOL_NUMBER_QUERY,
             ZRK_MSG_CAPABILITY_QUERY_2010, ZRK_MSG_CAPABILITY_QUERY_2272, ZRK_MSG_CAPABILITY_QUERY_2399 }) {
         auto value = std::make_shared<quint32>(0);
-        m_dispatcher.send(
-            msg, addr(*value), 0, QStringLiteral("uint32* (результат)"), QString(), [this, msg, value] {
+        m_dispatcher.send(msg, addr(*value), 0,
+            //% "%1 (результат)"
+            qtTrId("host_067").arg(QStringLiteral("uint32*")), QString(), [this, msg, value] {
                 setQueryValue(msg, QString::number(*value));
                 return QString::number(*value);
             });
     }
     QString version;
-    m_dispatcher.send(ZRK_MSG_LIBRARY_VERSION_QUERY, addr(version), 0, QStringLiteral("QString* (результат)"),
-        QString(), [&] {
+    m_dispatcher.send(ZRK_MSG_LIBRARY_VERSION_QUERY, addr(version), 0,
+        //% "%1 (результат)"
+        qtTrId("host_067").arg(QStringLiteral("QString*")), QString(), [&] {
             setQueryValue(ZRK_MSG_LIBRARY_VERSION_QUERY, QStringLiteral("«%1»").arg(version));
             return QStringLiteral("«%1»").arg(version);
         });
     szConfigParam param;
     std::memset(&param, 0, sizeof param);
     m_dispatcher.send(ZRK_MSG_CONFIG_PARAM_QUERY, addr(param), 0,
-        QStringLiteral("szConfigParam* (результат)"), QString(), [&] {
+        //% "%1 (результат)"
+        qtTrId("host_067").arg(QStringLiteral("szConfigParam*")), QString(), [&] {
             param.text[sizeof param.text - 1] = '\0';
             const QString text = QString::fromLocal8Bit(param.text);
-            const QString shown = text.isEmpty() ? QStringLiteral("пусто") : QStringLiteral("«%1»").arg(text);
+            //% "пусто"
+            const QString shown = text.isEmpty() ? qtTrId("host_068") : QStringLiteral("«%1»").arg(text);
             setQueryValue(ZRK_MSG_CONFIG_PARAM_QUERY, shown);
             return shown;
         });
@@ -363,17 +474,21 @@ void ZrkHostWindow::connectTerminal()
     szDeviceConnect record { m_termType->text(), m_termImei->text(), m_termFirmware->text(), nullptr, 0, 0,
         m_termConnect->currentData().toUInt() };
     m_dispatcher.send(ZRK_MSG_DEVICE_CONNECTED, addr(record), 0,
-        QStringLiteral("тип «%1», IMEI %2, прошивка %3, связь %4")
+        //% "тип «%1», IMEI %2, прошивка %3, связь %4"
+        qtTrId("host_069")
             .arg(record.deviceType, record.imei, record.firmwareVersion)
             .arg(record.connectType));
     m_termState->setText(
-        QStringLiteral("Терминал %1 подключён (%2)").arg(record.deviceType, m_termConnect->currentText()));
+        //% "Терминал %1 подключён (%2)"
+        qtTrId("host_070").arg(record.deviceType, m_termConnect->currentText()));
 }
 
 void ZrkHostWindow::disconnectTerminal()
 {
     m_dispatcher.send(ZRK_MSG_DEVICE_DISCONNECTED, 0, 0);
-    m_termState->setText(QStringLiteral("Терминал не подключён"));
+    m_termState->setText(
+        //% "Терминал не подключён"
+        qtTrId("host_058"));
 }
 
 void ZrkHostWindow::setLanguage(const QString& language)
@@ -381,7 +496,9 @@ void ZrkHostWindow::setLanguage(const QString& language)
     // The language is an application setting that host and plug-in share; 2031 says it changed.
     QSettings().setValue(QStringLiteral(ZRK_SETTINGS_LANGUAGE_KEY), language);
     m_language->setCurrentIndex(qMax(0, m_language->findData(language)));
-    m_dispatcher.send(ZRK_MSG_LANGUAGE_CHANGED, 0, 0, QStringLiteral("язык «%1»").arg(language));
+    m_dispatcher.send(ZRK_MSG_LANGUAGE_CHANGED, 0, 0,
+        //% "язык «%1»"
+        qtTrId("host_071").arg(language));
 }
 
 void ZrkHostWindow::openNewConfiguration()
@@ -390,8 +507,9 @@ void ZrkHostWindow::openNewConfiguration()
     std::memset(&file, 0, sizeof file);
     file.mode = 1; // the full editor, a new configuration
     file.source = 0;
-    m_dispatcher.send(
-        ZRK_MSG_OPEN_CONFIGURATION, addr(file), 0, QStringLiteral("szConfigFile: полный редактор, новая"));
+    m_dispatcher.send(ZRK_MSG_OPEN_CONFIGURATION, addr(file), 0,
+        //% "%1: полный редактор, новая"
+        qtTrId("host_072").arg(QStringLiteral("szConfigFile")));
 }
 
 void ZrkHostWindow::openTelemetryView()
@@ -409,16 +527,22 @@ void ZrkHostWindow::openTelemetryFile(const QString& fileName, quint32 kind)
 
 void ZrkHostWindow::chooseAndLoadPlugin()
 {
-    const QString file = QFileDialog::getOpenFileName(
-        this, QStringLiteral("Модуль устройства"), QString(), QStringLiteral("Модули (*.so);;Все файлы (*)"));
+    const QString file = QFileDialog::getOpenFileName(this,
+        //% "Модуль устройства"
+        qtTrId("host_021"), QString(),
+        //% "Модули (*.so);;Все файлы (*)"
+        qtTrId("host_073"));
     if (!file.isEmpty())
         loadPlugin(file);
 }
 
 void ZrkHostWindow::chooseTelemetryFile()
 {
-    const QString file = QFileDialog::getOpenFileName(this, QStringLiteral("Файл телеметрии"), QString(),
-        QStringLiteral("Телеметрия (*.tmi *.xml);;Все файлы (*)"));
+    const QString file = QFileDialog::getOpenFileName(this,
+        //% "Файл телеметрии"
+        qtTrId("host_074"), QString(),
+        //% "Телеметрия (*.tmi *.xml);;Все файлы (*)"
+        qtTrId("host_075"));
     if (!file.isEmpty())
         openTelemetryFile(file, m_tmiKind->currentData().toUInt());
 }

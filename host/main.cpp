@@ -1,6 +1,7 @@
 // zrk-host: a reference configurator host. Loads one device plug-in through its four exports and
 // talks to it with the host messages; with --demo it runs a scripted session and writes PNGs.
 #include "demo_session.h"
+#include "host_catalogue.h"
 #include "host_dispatcher.h"
 #include "host_window.h"
 #include "plugin_loader.h"
@@ -9,6 +10,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -40,11 +42,27 @@ int main(int argc, char* argv[])
     QCommandLineOption demo(QStringLiteral("demo"),
         QStringLiteral("Run the scripted session, write PNGs into DIR, exit."), QStringLiteral("DIR"));
     parser.addOption(demo);
+    QCommandLineOption lang(QStringLiteral("lang"),
+        QStringLiteral("The host's language: ru (default) or en."), QStringLiteral("LANG"),
+        QStringLiteral("ru"));
+    parser.addOption(lang);
     parser.addPositionalArgument(
         QStringLiteral("plugin"), QStringLiteral("The plug-in file (default: the one built)."));
     parser.process(app);
     const QStringList args = parser.positionalArguments();
     const QString plugin = args.isEmpty() ? defaultPlugin() : args.first();
+
+    // The host's own texts; the plug-in installs its catalogue by itself. Installed before any
+    // window is built, and outlives the windows, which read their texts once.
+    const QString language = parser.value(lang);
+    if (language != QLatin1String("ru") && language != QLatin1String("en")) {
+        std::fprintf(stderr, "zrk-host: unknown language %s (ru or en)\n", qPrintable(language));
+        return 2;
+    }
+    QTranslator hostTexts;
+    if (!zrkLoadHostCatalogue(hostTexts, language))
+        std::fprintf(stderr, "zrk-host: the host's catalogue cannot be loaded\n");
+    QCoreApplication::installTranslator(&hostTexts);
 
     ZrkPluginLoader loader;
     int status = 0;

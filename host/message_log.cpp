@@ -14,9 +14,18 @@ ZrkMessageLog::ZrkMessageLog(QWidget* parent)
     , m_model(new QStandardItemModel(0, ColumnCount, this))
     , m_view(new QTableView(this))
 {
-    m_model->setHorizontalHeaderLabels({ QStringLiteral("№"), QStringLiteral("Время"),
-        QStringLiteral("Направление"), QStringLiteral("Id"), QStringLiteral("Сообщение"),
-        QStringLiteral("wParam"), QStringLiteral("lParam"), QStringLiteral("Результат") });
+    QStringList headers;
+    //% "№"
+    headers << qtTrId("host_010");
+    //% "Время"
+    headers << qtTrId("host_011");
+    //% "Направление"
+    headers << qtTrId("host_012") << QStringLiteral("Id");
+    //% "Сообщение"
+    headers << qtTrId("host_013") << QStringLiteral("wParam") << QStringLiteral("lParam");
+    //% "Результат"
+    headers << qtTrId("host_014");
+    m_model->setHorizontalHeaderLabels(headers);
     m_view->setModel(m_model);
     m_view->verticalHeader()->hide();
     m_view->verticalHeader()->setDefaultSectionSize(22);
@@ -58,10 +67,14 @@ void ZrkMessageLog::addMessage(const ZrkLoggedMessage& message)
             m_rowOfSequence.insert(m_model->item(r, Sequence)->text().toInt(), r);
     }
     const bool toPlugin = message.direction == ZrkMessageDirection::HostToPlugin;
+    //% "хост → модуль"
+    const QString toPluginText = qtTrId("host_015");
+    //% "модуль → хост"
+    const QString toHostText = qtTrId("host_016");
     QList<QStandardItem*> row;
     row << new QStandardItem(QString::number(message.sequence))
         << new QStandardItem(message.time.toString(QStringLiteral("HH:mm:ss.zzz")))
-        << new QStandardItem(toPlugin ? QStringLiteral("хост → модуль") : QStringLiteral("модуль → хост"))
+        << new QStandardItem(toPlugin ? toPluginText : toHostText)
         << new QStandardItem(QString::number(message.id)) << new QStandardItem(message.name)
         << new QStandardItem(message.wParam) << new QStandardItem(message.lParam)
         << new QStandardItem(message.result);

@@ -22,13 +22,16 @@ bool ZrkPluginLoader::load(const QString& fileName)
     unload();
     m_error.clear();
     if (!QFileInfo::exists(fileName)) {
-        fail(QStringLiteral("Файл «%1» не найден.").arg(fileName));
+        fail(
+            //% "Файл «%1» не найден."
+            qtTrId("host_001").arg(fileName));
         return false;
     }
     m_library.setFileName(fileName);
     if (!m_library.load()) {
-        fail(QStringLiteral("Файл «%1» не загружается как библиотека: %2")
-                 .arg(fileName, m_library.errorString()));
+        fail(
+            //% "Файл «%1» не загружается как библиотека: %2"
+            qtTrId("host_002").arg(fileName, m_library.errorString()));
         return false;
     }
     m_isLibrary = reinterpret_cast<ZRK_IsZrkLibraryVFn>(m_library.resolve(ZRK_EXPORT_IS_LIBRARY));
@@ -45,15 +48,18 @@ bool ZrkPluginLoader::load(const QString& fileName)
     if (!m_receive)
         missing << QStringLiteral(ZRK_EXPORT_RECEIVE_MESSAGE);
     if (!missing.isEmpty()) {
-        fail(QStringLiteral("«%1» не является модулем устройства: нет экспорта %2.")
-                 .arg(QFileInfo(fileName).fileName(), missing.join(QStringLiteral(", "))));
+        fail(
+            //% "«%1» не является модулем устройства: нет экспорта %2."
+            qtTrId("host_003").arg(QFileInfo(fileName).fileName(), missing.join(QStringLiteral(", "))));
         return false;
     }
     const int answer = m_isLibrary();
     if (answer != 1) {
-        fail(QStringLiteral("«%1» не является модулем устройства: %2() вернула %3 вместо 1.")
-                 .arg(QFileInfo(fileName).fileName(), QStringLiteral(ZRK_EXPORT_IS_LIBRARY))
-                 .arg(answer));
+        fail(
+            //% "«%1» не является модулем устройства: %2() вернула %3 вместо 1."
+            qtTrId("host_004")
+                .arg(QFileInfo(fileName).fileName(), QStringLiteral(ZRK_EXPORT_IS_LIBRARY))
+                .arg(answer));
         return false;
     }
     std::memset(&m_info, 0, sizeof m_info);
@@ -62,8 +68,10 @@ bool ZrkPluginLoader::load(const QString& fileName)
     m_info.deviceType[sizeof m_info.deviceType - 1] = '\0';
     m_info.displayName[sizeof m_info.displayName - 1] = '\0';
     if (!m_info.handle) {
-        fail(QStringLiteral("«%1»: %2() не сообщила описатель модуля.")
-                 .arg(QFileInfo(fileName).fileName(), QStringLiteral(ZRK_EXPORT_GET_LIBRARY_INFO)));
+        fail(
+            //% "«%1»: %2() не сообщила описатель модуля."
+            qtTrId("host_005")
+                .arg(QFileInfo(fileName).fileName(), QStringLiteral(ZRK_EXPORT_GET_LIBRARY_INFO)));
         return false;
     }
     return true;

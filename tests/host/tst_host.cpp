@@ -1,14 +1,21 @@
 // The reference host's loader, dispatcher and window, against the real plug-in and against
 // libraries that are not plug-ins of the family.
 #include "../common/test_support.h"
+#include "host_catalogue.h"
 #include "host_dispatcher.h"
 #include "host_window.h"
 #include "message_log.h"
 #include "plugin_loader.h"
 
+#include <QDir>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTranslator>
+#include <QXmlStreamReader>
 #include <QtTest>
+
+#include <algorithm>
 
 using zrktest::addr;
 
@@ -25,14 +32,20 @@ private slots:
     void messageNames();
     void dispatcherWithPlugin();
     void windowLoadsAndAsks();
+    void hostCatalogue_data();
+    void hostCatalogue();
 
 private:
     QTemporaryDir home;
+    QTranslator hostTexts;
 };
 
 void tst_Host::initTestCase()
 {
     QVERIFY(zrktest::useOwnHome(home, "tst_host"));
+    // The texts compared below are the Russian catalogue's, as zrk-host installs it by default.
+    QVERIFY(zrkLoadHostCatalogue(hostTexts, QStringLiteral("ru")));
+    QVERIFY(QCoreApplication::installTranslator(&hostTexts));
 }
 
 void tst_Host::notPlugins_data()
@@ -173,6 +186,76 @@ void tst_Host::windowLoadsAndAsks()
     // Loading something else first unloads the plug-in.
     QVERIFY(!window.loadPlugin(QStringLiteral(ZRK_FAKE_PARTIAL)));
     QVERIFY(!loader.isLoaded());
+}
+
+namespace {
+
+QSet<QString> catalogueIds(const QString& fileName)
+{
+    QSet<QString> ids;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return ids;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("message"))
+            ids.insert(xml.attributes().value(QLatin1String("id")).toString());
+    }
+    return ids;
+}
+
+// The ids the host's sources ask for: each must be in every catalogue.
+QSet<QString> sourceIds()
+{
+    QSet<QString> ids;
+    const QDir dir(QStringLiteral(ZRK_SOURCE_DIR "/host"));
+    const QRegularExpression call(QStringLiteral("qtTrId\\(\"(\\w+)\"\\)"));
+    for (const QString& name : dir.entryList({ QStringLiteral("*.cpp"), QStringLiteral("*.h") })) {
+        QFile file(dir.filePath(name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        auto it = call.globalMatch(QString::fromUtf8(file.readAll()));
+        while (it.hasNext())
+            ids.insert(it.next().captured(1));
+    }
+    return ids;
+}
+
+} // namespace
+
+void tst_Host::hostCatalogue_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<bool>("cyrillic");
+    QTest::newRow("ru") << QStringLiteral("ru") << true;
+    QTest::newRow("en") << QStringLiteral("en") << false;
+}
+
+void tst_Host::hostCatalogue()
+{
+    QFETCH(QString, language);
+    QFETCH(bool, cyrillic);
+    const QSet<QString> used = sourceIds();
+    QVERIFY(used.size() > 50);
+    const QSet<QString> ids
+        = catalogueIds(QStringLiteral(ZRK_SOURCE_DIR "/translations/zrk-host_%1.ts").arg(language));
+    // Same ids as the sources, hence as the other catalogue; only the host's own prefix.
+    const QStringList unused = QSet<QString>(ids).subtract(used).values();
+    const QStringList missing = QSet<QString>(used).subtract(ids).values();
+    QVERIFY2(unused.isEmpty(), qPrintable(QLatin1String("not in the sources: ") + unused.join(' ')));
+    QVERIFY2(missing.isEmpty(), qPrintable(QLatin1String("not in the catalogue: ") + missing.join(' ')));
+    QTranslator translator;
+    QVERIFY(zrkLoadHostCatalogue(translator, language));
+    for (const QString& id : ids) {
+        QVERIFY2(id.startsWith(QLatin1String("host_")), qPrintable(id));
+        // What qtTrId finds; a message missing from the embedded catalogue comes back empty.
+        const QString text = translator.translate(nullptr, id.toUtf8().constData());
+        QVERIFY2(!text.isEmpty() && text != id, qPrintable(id));
+        const bool hasLetters = std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+        const bool hasCyrillic = std::any_of(
+            text.begin(), text.end(), [](QChar c) { return c.script() == QChar::Script_Cyrillic; });
+        QVERIFY2(hasCyrillic == (cyrillic && hasLetters), qPrintable(id + QLatin1String(": ") + text));
+    }
 }
 
 QTEST_MAIN(tst_Host)
