@@ -97,6 +97,11 @@ BENCHMARK(BM_find_memmem);
 class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
+    // Plain text: the output ends up in CI logs, not on a terminal.
+    RatioReporter()
+        : ConsoleReporter(OO_Tabular)
+    {
+    }
     std::map<std::string, double> seconds;
 
     void ReportRuns(const std::vector<Run>& runs) override

@@ -147,6 +147,11 @@ BENCHMARK(BM_SetNewTMIAllFields);
 class Recorder : public benchmark::ConsoleReporter
 {
 public:
+    // Plain text: the output ends up in CI logs, not on a terminal.
+    Recorder()
+        : ConsoleReporter(OO_Tabular)
+    {
+    }
     void ReportRuns(const std::vector<Run>& runs) override
     {
         for (const Run& r : runs) {

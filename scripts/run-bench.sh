@@ -9,6 +9,6 @@ shopt -s nullglob
 for bin in "$build"/bench/bench_*; do
   [ -x "$bin" ] && [ -f "$bin" ] || continue
   echo "-- $(basename "$bin")"
-  "$bin" --benchmark_color=false --benchmark_min_time="${ZRK_BENCH_MIN_TIME:-0.2}" || status=1
+  "$bin" --benchmark_min_time="${ZRK_BENCH_MIN_TIME:-0.2}" || status=1
 done
 exit $status
