@@ -42,3 +42,23 @@ function(zrk_add_bench)
   target_link_libraries(${B_NAME} PRIVATE benchmark::benchmark ${B_LIBS})
   set_property(GLOBAL APPEND PROPERTY ZRK_BENCHES ${B_NAME})
 endfunction()
+
+# zrk_embed_catalogues(<out-var> NAME <resource name> PREFIX <resource prefix> TS <files...>)
+# Compiles id-based catalogues with -idbased (qt5_create_translation would drop that option) and
+# embeds the .qm files through a generated resource file <NAME>.qrc (Q_INIT_RESOURCE(<NAME>)).
+# <out-var> receives the sources to add to the target that carries them.
+function(zrk_embed_catalogues OUT)
+  cmake_parse_arguments(C "" "NAME;PREFIX" "TS" ${ARGN})
+  set_source_files_properties(${C_TS} PROPERTIES OUTPUT_LOCATION ${CMAKE_CURRENT_BINARY_DIR})
+  qt5_add_translation(qm_files ${C_TS} OPTIONS -idbased)
+  set(qrc ${CMAKE_CURRENT_BINARY_DIR}/${C_NAME}.qrc)
+  file(WRITE ${qrc}.in "<RCC><qresource prefix=\"${C_PREFIX}\">\n")
+  foreach(qm ${qm_files})
+    get_filename_component(qm_name ${qm} NAME)
+    file(APPEND ${qrc}.in "<file>${qm_name}</file>\n")
+  endforeach()
+  file(APPEND ${qrc}.in "</qresource></RCC>\n")
+  configure_file(${qrc}.in ${qrc} COPYONLY)
+  qt5_add_resources(qrc_sources ${qrc})
+  set(${OUT} ${qrc_sources} ${qm_files} PARENT_SCOPE)
+endfunction()

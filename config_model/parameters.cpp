@@ -10,7 +10,7 @@
 namespace {
 
 // Copies at most kParamTextMax bytes and zero-fills the rest of the field.
-void copyField(char (&field)[255], const char* text)
+void copyField(char (&field)[kParamFieldSize], const char* text)
 {
     std::strncpy(field, text ? text : "", kParamTextMax);
     field[kParamTextMax] = '\0';
@@ -166,7 +166,7 @@ bool COneParameter::asString(char* buf, int len) const
 
 bool COneParameter::asQString(QString& out) const
 {
-    char buf[255];
+    char buf[kParamFieldSize];
     asString(buf, sizeof buf);
     out = QString::fromLocal8Bit(buf);
     return true;

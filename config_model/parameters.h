@@ -8,14 +8,31 @@ class CXmlTagV2;
 // Plain records through which a node facade talks to the document serializer. Names and values
 // are NUL-terminated byte texts in the local 8-bit encoding.
 
+// Sizes of the fixed text fields of the records below, the NUL included.
+constexpr int kParamFieldSize = 255; // a parameter's name or value
+constexpr int kNodeNameSize = 260; // the name of a node to create
+constexpr int kFileNameSize = 256; // the path of a document to open
+
 // Bytes kept of a parameter's name or value (the field holds one more for the NUL).
-constexpr int kParamTextMax = 254;
+constexpr int kParamTextMax = kParamFieldSize - 1;
+
+// How createNode finds or makes a child node.
+enum NodeMode : int
+{
+    NodeFindOrCreate = 0, // the first child of that name, made when missing
+    NodeAppend = 1, // always a new child, written as an element with its own closing tag
+    NodeRecord = 3, // always a new child, written as one self-closing record
+};
+constexpr bool isNodeMode(int mode)
+{
+    return mode == NodeFindOrCreate || mode == NodeAppend || mode == NodeRecord;
+}
 
 // One parameter of a node.
 struct coreSzItem
 {
-    char name[255];
-    char value[255];
+    char name[kParamFieldSize];
+    char value[kParamFieldSize];
     int isNode; // 0: an attribute entry; 1: a child element (value is its text)
     CXmlTagV2* tag; // what it was read from; null for entries created by writes
 };
@@ -34,19 +51,19 @@ struct coreSzNode
     CXmlTagV2* tag;
 };
 
-// Node creation: mode 0 get-or-create, 1 append, 3 append a record.
+// Node creation; type is a NodeMode.
 struct coreCreateNode
 {
     CSerialize* serializer;
     CXmlTagV2* parent; // null: the root
     int type;
-    char name[260];
+    char name[kNodeNameSize];
     CXmlTagV2* result;
 };
 
 struct coreSzCreate
 {
-    char fileName[256];
+    char fileName[kFileNameSize];
     CSerialize* handle;
 };
 
@@ -128,7 +145,7 @@ public:
 
     COneParameter* items = nullptr;
     int count = 0;
-    char findName[255];
+    char findName[kParamFieldSize];
     int findIndex = 0;
 
 private:

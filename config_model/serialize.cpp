@@ -70,7 +70,7 @@ bool plainName(const QString& name)
     return true;
 }
 
-void copyText(char (&field)[255], const QByteArray& text)
+void copyText(char (&field)[kParamFieldSize], const QByteArray& text)
 {
     const size_t n = std::min<size_t>(static_cast<size_t>(text.size()), kParamTextMax);
     std::memcpy(field, text.constData(), n);
@@ -78,7 +78,7 @@ void copyText(char (&field)[255], const QByteArray& text)
 }
 
 // A field of a record that may come from outside: never read past its end.
-QByteArray fieldBytes(const char (&field)[255])
+QByteArray fieldBytes(const char (&field)[kParamFieldSize])
 {
     return QByteArray(field, static_cast<int>(strnlen(field, sizeof field)));
 }
@@ -554,15 +554,18 @@ int CSerialize::writeToFileV2Buf()
     return m_output.size();
 }
 
-void CSerialize::getXmlData(unsigned char* out) const
+int CSerialize::getXmlData(unsigned char* out, int capacity) const
 {
-    if (out && !m_output.isEmpty())
-        std::memcpy(out, m_output.constData(), static_cast<size_t>(m_output.size()));
+    const int n = qMin(capacity, static_cast<int>(m_output.size()));
+    if (!out || n <= 0)
+        return 0;
+    std::memcpy(out, m_output.constData(), static_cast<size_t>(n));
+    return n;
 }
 
 CXmlTagV2* CSerialize::createNodeV2(CXmlTagV2* parent, const QString& name, int mode)
 {
-    if (mode != 0 && mode != 1 && mode != 3)
+    if (!isNodeMode(mode))
         return nullptr;
     if (!parent) {
         if (m_root && m_root->name == name)
@@ -571,12 +574,12 @@ CXmlTagV2* CSerialize::createNodeV2(CXmlTagV2* parent, const QString& name, int 
         m_root = new CXmlTagV2(name);
         return m_root;
     }
-    if (mode == 0) {
+    if (mode == NodeFindOrCreate) {
         if (CXmlTagV2* existing = parent->children.getTagFromName(name))
             return existing;
     }
     auto* tag = new CXmlTagV2(name, QString(), parent);
-    if (mode == 3)
+    if (mode == NodeRecord)
         tag->type = CXmlTagV2::Record;
     parent->children.addTag(tag);
     return tag;

@@ -76,7 +76,8 @@ public:
     bool writeToFileV2();
     // Renders the document into the output buffer; returns its length.
     int writeToFileV2Buf();
-    void getXmlData(unsigned char* out) const;
+    // Copies at most capacity bytes of the last written text into out; returns how many.
+    int getXmlData(unsigned char* out, int capacity) const;
     const QByteArray& outputData() const { return m_output; }
     // Writes the document to another path, whole or not at all.
     bool saveAs(const QString& path);

@@ -60,7 +60,8 @@ void zrk_StopSZMemo(coreSzCreateMemo* memo)
 {
     if (!memo || !memo->handle)
         return;
-    memo->handle->getXmlData(memo->data);
+    // The caller's buffer holds memo->size bytes: the size GetSZMemo reported, or less.
+    memo->size = memo->handle->getXmlData(memo->data, memo->size);
     delete memo->handle;
     memo->handle = nullptr;
 }
@@ -172,8 +173,8 @@ void CXMLWorkData::bindRoot(void* serializer, const QByteArray& name)
     coreCreateNode create {};
     create.serializer = m_serializer;
     create.parent = nullptr;
-    create.type = 0;
-    std::snprintf(create.name, 256, "%s", name.constData());
+    create.type = NodeFindOrCreate;
+    std::snprintf(create.name, sizeof create.name, "%s", name.constData());
     zrk_Create_Node(&create);
     m_tag = create.result;
     readParameters();
@@ -224,13 +225,13 @@ int CXMLWorkData::getCountParamsInTag()
 
 CXMLWorkData* CXMLWorkData::createNode(const char* name, int mode)
 {
-    if (!m_serializer || (mode != 0 && mode != 1 && mode != 3))
+    if (!m_serializer || !isNodeMode(mode))
         return nullptr;
     coreCreateNode create {};
     create.serializer = m_serializer;
     create.parent = m_tag;
     create.type = mode;
-    std::snprintf(create.name, 256, "%s", name ? name : "");
+    std::snprintf(create.name, sizeof create.name, "%s", name ? name : "");
     zrk_Create_Node(&create);
     if (!create.result)
         return nullptr;

@@ -252,10 +252,10 @@ const ZRK_Device_Routes::Route ZRK_Device_Routes::kRoutes[] = {
             if (!code)
                 return;
             // The widget that asked for the key last gets it; nobody else.
-            if (d.m_waitReceive == 0) {
+            if (d.m_waitReceive == ZRK_WAIT_CONFIG) {
                 if (ZRK_Widget_Config* c = R::config(d))
                     c->receiveTM(*code);
-            } else if (d.m_waitReceive == 1) {
+            } else if (d.m_waitReceive == ZRK_WAIT_TMI_VIEW) {
                 if (ZRK_Widget_Tmi_View* t = R::tmi(d))
                     t->setToucheMemory(*code);
             }
@@ -453,6 +453,23 @@ void ZRK_Device_K7140::InitConfigurator(ZRK_SendMessageFn send)
         m_formAbout = new ZRK_Form_Param_About();
     if (!m_formProgress)
         m_formProgress = new ZRK_Form_IO_Progress();
+    showAboutText();
+}
+
+void ZRK_Device_K7140::showAboutText()
+{
+    if (!m_formAbout)
+        return;
+    m_formAbout->setParamInfo_Title(QString::fromLatin1(kDisplayName));
+    //% "Модуль терминала %1\nВерсия %2.%3.%4, сборка %5\nВерсия библиотеки %6\nСобран %7"
+    m_formAbout->setParamInfo_Text(qtTrId("abou_003")
+                                       .arg(m_deviceType)
+                                       .arg(m_libraryInfo.hostValues[0])
+                                       .arg(m_libraryInfo.hostValues[1])
+                                       .arg(m_libraryInfo.hostValues[2])
+                                       .arg(m_libraryInfo.hostValues[3])
+                                       .arg(QString::fromLatin1(kLibraryVersion))
+                                       .arg(QStringLiteral(__DATE__)));
 }
 
 unsigned long ZRK_Device_K7140::SendMessage(void* handle, int msg, unsigned long w, unsigned long l)
@@ -677,8 +694,10 @@ void ZRK_Device_K7140::translateModule()
 {
     if (m_formProgress)
         m_formProgress->translateForm();
-    if (m_formAbout)
+    if (m_formAbout) {
         m_formAbout->translateForm();
+        showAboutText();
+    }
     if (m_widgetConfig)
         m_widgetConfig->translateForm();
     if (m_widgetTmiView)

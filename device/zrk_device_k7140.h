@@ -15,6 +15,13 @@ class ZRK_Form_IO_Progress;
 class ZRK_Form_Param_About;
 class ZRK_Device_K7140;
 
+// Which window a key code read from the terminal (2241) goes to.
+enum ZRK_WaitWidget : int
+{
+    ZRK_WAIT_CONFIG = 0, // the configuration window
+    ZRK_WAIT_TMI_VIEW = 1, // the telemetry view
+};
+
 // The firmware version number the plug-in reports (message 2002, library information record).
 extern quint32 ZRK_VERSION_FIRMWARE;
 // The device object once the host has initialised the plug-in; null before. Every class reaches
@@ -82,6 +89,7 @@ public:
     quint32 getConfiguratorMode() const { return m_configuratorMode; }
     bool isDeviceConnected() const { return m_connected; }
     void getConfigParam(szConfigParam& param) const;
+    // The window that waits for the next key code (2241): a ZRK_WaitWidget value.
     void setWidgetWaitReceive(int widget) { m_waitReceive = widget; }
     int getWidgetWaitReceive() const { return m_waitReceive; }
 
@@ -113,6 +121,8 @@ public:
     Q_INVOKABLE void showFormParamInfo(const QString& title, const QString& text);
     Q_INVOKABLE void showHelp(const QString& topic);
     void translateModule();
+    // The about form with the plug-in's own name, version and build, in the current language.
+    void showAboutText();
     Q_INVOKABLE szLibraryFunctions getLibFuncForNameModule(const QString& name);
 
     // ---- the wait form
@@ -141,7 +151,7 @@ private:
     szDirPath m_paths;
     szLibraryInfo m_libraryInfo;
     ZRK_SendMessageFn m_send = nullptr;
-    int m_waitReceive = 0;
+    int m_waitReceive = ZRK_WAIT_CONFIG;
     QString m_deviceType;
     QString m_deviceVendor;
     bool m_connected = false;

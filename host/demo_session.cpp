@@ -114,22 +114,12 @@ int ZrkDemoSession::run()
     m_window.setLanguage(QStringLiteral("ru"));
     ok = grab(&m_window, QStringLiteral("language")) && ok;
 
-    // The plug-in's about form, filled and shown through its invokable operations.
+    // The plug-in's about form, as the plug-in fills it: its name, version and build.
     QWidget* about = topLevel("ZRK_Form_Param_About");
     if (!about) {
         std::fprintf(stderr, "zrk-host: the plug-in has no about form\n");
         return 1;
     }
-    QMetaObject::invokeMethod(about, "setParamInfo_Title",
-        Q_ARG(QString,
-            //% "Период записи трека"
-            qtTrId("host_076")));
-    QMetaObject::invokeMethod(about, "setParamInfo_Text",
-        Q_ARG(QString,
-            //% "Интервал в секундах, с которым терминал сохраняет точку трека во время "
-            //% "движения. При остановке запись идёт с периодом стоянки.\n\n"
-            //% "Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с."
-            qtTrId("host_077")));
     about->move(700, 80);
     about->show();
     ok = grab(about, QStringLiteral("about_form")) && ok;

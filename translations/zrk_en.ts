@@ -59,5 +59,15 @@
         <source>°С</source>
         <translation>°C</translation>
     </message>
+    <message id="abou_003">
+        <source>Модуль терминала %1
+Версия %2.%3.%4, сборка %5
+Версия библиотеки %6
+Собран %7</source>
+        <translation>Terminal module %1
+Version %2.%3.%4, build %5
+Library version %6
+Built %7</translation>
+    </message>
 </context>
 </TS>

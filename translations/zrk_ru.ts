@@ -59,5 +59,15 @@
         <source>°С</source>
         <translation>°С</translation>
     </message>
+    <message id="abou_003">
+        <source>Модуль терминала %1
+Версия %2.%3.%4, сборка %5
+Версия библиотеки %6
+Собран %7</source>
+        <translation>Модуль терминала %1
+Версия %2.%3.%4, сборка %5
+Версия библиотеки %6
+Собран %7</translation>
+    </message>
 </context>
 </TS>

@@ -112,11 +112,20 @@ inline const ZrkMessageInfo* zrkMessageInfo(int id, ZrkMessageDirection directio
 
 // ---- values carried by messages --------------------------------------------------------------
 
-// Configurator mode (message 2004) in which the host runs the service/test tools.
+// Configurator modes (message 2004). The two production modes run a production line's checks:
+// a compact telemetry form and the display value polled with the current record. The service mode
+// runs the service/test tools.
 enum : quint32
 {
+    ZRK_CONFIGURATOR_MODE_PRODUCTION = 1,
+    ZRK_CONFIGURATOR_MODE_PRODUCTION_LINE = 2,
     ZRK_CONFIGURATOR_MODE_SERVICE = 5
 };
+
+inline bool zrkIsProductionMode(quint32 mode)
+{
+    return mode == ZRK_CONFIGURATOR_MODE_PRODUCTION || mode == ZRK_CONFIGURATOR_MODE_PRODUCTION_LINE;
+}
 
 // View kind of message 2103 (lParam points to it as a uint32).
 enum class zrk_type_ViewFileTmi : quint32

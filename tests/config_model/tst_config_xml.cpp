@@ -244,6 +244,18 @@ void tst_ConfigXml::memoryFunctions()
     QVERIFY(!memo.handle);
     QCOMPARE(out, expected + QByteArray(8, '\xAA')); // nothing written past size
 
+    // A caller whose buffer is smaller than the text gets only what fits.
+    coreSzCreateMemo small { expected.size(), reinterpret_cast<unsigned char*>(out.data()), nullptr };
+    zrk_StartSZMemo(&small);
+    QVERIFY(small.handle);
+    zrk_GetSZMemo(&small);
+    QByteArray shortBuf(12, '\xAA');
+    small.size = 4;
+    small.data = reinterpret_cast<unsigned char*>(shortBuf.data());
+    zrk_StopSZMemo(&small);
+    QCOMPARE(small.size, 4);
+    QCOMPARE(shortBuf, expected.left(4) + QByteArray(8, '\xAA'));
+
     // Unparsable input, a size without data or a negative size: no handle.
     QByteArray junk("<a><b></a>");
     for (coreSzCreateMemo bad :
