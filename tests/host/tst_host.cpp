@@ -29,7 +29,6 @@ private slots:
     void notPlugins();
     void describeWord_data();
     void describeWord();
-    void messageNames();
     void dispatcherWithPlugin();
     void windowLoadsAndAsks();
     void hostCatalogue_data();
@@ -100,17 +99,6 @@ void tst_Host::describeWord()
     QFETCH(quint64, word);
     QFETCH(QString, expected);
     QCOMPARE(ZrkHostDispatcher::describeWord(type.constData(), static_cast<unsigned long>(word)), expected);
-}
-
-void tst_Host::messageNames()
-{
-    QCOMPARE(ZrkHostDispatcher::messageName(2413, ZrkMessageDirection::HostToPlugin),
-        QStringLiteral("FLS_DATA_FILE_READ"));
-    QCOMPARE(ZrkHostDispatcher::messageName(2413, ZrkMessageDirection::PluginToHost),
-        QStringLiteral("REQUEST_FLS_DATA_FILE"));
-    QCOMPARE(ZrkHostDispatcher::messageName(2007, ZrkMessageDirection::HostToPlugin), QStringLiteral("?"));
-    QCOMPARE(
-        ZrkHostDispatcher::messageName(2007, ZrkMessageDirection::PluginToHost), QStringLiteral("SHOW_HELP"));
 }
 
 void tst_Host::dispatcherWithPlugin()

@@ -25,25 +25,6 @@ private slots:
 
     // The table is the format: widths add up to the three structure sizes, places follow one another,
     // names are unique.
-    void tableAddsUp()
-    {
-        int sum = 0;
-        QSet<QString> names;
-        for (int no = 1; no <= orba::kFieldCount; ++no) {
-            const orba::FieldInfo& f = orba::kFields[no - 1];
-            QCOMPARE(f.no, no);
-            QCOMPARE(orba::kOffsets[no], sum);
-            sum += f.width;
-            if (no == 69)
-                QCOMPARE(sum, 146);
-            if (no == 122)
-                QCOMPARE(sum, 404);
-            QVERIFY2(!names.contains(QLatin1String(f.name)), f.name);
-            names.insert(QLatin1String(f.name));
-        }
-        QCOMPARE(sum, 734);
-    }
-
     void decodesByMask_data()
     {
         QTest::addColumn<int>("version");
