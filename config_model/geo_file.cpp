@@ -108,7 +108,7 @@ bool forEachRecord(CXMLWorkData& root, const char* listName, const char* recordN
         list->moveToNextNode(cursor);
     }
     if (seen != declared) {
-        //% "the node \"%1\" declares %2 records but holds %3"
+        //% "узел \"%1\" объявляет записей: %2, а содержит: %3"
         *error = qtTrId("geod_020").arg(QLatin1String(listName)).arg(declared).arg(seen);
         return false;
     }
@@ -119,7 +119,7 @@ bool readCoordinate(const CXMLWorkData& n, const char* key, int id, double* out,
 {
     const QString text = n.readString(key);
     if (!parseGeoCoordinate(text, out)) {
-        //% "geo-zone %1: \"%2\" is not a coordinate"
+        //% "геозона %1: \"%2\" не является координатой"
         *error = qtTrId("geod_021").arg(id).arg(text);
         return false;
     }
@@ -131,7 +131,7 @@ bool readNew(CSerialize* doc, coreAinfData& out, GeoFileReadInfo& info, QString*
     CXMLWorkData root(doc, doc->root());
     info.version = root.readInteger(kVer, 0);
     if (info.version > kGeoFileVersion) {
-        //% "version %1 of the file is newer than this program reads (%2)"
+        //% "версия файла %1 новее, чем читает эта программа (%2)"
         *reason = qtTrId("geod_022").arg(info.version).arg(kGeoFileVersion);
         return false;
     }
@@ -205,7 +205,7 @@ bool readNew(CSerialize* doc, coreAinfData& out, GeoFileReadInfo& info, QString*
                                 n.moveToNextNode(cursor);
                             }
                             if (declared != r.stops.size()) {
-                                //% "route %1 declares %2 stops but holds %3"
+                                //% "маршрут %1 объявляет остановок: %2, а содержит: %3"
                                 *reason = qtTrId("geod_023").arg(r.id).arg(declared).arg(r.stops.size());
                                 return false;
                             }
@@ -225,7 +225,7 @@ bool readNew(CSerialize* doc, coreAinfData& out, GeoFileReadInfo& info, QString*
 
 QString failure(const QString& name, const QString& reason)
 {
-    //% "Cannot open the geo-information file \"%1\": %2."
+    //% "Не удалось открыть файл геоинформации \"%1\": %2."
     return qtTrId("geod_024").arg(name, reason);
 }
 
@@ -235,7 +235,7 @@ bool writeWhole(const QString& path, const QByteArray& text, QString* error)
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
         return true;
     if (error)
-        //% "Cannot write the file \"%1\": %2."
+        //% "Не удалось записать файл \"%1\": %2."
         *error = qtTrId("geod_025").arg(QDir::toNativeSeparators(path), file.errorString());
     return false;
 }
@@ -350,18 +350,18 @@ bool readFileParamGeoText(const QByteArray& text, const QString& name, coreAinfD
     };
     inf.format = detectGeoFileFormat(text);
     if (inf.format == GeoFileFormat::Old)
-        //% "the file is in the old geo-information format (PARAMAINF), which this program recognises but does not read; save the data again in the new format"
+        //% "файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, но не читает; сохраните данные заново в новом формате"
         return fail(qtTrId("geod_026"));
     if (inf.format == GeoFileFormat::Unknown)
-        //% "it is not a geo-information file (no \"AINF\" root)"
+        //% "это не файл геоинформации (нет корня \"AINF\")"
         return fail(qtTrId("geod_027"));
     if (text.size() > kGeoFileMaxSize)
-        //% "the file is larger than %1 MB"
+        //% "файл больше %1 МБ"
         return fail(qtTrId("geod_028").arg(kGeoFileMaxSize / (1024 * 1024)));
 
     CSerialize doc(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
     if (!doc.startSerialize() || !doc.root())
-        //% "the text is not well-formed XML (%1)"
+        //% "текст не является правильным XML (%1)"
         return fail(qtTrId("geod_029").arg(doc.lastError()));
     if (doc.root()->name != QLatin1String(kRoot))
         return fail(qtTrId("geod_027"));
@@ -419,7 +419,7 @@ QString createFileCFG(const coreAinfDefaults& defaults, QString* error, const QS
     const QString folder = dir.isEmpty() ? geoTempDirectory() : dir;
     if (!QDir().mkpath(folder)) {
         if (error)
-            //% "Cannot create the folder \"%1\"."
+            //% "Не удалось создать папку \"%1\"."
             *error = qtTrId("geod_030").arg(QDir::toNativeSeparators(folder));
         return QString();
     }

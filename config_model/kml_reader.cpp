@@ -55,7 +55,7 @@ bool parseCoordinates(const QString& text, KmlPlacemark* p)
 
 QString kmlFailure(const QString& name, const QString& reason)
 {
-    //% "Cannot read the KML file \"%1\": %2."
+    //% "Не удалось прочитать файл KML \"%1\": %2."
     return qtTrId("geod_040").arg(name, reason);
 }
 
@@ -72,7 +72,7 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
         return result;
     };
     if (text.size() > kKmlMaxFileSize)
-        //% "the file is larger than %1 MB"
+        //% "файл больше %1 МБ"
         return fail(qtTrId("geod_041").arg(kKmlMaxFileSize / (1024 * 1024)));
 
     QXmlStreamReader xml(text);
@@ -89,7 +89,7 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
         const QXmlStreamReader::TokenType token = xml.readNext();
         if (token == QXmlStreamReader::DTD || token == QXmlStreamReader::EntityReference)
             // Entity declarations are how a small file grows into a huge one; KML needs none.
-            //% "the file declares a DTD or entities, which KML does not use"
+            //% "файл объявляет DTD или сущности, которые в KML не используются"
             return fail(qtTrId("geod_042"));
         if (token == QXmlStreamReader::EndElement) {
             --depth;
@@ -111,13 +111,13 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
             continue;
         ++depth;
         if (depth > kKmlMaxDepth)
-            //% "elements are nested deeper than %1 levels"
+            //% "вложенность элементов глубже %1 уровней"
             return fail(qtTrId("geod_043").arg(kKmlMaxDepth));
         const QStringRef local = xml.name();
         if (!sawRoot) {
             sawRoot = true;
             if (local != QLatin1String("kml"))
-                //% "the root element is \"%1\", not \"kml\""
+                //% "корневой элемент \"%1\", а не \"kml\""
                 return fail(qtTrId("geod_044").arg(xml.qualifiedName().toString()));
             continue;
         }
@@ -150,7 +150,7 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
             if (xml.hasError())
                 break;
             if (!parseCoordinates(coords, &pm))
-                //% "placemark \"%1\": the coordinates \"%2\" cannot be read"
+                //% "метка \"%1\": не удалось прочитать координаты \"%2\""
                 return fail(qtTrId("geod_045").arg(pm.name, coords.trimmed().left(80)));
             inPoint = false;
         } else if (isOtherGeometry(local)) {
@@ -168,10 +168,10 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
         }
     }
     if (xml.hasError())
-        //% "line %1: %2"
+        //% "строка %1: %2"
         return fail(qtTrId("geod_046").arg(xml.lineNumber()).arg(xml.errorString()));
     if (!sawRoot)
-        //% "the file is empty"
+        //% "файл пуст"
         return fail(qtTrId("geod_047"));
     return result;
 }
@@ -205,7 +205,7 @@ KmlImportResult importKmlText(const QByteArray& text, const QString& name, int s
         return result;
     }
     if (existing.size() + read.points.size() > caps.maxZones) {
-        //% "The file \"%1\" has %2 points; with the %3 geo-zones already in the list that is more than the %4 this terminal keeps. Nothing was added."
+        //% "В файле \"%1\" точек: %2; вместе с %3 геозонами списка это больше %4, которые хранит терминал. Ничего не добавлено."
         result.error = qtTrId("geod_048").arg(name).arg(read.points.size()).arg(existing.size()).arg(caps.maxZones);
         return result;
     }
@@ -222,7 +222,7 @@ KmlImportResult importKmlText(const QByteArray& text, const QString& name, int s
         while (next <= limit && used[next])
             ++next;
         if (next > limit) {
-            //% "The geo-zone ids 1..%1 are all taken. Nothing was added."
+            //% "Номера геозон 1..%1 все заняты. Ничего не добавлено."
             result.error = qtTrId("geod_049").arg(caps.maxZoneId);
             result.zones.clear();
             return result;
@@ -284,12 +284,12 @@ QByteArray renderKml(const coreAinfData& data)
     w.writeTextElement(QStringLiteral("name"), QStringLiteral("AINF"));
 
     w.writeStartElement(QStringLiteral("Folder"));
-    //% "Geo-zones"
+    //% "Геозоны"
     w.writeTextElement(QStringLiteral("name"), qtTrId("geod_050"));
     for (const coreGeoZone& z : data.zones) {
         w.writeStartElement(QStringLiteral("Placemark"));
         w.writeTextElement(QStringLiteral("name"), z.name);
-        //% "Geo-zone %1, radius %2 m"
+        //% "Геозона %1, радиус %2 м"
         w.writeTextElement(QStringLiteral("description"), qtTrId("geod_051").arg(z.id).arg(z.size));
         w.writeStartElement(QStringLiteral("ExtendedData"));
         writeData(w, "id", z.id);
@@ -308,7 +308,7 @@ QByteArray renderKml(const coreAinfData& data)
     for (const coreGeoZone& z : data.zones)
         byId.insert(z.id, &z);
     w.writeStartElement(QStringLiteral("Folder"));
-    //% "Routes"
+    //% "Маршруты"
     w.writeTextElement(QStringLiteral("name"), qtTrId("geod_052"));
     for (const coreGeoRoute& r : data.routes) {
         QStringList coords;
@@ -340,7 +340,7 @@ bool writeKml(const QString& path, const coreAinfData& data, QString* error)
     if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
         return true;
     if (error)
-        //% "Cannot write the file \"%1\": %2."
+        //% "Не удалось записать файл \"%1\": %2."
         *error = qtTrId("geod_025").arg(QDir::toNativeSeparators(path), file.errorString());
     return false;
 }
