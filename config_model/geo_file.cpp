@@ -350,8 +350,8 @@ bool readFileParamGeoText(
     };
     inf.format = detectGeoFileFormat(text);
     if (inf.format == GeoFileFormat::Old)
-        //% "файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, но не
-        //читает; сохраните данные заново в новом формате"
+        //% "файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, "
+        //% "но не читает; сохраните данные заново в новом формате"
         return fail(qtTrId("geod_026"));
     if (inf.format == GeoFileFormat::Unknown)
         //% "это не файл геоинформации (нет корня \"AINF\")"

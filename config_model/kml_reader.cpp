@@ -213,8 +213,8 @@ KmlImportResult importKmlText(const QByteArray& text, const QString& name, int s
         return result;
     }
     if (existing.size() + read.points.size() > caps.maxZones) {
-        //% "В файле \"%1\" точек: %2; вместе с %3 геозонами списка это больше %4, которые хранит терминал.
-        //Ничего не добавлено."
+        //% "В файле \"%1\" точек: %2; вместе с %3 геозонами списка это больше %4, "
+        //% "которые хранит терминал. Ничего не добавлено."
         result.error
             = qtTrId("geod_048").arg(name).arg(read.points.size()).arg(existing.size()).arg(caps.maxZones);
         return result;
