@@ -27,6 +27,34 @@
         <source>Тест терминала</source>
         <translation>Terminal test</translation>
     </message>
+    <message id="abou_001">
+        <source></source>
+        <translation>Parameter information</translation>
+    </message>
+    <message id="abou_002">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="iopr_001">
+        <source></source>
+        <translation>Please wait</translation>
+    </message>
+    <message id="iopr_003">
+        <source></source>
+        <translation>Done:</translation>
+    </message>
+    <message id="iopr_004">
+        <source></source>
+        <translation>Total:</translation>
+    </message>
+    <message id="iopr_005">
+        <source></source>
+        <translation>Time:</translation>
+    </message>
+    <message id="iopr_006">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
     <message id="abbr_017">
         <source>°С</source>
         <translation>°C</translation>

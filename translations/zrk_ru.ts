@@ -27,6 +27,34 @@
         <source>Тест терминала</source>
         <translation>Тест терминала</translation>
     </message>
+    <message id="abou_001">
+        <source></source>
+        <translation>Справка о параметре</translation>
+    </message>
+    <message id="abou_002">
+        <source></source>
+        <translation>Закрыть</translation>
+    </message>
+    <message id="iopr_001">
+        <source></source>
+        <translation>Ожидание</translation>
+    </message>
+    <message id="iopr_003">
+        <source></source>
+        <translation>Выполнено:</translation>
+    </message>
+    <message id="iopr_004">
+        <source></source>
+        <translation>Всего:</translation>
+    </message>
+    <message id="iopr_005">
+        <source></source>
+        <translation>Время:</translation>
+    </message>
+    <message id="iopr_006">
+        <source></source>
+        <translation>Отмена</translation>
+    </message>
     <message id="abbr_017">
         <source>°С</source>
         <translation>°С</translation>
