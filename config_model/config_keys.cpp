@@ -16,6 +16,8 @@ namespace {
 using T = KeyType;
 const QString kIntZero = QStringLiteral("0");
 const QString kIntOne = QStringLiteral("1");
+const QVector<int> kZeroOne { 0, 1 };
+const QVector<int> kAveragingModes { 0, 1, 3 }; // 2 is never written
 
 KeyDecl integer(const char* group, const char* key, int readDefault, int reset, int min, int max,
     const char* label)
@@ -167,14 +169,14 @@ BranchDecl trackBranch(const ZRK_Track_Caps& caps)
     }
 
     //% "Координаты на стоянке"
-    k << choice("COORDAVER", "mode", 1, 1, { 0, 1, 3 }, QT_TRID_NOOP("cfgt3_040"));
+    k << choice("COORDAVER", "mode", 1, 1, kAveragingModes, QT_TRID_NOOP("cfgt3_040"));
     const int sensorLength = caps.avgSensorCount >= 5 ? 5 : 4;
     //% "Признаки стоянки"
     k << flags("COORDAVER", "sensors", sensorLength, caps.avgSensorsDefault,
         fitFlags(caps.avgSensorsDefault, sensorLength), QT_TRID_NOOP("cfgt3_044"));
 
     //% "Режим стоянки"
-    k << choice("MOVESENS", "mode", 1, 1, { 0, 1 }, QT_TRID_NOOP("cfgt3_051"));
+    k << choice("MOVESENS", "mode", 1, 1, kZeroOne, QT_TRID_NOOP("cfgt3_051"));
     //% "Время до стоянки, с"
     k << integer("MOVESENS", "stopTimer", 30, 30, 0, 65535, QT_TRID_NOOP("cfgt3_056"));
 
@@ -183,11 +185,11 @@ BranchDecl trackBranch(const ZRK_Track_Caps& caps)
         //% "Спутниковые системы"
         k << text("GNSS", "mode", caps.gnssModeDefault, caps.gnssModeDefault, QT_TRID_NOOP("cfgt3_057"));
         if (caps.gnssAgps) {
-            //% "A-GPS"
+            //% "Помощь A-GPS"
             k << boolean("GNSS", "useAGPS", true, true, QT_TRID_NOOP("cfgt3_058"));
         }
         if (caps.gnssEpo) {
-            //% "EPO"
+            //% "Прогноз орбит (EPO)"
             k << boolean("GNSS", "useEPO", false, false, QT_TRID_NOOP("cfgt3_059"));
         }
         if (caps.gnssAngle) {
@@ -196,7 +198,7 @@ BranchDecl trackBranch(const ZRK_Track_Caps& caps)
         }
         if (caps.gnssDatum) {
             //% "Система координат"
-            k << choice("GNSS", "datum", 0, 0, { 0, 1 }, QT_TRID_NOOP("cfgt3_061"));
+            k << choice("GNSS", "datum", 0, 0, kZeroOne, QT_TRID_NOOP("cfgt3_061"));
         }
         if (caps.gnssReceiver) {
             //% "Приёмник"
@@ -252,7 +254,7 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
         //% "Ключ доступа"
         k << text("GLOBAL", "key", QString(), QString(), QT_TRID_NOOP("cfgt3_075"));
         //% "Условие"
-        k << choice("GLOBAL", "condition", 0, 0, { 0, 1 }, QT_TRID_NOOP("cfgt3_076"));
+        k << choice("GLOBAL", "condition", 0, 0, kZeroOne, QT_TRID_NOOP("cfgt3_076"));
         if (caps.locatorAddTlm) {
             //% "Добавлять в телеметрию"
             KeyDecl add = integer("GLOBAL", "addTlm", 0, 0, 0, 2, QT_TRID_NOOP("cfgt3_077"));
