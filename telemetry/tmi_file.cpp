@@ -438,8 +438,11 @@ QString parse(const char* data, qint64 size, const QString& name, Header* header
         s.skipSpace();
         if (s.atEnd())
             return done(truncated);
-        if (s.startsWith("</TMI"))
-            return done(QString());
+        if (s.startsWith("</TMI")) {
+            s.p += 5;
+            s.skipSpace();
+            return done(!s.atEnd() && *s.p == '>' ? QString() : truncated);
+        }
         if (s.startsWith("<!--")) {
             if (!s.skipPast("-->"))
                 return done(truncated);
