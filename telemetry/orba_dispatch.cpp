@@ -70,3 +70,23 @@ const char* pageClassName(Form form)
 }
 
 } // namespace orba
+
+namespace orba {
+
+Decoded decodeRecord(const unsigned char* buf, int len)
+{
+    Decoded d;
+    d.form = chooseForm(buf, len, 0, true);
+    if (buf && len >= 1 && buf[0] == kKindFixedPacket)
+        d.form = Form::Orba1;
+    d.page = buildPage(d.form, buf, len);
+    d.className = pageClassName(d.form);
+    return d;
+}
+
+Decoded decodeRecord(const QByteArray& record)
+{
+    return decodeRecord(reinterpret_cast<const unsigned char*>(record.constData()), record.size());
+}
+
+} // namespace orba

@@ -34,3 +34,19 @@ std::unique_ptr<OrbaPage> buildPage(Form form, const unsigned char* buf, int len
 const char* pageClassName(Form form);
 
 } // namespace orba
+
+namespace orba {
+
+// A record read outside the view (saved files, exports, zrk-tool): the view's choice of page, with
+// a fixed packet read as the version-1 record it stands for, since a technician reading an
+// export would rather see its values than "unknown".
+struct Decoded
+{
+    Form form = Form::Dropped;
+    std::unique_ptr<OrbaPage> page; // null when the record cannot be read
+    const char* className = "unknown";
+};
+Decoded decodeRecord(const unsigned char* buf, int len);
+Decoded decodeRecord(const QByteArray& record);
+
+} // namespace orba

@@ -27,37 +27,73 @@
         <source>Тест терминала</source>
         <translation>Terminal test</translation>
     </message>
-    <message id="abou_001">
-        <source></source>
-        <translation>Parameter information</translation>
-    </message>
-    <message id="abou_002">
-        <source></source>
-        <translation>Close</translation>
-    </message>
-    <message id="iopr_001">
-        <source></source>
-        <translation>Please wait</translation>
-    </message>
-    <message id="iopr_003">
-        <source></source>
-        <translation>Done:</translation>
-    </message>
-    <message id="iopr_004">
-        <source></source>
-        <translation>Total:</translation>
-    </message>
-    <message id="iopr_005">
-        <source></source>
-        <translation>Time:</translation>
-    </message>
-    <message id="iopr_006">
-        <source></source>
-        <translation>Cancel</translation>
-    </message>
     <message id="abbr_017">
         <source>°С</source>
         <translation>°C</translation>
+    </message>
+    <message id="tmif_001">
+        <source>Файл «%1»: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_002">
+        <source>не удаётся записать: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_003">
+        <source>нет байтов записи (атрибут data)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_004">
+        <source>запись длиннее %1 байт</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_005">
+        <source>байты записи не в шестнадцатеричном виде</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_006">
+        <source>неверное время получения</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_011">
+        <source>запись %1 повреждена: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_007">
+        <source>это не файл телеметрии .tmi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_008">
+        <source>файл обрывается: нет конца &lt;/TMI&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_009">
+        <source>после записи %1 стоит посторонний текст</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_010">
+        <source>файл обрывается внутри записи %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_012">
+        <source>нарушена разметка</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_016">
+        <source>нарушена разметка после записи %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_013">
+        <source>не удаётся открыть: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_014">
+        <source>Время: %1; скорость: %2 км/ч; событие: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmif_015">
+        <source>Трек</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -27,37 +27,73 @@
         <source>Тест терминала</source>
         <translation>Тест терминала</translation>
     </message>
-    <message id="abou_001">
-        <source></source>
-        <translation>Справка о параметре</translation>
-    </message>
-    <message id="abou_002">
-        <source></source>
-        <translation>Закрыть</translation>
-    </message>
-    <message id="iopr_001">
-        <source></source>
-        <translation>Ожидание</translation>
-    </message>
-    <message id="iopr_003">
-        <source></source>
-        <translation>Выполнено:</translation>
-    </message>
-    <message id="iopr_004">
-        <source></source>
-        <translation>Всего:</translation>
-    </message>
-    <message id="iopr_005">
-        <source></source>
-        <translation>Время:</translation>
-    </message>
-    <message id="iopr_006">
-        <source></source>
-        <translation>Отмена</translation>
-    </message>
     <message id="abbr_017">
         <source>°С</source>
         <translation>°С</translation>
+    </message>
+    <message id="tmif_001">
+        <source>Файл «%1»: %2</source>
+        <translation>Файл «%1»: %2</translation>
+    </message>
+    <message id="tmif_002">
+        <source>не удаётся записать: %1</source>
+        <translation>не удаётся записать: %1</translation>
+    </message>
+    <message id="tmif_003">
+        <source>нет байтов записи (атрибут data)</source>
+        <translation>нет байтов записи (атрибут data)</translation>
+    </message>
+    <message id="tmif_004">
+        <source>запись длиннее %1 байт</source>
+        <translation>запись длиннее %1 байт</translation>
+    </message>
+    <message id="tmif_005">
+        <source>байты записи не в шестнадцатеричном виде</source>
+        <translation>байты записи не в шестнадцатеричном виде</translation>
+    </message>
+    <message id="tmif_006">
+        <source>неверное время получения</source>
+        <translation>неверное время получения</translation>
+    </message>
+    <message id="tmif_011">
+        <source>запись %1 повреждена: %2</source>
+        <translation>запись %1 повреждена: %2</translation>
+    </message>
+    <message id="tmif_007">
+        <source>это не файл телеметрии .tmi</source>
+        <translation>это не файл телеметрии .tmi</translation>
+    </message>
+    <message id="tmif_008">
+        <source>файл обрывается: нет конца &lt;/TMI&gt;</source>
+        <translation>файл обрывается: нет конца &lt;/TMI&gt;</translation>
+    </message>
+    <message id="tmif_009">
+        <source>после записи %1 стоит посторонний текст</source>
+        <translation>после записи %1 стоит посторонний текст</translation>
+    </message>
+    <message id="tmif_010">
+        <source>файл обрывается внутри записи %1</source>
+        <translation>файл обрывается внутри записи %1</translation>
+    </message>
+    <message id="tmif_012">
+        <source>нарушена разметка</source>
+        <translation>нарушена разметка</translation>
+    </message>
+    <message id="tmif_016">
+        <source>нарушена разметка после записи %1</source>
+        <translation>нарушена разметка после записи %1</translation>
+    </message>
+    <message id="tmif_013">
+        <source>не удаётся открыть: %1</source>
+        <translation>не удаётся открыть: %1</translation>
+    </message>
+    <message id="tmif_014">
+        <source>Время: %1; скорость: %2 км/ч; событие: %3</source>
+        <translation>Время: %1; скорость: %2 км/ч; событие: %3</translation>
+    </message>
+    <message id="tmif_015">
+        <source>Трек</source>
+        <translation>Трек</translation>
     </message>
 </context>
 </TS>
