@@ -1,6 +1,6 @@
 #pragma once
 
-#include "telemetry/orba_record.h"
+#include "telemetry/orba_field_labels.h"
 
 #include <QString>
 
@@ -8,8 +8,6 @@ namespace zrk {
 // The display name of record field no (1..255) in the telemetry windows.
 inline QString tmiFieldLabel(int no)
 {
-    if (no < 1 || no > orba::kFieldCount)
-        return QString();
-    return QString::fromLatin1(orba::kFields[no - 1].name);
+    return orba::fieldLabel(no);
 }
 } // namespace zrk

@@ -3,6 +3,7 @@
 #include "device/zrk_device_k7140.h"
 #include "telemetry/orba_page.h"
 #include "telemetry/tmipage_orba3.h"
+#include "telemetry/tmi_file.h"
 #include "telemetry/zrk_form_tmi_ext.h"
 #include "telemetry/zrk_form_tmi_orba3.h"
 #include "telemetry/zrk_form_tmi_production.h"
@@ -13,6 +14,7 @@
 
 #include <QEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QTextCodec>
 
@@ -889,13 +891,34 @@ void ZRK_Widget_Tmi_View::setReceiveFlsDataFile_Read(bool ok)
 
 // ---- saving ---------------------------------------------------------------------------------
 
+void ZRK_Widget_Tmi_View::setFileTitles(const zrk::tmi::Header& titles)
+{
+    m_titles = titles;
+}
+
 bool ZRK_Widget_Tmi_View::WriteTmiToFile(const QString& name, QString* error)
 {
-    Q_UNUSED(name)
-    //% "Запись файла телеметрии ещё не доступна"
-    if (error)
-        *error = qtTrId("tmiw_113");
-    return false;
+    QVector<zrk::tmi::Record> records;
+    records.reserve(m_session->count());
+    for (const ZRK_Tmi_Session::Entry& e : m_session->entries())
+        records.append({ e.bytes, e.received, e.origin != int(Origin::Live) });
+    QString fault;
+    bool ok;
+    const QString suffix = QFileInfo(name).suffix().toLower();
+    if (suffix == QLatin1String("csv")) {
+        ok = zrk::tmi::exportCsv(name, records, &fault);
+    } else if (suffix == QLatin1String("kml")) {
+        ok = zrk::tmi::exportKml(name, records, &fault);
+    } else {
+        zrk::tmi::Header header = m_titles;
+        header.model = lpGlobalDevice ? lpGlobalDevice->getDeviceType() : QString();
+        header.vendor = lpGlobalDevice ? lpGlobalDevice->getDeviceVendor() : QString();
+        header.timezoneOffset = timeOffset();
+        ok = zrk::tmi::write(name, header, records, &fault);
+    }
+    if (!ok && error)
+        *error = fault;
+    return ok;
 }
 
 void ZRK_Widget_Tmi_View::slot_pressed_SaveFile()
@@ -908,6 +931,5 @@ void ZRK_Widget_Tmi_View::slot_pressed_SaveFile()
         return;
     QString error;
     if (!WriteTmiToFile(name, &error))
-        //% "Файл %1 не сохранён: %2"
-        QMessageBox::warning(this, qtTrId("tmiw_114"), qtTrId("tmiw_116").arg(name, error));
+        QMessageBox::warning(this, qtTrId("tmiw_114"), error);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "telemetry/orba_dispatch.h"
+#include "telemetry/tmi_file.h"
 #include "zrk/zrk_host_api.h"
 
 #include <QDateTime>
@@ -109,7 +110,12 @@ public:
     QString logText() const;
 
     // Saves the session's records: .tmi/.xml as the telemetry file, .csv and .kml as exports.
+    // Whole or not at all; error gets a Russian text naming the file.
     bool WriteTmiToFile(const QString& name, QString* error = nullptr);
+    // Titles of inputs, outputs, temperature sensors and the user-parameter types of the open
+    // configuration, written into the head of saved files; the configuration window sets them
+    // when it opens or saves a configuration (empty until then).
+    void setFileTitles(const zrk::tmi::Header& titles);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -183,4 +189,5 @@ private:
     // Host texts are asked once per code and session.
     QHash<quint16, QString> m_eventTexts;
     QHash<quint8, QString> m_diagnosticTexts;
+    zrk::tmi::Header m_titles;
 };

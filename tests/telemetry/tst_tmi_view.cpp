@@ -329,6 +329,29 @@ private slots:
         QCOMPARE(sentIds(true).count(ZRK_MSG_EVENT_CODE_TEXT), 1);
     }
 
+    void savedFileKeepsTheSession()
+    {
+        QByteArray cur = reply(3, record(21) + QByteArray(80, '\0'));
+        view->setTmiCur(&cur);
+        QByteArray old = reply(13, record(20, 2));
+        view->setTmiCurLeft(&old);
+        zrk::tmi::Header titles;
+        titles.inTitles = QStringList { QStringLiteral("Зажигание") };
+        view->setFileTitles(titles);
+        const QString path = home.filePath(QStringLiteral("session.tmi"));
+        QString error;
+        QVERIFY2(view->WriteTmiToFile(path, &error), qPrintable(error));
+        const zrk::tmi::ReadResult back = zrk::tmi::read(path);
+        QVERIFY2(back.error.isEmpty(), qPrintable(back.error));
+        QCOMPARE(back.header.model, QStringLiteral("K-7140"));
+        QCOMPARE(back.header.inTitles.value(0), QStringLiteral("Зажигание"));
+        QCOMPARE(back.records.size(), 2);
+        QCOMPARE(back.records[0].bytes, record(21) + QByteArray(80, '\0'));
+        QCOMPARE(back.records[1].fromHistory, true);
+        QVERIFY(!view->WriteTmiToFile(home.filePath(QStringLiteral("no/such/dir/x.tmi")), &error));
+        QVERIFY(!error.isEmpty());
+    }
+
     void sessionDropsOldestFirst()
     {
         ZRK_Tmi_Session session(3);
