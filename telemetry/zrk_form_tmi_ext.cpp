@@ -5,6 +5,20 @@
 
 #include <QTextStream>
 
+// The Russian texts of the ids the form file carries (uic passes the ids on as they are).
+[[maybe_unused]] const char* const kFormTextIds[] = {
+    //% "Расширенная запись"
+    QT_TRID_NOOP("tmio_030"),
+    //% "Поле"
+    QT_TRID_NOOP("tmio_031"),
+    //% "Значение"
+    QT_TRID_NOOP("tmio_032"),
+    //% "Тип"
+    QT_TRID_NOOP("tmio_033"),
+    //% "Размер"
+    QT_TRID_NOOP("tmio_034"),
+};
+
 ZRK_Form_TMI_Ext::ZRK_Form_TMI_Ext(QWidget* parent)
     : QWidget(parent)
     , ui(new Ui::ZRK_Designer_Form_TMI_Ext)

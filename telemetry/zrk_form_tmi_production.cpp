@@ -41,6 +41,12 @@ const Item kItems[] = {
     { QT_TRID_NOOP("tmio_052"), orba::F_HPrecisionTemp1, -1 },
 };
 
+// The Russian texts of the ids the form file carries (uic passes the ids on as they are).
+[[maybe_unused]] const char* const kFormTextIds[] = {
+    //% "Проверка на производстве"
+    QT_TRID_NOOP("tmio_040"),
+};
+
 } // namespace
 
 ZRK_Form_TMI_Production::ZRK_Form_TMI_Production(QWidget* parent)
@@ -79,11 +85,14 @@ void ZRK_Form_TMI_Production::setPage(const OrbaPage& page)
     for (int i = 0; i < m_values.size(); ++i) {
         const Item& item = kItems[i];
         QString text = item.sub < 0 ? page.fieldText(item.field) : page.subValueText(item.sub);
-        if (item.field == orba::F_Out1 && page.isUsed(item.field))
-            //% "ВКЛ"
-            text = text == QLatin1String("1") ? qtTrId("tmio_053")
-                                              //% "выкл"
-                                              : qtTrId("tmio_054");
+        if (item.field == orba::F_Out1 && page.isUsed(item.field)) {
+            if (text == QLatin1String("1"))
+                //% "ВКЛ"
+                text = qtTrId("tmio_053");
+            else
+                //% "выкл"
+                text = qtTrId("tmio_054");
+        }
         if (m_values[i]->text() != text)
             m_values[i]->setText(text);
     }

@@ -40,6 +40,142 @@ template <typename T> unsigned long addr(T& v)
     return reinterpret_cast<unsigned long>(&v);
 }
 
+// The Russian texts of the ids the form file carries (uic passes the ids on as they are).
+[[maybe_unused]] const char* const kFormTextIds[] = {
+    //% "Текущая запись"
+    QT_TRID_NOOP("tmiw_001"),
+    //% "◀ Предыдущая"
+    QT_TRID_NOOP("tmiw_002"),
+    //% "Следующая ▶"
+    QT_TRID_NOOP("tmiw_003"),
+    //% "Показать"
+    QT_TRID_NOOP("tmiw_004"),
+    //% "Смещение от UTC:"
+    QT_TRID_NOOP("tmiw_005"),
+    //% "Автозапрос"
+    QT_TRID_NOOP("tmiw_006"),
+    //% "Период автозапроса, 1..60 с"
+    QT_TRID_NOOP("tmiw_007"),
+    //% "Скрывать отсутствующие поля"
+    QT_TRID_NOOP("tmiw_008"),
+    //% "Сохранить…"
+    QT_TRID_NOOP("tmiw_009"),
+    //% "График"
+    QT_TRID_NOOP("tmiw_010"),
+    //% "Команды"
+    QT_TRID_NOOP("tmiw_011"),
+    //% "Журнал"
+    QT_TRID_NOOP("tmiw_012"),
+    //% "Добавить"
+    QT_TRID_NOOP("tmiw_013"),
+    //% "Очистить"
+    QT_TRID_NOOP("tmiw_014"),
+    //% "Выход"
+    QT_TRID_NOOP("tmiw_015"),
+    //% "Включить"
+    QT_TRID_NOOP("tmiw_016"),
+    //% "Выключить"
+    QT_TRID_NOOP("tmiw_017"),
+    //% "Охрана"
+    QT_TRID_NOOP("tmiw_018"),
+    //% "Поставить"
+    QT_TRID_NOOP("tmiw_019"),
+    //% "Снять"
+    QT_TRID_NOOP("tmiw_020"),
+    //% "Очистка"
+    QT_TRID_NOOP("tmiw_021"),
+    //% "Очистить"
+    QT_TRID_NOOP("tmiw_022"),
+    //% "Вывод GNSS/NMEA"
+    QT_TRID_NOOP("tmiw_023"),
+    //% "Параметр"
+    QT_TRID_NOOP("tmiw_024"),
+    //% "Установить"
+    QT_TRID_NOOP("tmiw_025"),
+    //% "Команда с числом"
+    QT_TRID_NOOP("tmiw_026"),
+    //% "Выполнить"
+    QT_TRID_NOOP("tmiw_027"),
+    //% "Ключ / карта"
+    QT_TRID_NOOP("tmiw_028"),
+    //% "Прочитать ключ ТМ"
+    QT_TRID_NOOP("tmiw_029"),
+    //% "Прочитать RFID-карту"
+    QT_TRID_NOOP("tmiw_030"),
+    //% "Код ключа ТМ"
+    QT_TRID_NOOP("tmiw_031"),
+    //% "Код RFID"
+    QT_TRID_NOOP("tmiw_032"),
+    //% "ДУТ: команда"
+    QT_TRID_NOOP("tmiw_033"),
+    //% "Отправить"
+    QT_TRID_NOOP("tmiw_034"),
+    //% "Прошивка датчика"
+    QT_TRID_NOOP("tmiw_035"),
+    //% "Выбрать файл…"
+    QT_TRID_NOOP("tmiw_036"),
+    //% "Тахограф: запрос"
+    QT_TRID_NOOP("tmiw_037"),
+    //% "Запросить"
+    QT_TRID_NOOP("tmiw_038"),
+    //% "Тахограф: файл"
+    QT_TRID_NOOP("tmiw_039"),
+    //% "Тахограф: чтение файла"
+    QT_TRID_NOOP("tmiw_045"),
+    //% "Прочитать"
+    QT_TRID_NOOP("tmiw_046"),
+    //% "ДУТ: данные"
+    QT_TRID_NOOP("tmiw_047"),
+    //% "ДУТ: файл данных"
+    QT_TRID_NOOP("tmiw_048"),
+    //% "Память записей"
+    QT_TRID_NOOP("tmiw_049"),
+    //% "Счётчики"
+    QT_TRID_NOOP("tmiw_050"),
+    //% "Всё"
+    QT_TRID_NOOP("tmiw_051"),
+    //% "Бортовое устройство"
+    QT_TRID_NOOP("tmiw_052"),
+    //% "Карта водителя"
+    QT_TRID_NOOP("tmiw_053"),
+    //% "Номер выхода, 1..8"
+    QT_TRID_NOOP("tmiw_054"),
+    //% "Часы смещения от UTC, -12..14"
+    QT_TRID_NOOP("tmiw_055"),
+    //% "Минуты смещения, 0..45"
+    QT_TRID_NOOP("tmiw_056"),
+    //% "Номер показанной записи"
+    QT_TRID_NOOP("tmiw_057"),
+    //% "Число для команды"
+    QT_TRID_NOOP("tmiw_058"),
+    //% "Момент: показать ближайшую запись до него"
+    QT_TRID_NOOP("tmiw_059"),
+    //% "Числовое поле для графика"
+    QT_TRID_NOOP("tmiw_060"),
+    //% "Текст параметра, например «имя=значение»"
+    QT_TRID_NOOP("tmiw_061"),
+    //% "Команда датчику уровня топлива"
+    QT_TRID_NOOP("tmiw_062"),
+    //% "Вид запроса тахографа, 0..255"
+    QT_TRID_NOOP("tmiw_063"),
+    //% "Начало периода"
+    QT_TRID_NOOP("tmiw_064"),
+    //% "Конец периода"
+    QT_TRID_NOOP("tmiw_065"),
+    //% "Имя файла тахографа"
+    QT_TRID_NOOP("tmiw_066"),
+    //% "Датчик"
+    QT_TRID_NOOP("tmiw_067"),
+    //% "Запрос"
+    QT_TRID_NOOP("tmiw_068"),
+    //% "Имя файла данных датчика"
+    QT_TRID_NOOP("tmiw_069"),
+    //% "Запросите текущую запись"
+    QT_TRID_NOOP("tmiw_070"),
+    //% "Записи этого сеанса; щелчок показывает запись"
+    QT_TRID_NOOP("tmiw_071"),
+};
+
 bool isProductionMode()
 {
     const quint32 mode = lpGlobalDevice ? lpGlobalDevice->getConfiguratorMode() : 0;
@@ -157,9 +293,12 @@ void ZRK_Widget_Tmi_View::setTerminalControlsEnabled()
         w->setEnabled(on && !automatic);
     ui->GetAutoTmi->setEnabled(on);
     ui->TabCommands->setEnabled(on);
-    //% "Терминал подключён"
-    //% "Терминал не подключён"
-    ui->ConnectionState->setText(on ? qtTrId("tmiw_081") : qtTrId("tmiw_082"));
+    if (on)
+        //% "Терминал подключён"
+        ui->ConnectionState->setText(qtTrId("tmiw_081"));
+    else
+        //% "Терминал не подключён"
+        ui->ConnectionState->setText(qtTrId("tmiw_082"));
 }
 
 void ZRK_Widget_Tmi_View::setNavigationEnabled(bool enabled)
@@ -404,11 +543,12 @@ void ZRK_Widget_Tmi_View::updateFreshness()
     if (m_shownOrigin == Origin::Live) {
         ui->HistoryMark->hide();
     } else {
-        ui->HistoryMark->setText(m_shownOrigin == Origin::ByNumber
-                //% "ИЗ ИСТОРИИ (по номеру)"
-                ? qtTrId("tmiw_089")
-                //% "ИЗ ИСТОРИИ (по времени)"
-                : qtTrId("tmiw_090"));
+        if (m_shownOrigin == Origin::ByNumber)
+            //% "ИЗ ИСТОРИИ (по номеру)"
+            ui->HistoryMark->setText(qtTrId("tmiw_089"));
+        else
+            //% "ИЗ ИСТОРИИ (по времени)"
+            ui->HistoryMark->setText(qtTrId("tmiw_090"));
         ui->HistoryMark->show();
     }
 }
@@ -870,9 +1010,12 @@ void ZRK_Widget_Tmi_View::setReceiveTahoQuest(QByteArray* data)
 
 void ZRK_Widget_Tmi_View::setReceiveTahoFile_Read(bool ok)
 {
-    //% "Файл тахографа прочитан"
-    //% "Файл тахографа не прочитан"
-    logLine(ok ? qtTrId("tmiw_108") : qtTrId("tmiw_109"));
+    if (ok)
+        //% "Файл тахографа прочитан"
+        logLine(qtTrId("tmiw_108"));
+    else
+        //% "Файл тахографа не прочитан"
+        logLine(qtTrId("tmiw_109"));
 }
 
 void ZRK_Widget_Tmi_View::setReceiveFlsDataFile_Quest(QByteArray* data)
@@ -884,9 +1027,12 @@ void ZRK_Widget_Tmi_View::setReceiveFlsDataFile_Quest(QByteArray* data)
 
 void ZRK_Widget_Tmi_View::setReceiveFlsDataFile_Read(bool ok)
 {
-    //% "Файл данных датчика прочитан"
-    //% "Файл данных датчика не прочитан"
-    logLine(ok ? qtTrId("tmiw_111") : qtTrId("tmiw_112"));
+    if (ok)
+        //% "Файл данных датчика прочитан"
+        logLine(qtTrId("tmiw_111"));
+    else
+        //% "Файл данных датчика не прочитан"
+        logLine(qtTrId("tmiw_112"));
 }
 
 // ---- saving ---------------------------------------------------------------------------------
@@ -925,8 +1071,10 @@ void ZRK_Widget_Tmi_View::slot_pressed_SaveFile()
 {
     const QString dir = lpGlobalDevice ? lpGlobalDevice->getPathTMI() : QString();
     //% "Сохранить записи телеметрии"
+    const QString title = qtTrId("tmiw_114");
     //% "Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)"
-    const QString name = QFileDialog::getSaveFileName(this, qtTrId("tmiw_114"), dir, qtTrId("tmiw_115"));
+    const QString filter = qtTrId("tmiw_115");
+    const QString name = QFileDialog::getSaveFileName(this, title, dir, filter);
     if (name.isEmpty())
         return;
     QString error;

@@ -1115,5 +1115,597 @@
         <source>Параметр пользователя 8 байт, №3</source>
         <translation>Параметр пользователя 8 байт, №3</translation>
     </message>
+    <message id="tmio_030">
+        <source>Расширенная запись</source>
+        <translation>Расширенная запись</translation>
+    </message>
+    <message id="tmio_031">
+        <source>Поле</source>
+        <translation>Поле</translation>
+    </message>
+    <message id="tmio_032">
+        <source>Значение</source>
+        <translation>Значение</translation>
+    </message>
+    <message id="tmio_033">
+        <source>Тип</source>
+        <translation>Тип</translation>
+    </message>
+    <message id="tmio_034">
+        <source>Размер</source>
+        <translation>Размер</translation>
+    </message>
+    <message id="tmio_001">
+        <source>Основное</source>
+        <translation>Основное</translation>
+    </message>
+    <message id="tmio_002">
+        <source>Навигация</source>
+        <translation>Навигация</translation>
+    </message>
+    <message id="tmio_003">
+        <source>Питание, входы и выходы</source>
+        <translation>Питание, входы и выходы</translation>
+    </message>
+    <message id="tmio_004">
+        <source>Датчики</source>
+        <translation>Датчики</translation>
+    </message>
+    <message id="tmio_005">
+        <source>Шина CAN</source>
+        <translation>Шина CAN</translation>
+    </message>
+    <message id="tmio_007">
+        <source>Тахограф</source>
+        <translation>Тахограф</translation>
+    </message>
+    <message id="tmio_008">
+        <source>Акселерометр и эко-вождение</source>
+        <translation>Акселерометр и эко-вождение</translation>
+    </message>
+    <message id="tmio_009">
+        <source>Пассажиры</source>
+        <translation>Пассажиры</translation>
+    </message>
+    <message id="tmio_010">
+        <source>Геоинформация</source>
+        <translation>Геоинформация</translation>
+    </message>
+    <message id="tmio_011">
+        <source>Датчики расхода топлива</source>
+        <translation>Датчики расхода топлива</translation>
+    </message>
+    <message id="tmio_012">
+        <source>Рефрижератор</source>
+        <translation>Рефрижератор</translation>
+    </message>
+    <message id="tmio_013">
+        <source>Пользовательские параметры</source>
+        <translation>Пользовательские параметры</translation>
+    </message>
+    <message id="tmio_006">
+        <source>Шины</source>
+        <translation>Шины</translation>
+    </message>
+    <message id="tmio_014">
+        <source>Исходные данные</source>
+        <translation>Исходные данные</translation>
+    </message>
+    <message id="tmio_020">
+        <source>Номер датчика</source>
+        <translation>Номер датчика</translation>
+    </message>
+    <message id="tmio_021">
+        <source>Давление</source>
+        <translation>Давление</translation>
+    </message>
+    <message id="tmio_022">
+        <source>Температура</source>
+        <translation>Температура</translation>
+    </message>
+    <message id="tmio_023">
+        <source>Версия %1, набор полей (%2): %3</source>
+        <translation>Версия %1, набор полей (%2): %3</translation>
+    </message>
+    <message id="tmio_024">
+        <source>Тело записи, %1 байт:</source>
+        <translation>Тело записи, %1 байт:</translation>
+    </message>
+    <message id="tmio_041">
+        <source>Питание</source>
+        <translation>Питание</translation>
+    </message>
+    <message id="tmio_042">
+        <source>Входы 1-8</source>
+        <translation>Входы 1-8</translation>
+    </message>
+    <message id="tmio_043">
+        <source>Аналоговый вход 1</source>
+        <translation>Аналоговый вход 1</translation>
+    </message>
+    <message id="tmio_044">
+        <source>Аналоговый вход 2</source>
+        <translation>Аналоговый вход 2</translation>
+    </message>
+    <message id="tmio_045">
+        <source>Выход 1</source>
+        <translation>Выход 1</translation>
+    </message>
+    <message id="tmio_046">
+        <source>Выход 2</source>
+        <translation>Выход 2</translation>
+    </message>
+    <message id="tmio_047">
+        <source>Спутники</source>
+        <translation>Спутники</translation>
+    </message>
+    <message id="tmio_048">
+        <source>Навигация (фиксация)</source>
+        <translation>Навигация (фиксация)</translation>
+    </message>
+    <message id="tmio_049">
+        <source>Уровень GSM</source>
+        <translation>Уровень GSM</translation>
+    </message>
+    <message id="tmio_050">
+        <source>Температура 1</source>
+        <translation>Температура 1</translation>
+    </message>
+    <message id="tmio_051">
+        <source>Температура 2</source>
+        <translation>Температура 2</translation>
+    </message>
+    <message id="tmio_052">
+        <source>Температура (точная) 1</source>
+        <translation>Температура (точная) 1</translation>
+    </message>
+    <message id="tmio_040">
+        <source>Проверка на производстве</source>
+        <translation>Проверка на производстве</translation>
+    </message>
+    <message id="tmio_053">
+        <source>ВКЛ</source>
+        <translation>ВКЛ</translation>
+    </message>
+    <message id="tmio_054">
+        <source>выкл</source>
+        <translation>выкл</translation>
+    </message>
+    <message id="tmiw_043">
+        <source>%1: мин. %2, макс. %3</source>
+        <translation>%1: мин. %2, макс. %3</translation>
+    </message>
+    <message id="tmiw_044">
+        <source>%1: нет данных</source>
+        <translation>%1: нет данных</translation>
+    </message>
+    <message id="tmiw_040">
+        <source>расширенная</source>
+        <translation>расширенная</translation>
+    </message>
+    <message id="tmiw_041">
+        <source>неизвестная</source>
+        <translation>неизвестная</translation>
+    </message>
+    <message id="tmiw_042">
+        <source>история</source>
+        <translation>история</translation>
+    </message>
+    <message id="tmiw_001">
+        <source>Текущая запись</source>
+        <translation>Текущая запись</translation>
+    </message>
+    <message id="tmiw_002">
+        <source>◀ Предыдущая</source>
+        <translation>◀ Предыдущая</translation>
+    </message>
+    <message id="tmiw_003">
+        <source>Следующая ▶</source>
+        <translation>Следующая ▶</translation>
+    </message>
+    <message id="tmiw_004">
+        <source>Показать</source>
+        <translation>Показать</translation>
+    </message>
+    <message id="tmiw_005">
+        <source>Смещение от UTC:</source>
+        <translation>Смещение от UTC:</translation>
+    </message>
+    <message id="tmiw_006">
+        <source>Автозапрос</source>
+        <translation>Автозапрос</translation>
+    </message>
+    <message id="tmiw_007">
+        <source>Период автозапроса, 1..60 с</source>
+        <translation>Период автозапроса, 1..60 с</translation>
+    </message>
+    <message id="tmiw_008">
+        <source>Скрывать отсутствующие поля</source>
+        <translation>Скрывать отсутствующие поля</translation>
+    </message>
+    <message id="tmiw_009">
+        <source>Сохранить…</source>
+        <translation>Сохранить…</translation>
+    </message>
+    <message id="tmiw_010">
+        <source>График</source>
+        <translation>График</translation>
+    </message>
+    <message id="tmiw_011">
+        <source>Команды</source>
+        <translation>Команды</translation>
+    </message>
+    <message id="tmiw_012">
+        <source>Журнал</source>
+        <translation>Журнал</translation>
+    </message>
+    <message id="tmiw_013">
+        <source>Добавить</source>
+        <translation>Добавить</translation>
+    </message>
+    <message id="tmiw_014">
+        <source>Очистить</source>
+        <translation>Очистить</translation>
+    </message>
+    <message id="tmiw_015">
+        <source>Выход</source>
+        <translation>Выход</translation>
+    </message>
+    <message id="tmiw_016">
+        <source>Включить</source>
+        <translation>Включить</translation>
+    </message>
+    <message id="tmiw_017">
+        <source>Выключить</source>
+        <translation>Выключить</translation>
+    </message>
+    <message id="tmiw_018">
+        <source>Охрана</source>
+        <translation>Охрана</translation>
+    </message>
+    <message id="tmiw_019">
+        <source>Поставить</source>
+        <translation>Поставить</translation>
+    </message>
+    <message id="tmiw_020">
+        <source>Снять</source>
+        <translation>Снять</translation>
+    </message>
+    <message id="tmiw_021">
+        <source>Очистка</source>
+        <translation>Очистка</translation>
+    </message>
+    <message id="tmiw_022">
+        <source>Очистить</source>
+        <translation>Очистить</translation>
+    </message>
+    <message id="tmiw_023">
+        <source>Вывод GNSS/NMEA</source>
+        <translation>Вывод GNSS/NMEA</translation>
+    </message>
+    <message id="tmiw_024">
+        <source>Параметр</source>
+        <translation>Параметр</translation>
+    </message>
+    <message id="tmiw_025">
+        <source>Установить</source>
+        <translation>Установить</translation>
+    </message>
+    <message id="tmiw_026">
+        <source>Команда с числом</source>
+        <translation>Команда с числом</translation>
+    </message>
+    <message id="tmiw_027">
+        <source>Выполнить</source>
+        <translation>Выполнить</translation>
+    </message>
+    <message id="tmiw_028">
+        <source>Ключ / карта</source>
+        <translation>Ключ / карта</translation>
+    </message>
+    <message id="tmiw_029">
+        <source>Прочитать ключ ТМ</source>
+        <translation>Прочитать ключ ТМ</translation>
+    </message>
+    <message id="tmiw_030">
+        <source>Прочитать RFID-карту</source>
+        <translation>Прочитать RFID-карту</translation>
+    </message>
+    <message id="tmiw_031">
+        <source>Код ключа ТМ</source>
+        <translation>Код ключа ТМ</translation>
+    </message>
+    <message id="tmiw_032">
+        <source>Код RFID</source>
+        <translation>Код RFID</translation>
+    </message>
+    <message id="tmiw_033">
+        <source>ДУТ: команда</source>
+        <translation>ДУТ: команда</translation>
+    </message>
+    <message id="tmiw_034">
+        <source>Отправить</source>
+        <translation>Отправить</translation>
+    </message>
+    <message id="tmiw_035">
+        <source>Прошивка датчика</source>
+        <translation>Прошивка датчика</translation>
+    </message>
+    <message id="tmiw_036">
+        <source>Выбрать файл…</source>
+        <translation>Выбрать файл…</translation>
+    </message>
+    <message id="tmiw_037">
+        <source>Тахограф: запрос</source>
+        <translation>Тахограф: запрос</translation>
+    </message>
+    <message id="tmiw_038">
+        <source>Запросить</source>
+        <translation>Запросить</translation>
+    </message>
+    <message id="tmiw_039">
+        <source>Тахограф: файл</source>
+        <translation>Тахограф: файл</translation>
+    </message>
+    <message id="tmiw_045">
+        <source>Тахограф: чтение файла</source>
+        <translation>Тахограф: чтение файла</translation>
+    </message>
+    <message id="tmiw_046">
+        <source>Прочитать</source>
+        <translation>Прочитать</translation>
+    </message>
+    <message id="tmiw_047">
+        <source>ДУТ: данные</source>
+        <translation>ДУТ: данные</translation>
+    </message>
+    <message id="tmiw_048">
+        <source>ДУТ: файл данных</source>
+        <translation>ДУТ: файл данных</translation>
+    </message>
+    <message id="tmiw_049">
+        <source>Память записей</source>
+        <translation>Память записей</translation>
+    </message>
+    <message id="tmiw_050">
+        <source>Счётчики</source>
+        <translation>Счётчики</translation>
+    </message>
+    <message id="tmiw_051">
+        <source>Всё</source>
+        <translation>Всё</translation>
+    </message>
+    <message id="tmiw_052">
+        <source>Бортовое устройство</source>
+        <translation>Бортовое устройство</translation>
+    </message>
+    <message id="tmiw_053">
+        <source>Карта водителя</source>
+        <translation>Карта водителя</translation>
+    </message>
+    <message id="tmiw_054">
+        <source>Номер выхода, 1..8</source>
+        <translation>Номер выхода, 1..8</translation>
+    </message>
+    <message id="tmiw_055">
+        <source>Часы смещения от UTC, -12..14</source>
+        <translation>Часы смещения от UTC, -12..14</translation>
+    </message>
+    <message id="tmiw_056">
+        <source>Минуты смещения, 0..45</source>
+        <translation>Минуты смещения, 0..45</translation>
+    </message>
+    <message id="tmiw_057">
+        <source>Номер показанной записи</source>
+        <translation>Номер показанной записи</translation>
+    </message>
+    <message id="tmiw_058">
+        <source>Число для команды</source>
+        <translation>Число для команды</translation>
+    </message>
+    <message id="tmiw_059">
+        <source>Момент: показать ближайшую запись до него</source>
+        <translation>Момент: показать ближайшую запись до него</translation>
+    </message>
+    <message id="tmiw_060">
+        <source>Числовое поле для графика</source>
+        <translation>Числовое поле для графика</translation>
+    </message>
+    <message id="tmiw_061">
+        <source>Текст параметра, например «имя=значение»</source>
+        <translation>Текст параметра, например «имя=значение»</translation>
+    </message>
+    <message id="tmiw_062">
+        <source>Команда датчику уровня топлива</source>
+        <translation>Команда датчику уровня топлива</translation>
+    </message>
+    <message id="tmiw_063">
+        <source>Вид запроса тахографа, 0..255</source>
+        <translation>Вид запроса тахографа, 0..255</translation>
+    </message>
+    <message id="tmiw_064">
+        <source>Начало периода</source>
+        <translation>Начало периода</translation>
+    </message>
+    <message id="tmiw_065">
+        <source>Конец периода</source>
+        <translation>Конец периода</translation>
+    </message>
+    <message id="tmiw_066">
+        <source>Имя файла тахографа</source>
+        <translation>Имя файла тахографа</translation>
+    </message>
+    <message id="tmiw_067">
+        <source>Датчик</source>
+        <translation>Датчик</translation>
+    </message>
+    <message id="tmiw_068">
+        <source>Запрос</source>
+        <translation>Запрос</translation>
+    </message>
+    <message id="tmiw_069">
+        <source>Имя файла данных датчика</source>
+        <translation>Имя файла данных датчика</translation>
+    </message>
+    <message id="tmiw_070">
+        <source>Запросите текущую запись</source>
+        <translation>Запросите текущую запись</translation>
+    </message>
+    <message id="tmiw_071">
+        <source>Записи этого сеанса; щелчок показывает запись</source>
+        <translation>Записи этого сеанса; щелчок показывает запись</translation>
+    </message>
+    <message id="tmiw_080">
+        <source>Удалённый сеанс с терминалом завершён</source>
+        <translation>Удалённый сеанс с терминалом завершён</translation>
+    </message>
+    <message id="tmiw_081">
+        <source>Терминал подключён</source>
+        <oldsource>Терминал подключёнТерминал не подключён</oldsource>
+        <translation>Терминал подключёнТерминал не подключён</translation>
+    </message>
+    <message id="tmiw_082">
+        <source>Терминал не подключён</source>
+        <translation>Терминал не подключён</translation>
+    </message>
+    <message id="tmiw_083">
+        <source>Параметры конфигурации: %1</source>
+        <translation>Параметры конфигурации: %1</translation>
+    </message>
+    <message id="tmiw_084">
+        <source>Запрос режима проверки</source>
+        <translation>Запрос режима проверки</translation>
+    </message>
+    <message id="tmiw_223">
+        <source>Неизвестный тип записи</source>
+        <translation>Неизвестный тип записи</translation>
+    </message>
+    <message id="tmiw_085">
+        <source>Получена: %1</source>
+        <translation>Получена: %1</translation>
+    </message>
+    <message id="tmiw_086">
+        <source>время записи: %1</source>
+        <translation>время записи: %1</translation>
+    </message>
+    <message id="tmiw_087">
+        <source>возраст координат: %1 %2</source>
+        <translation>возраст координат: %1 %2</translation>
+    </message>
+    <message id="abbr_003">
+        <source>с</source>
+        <translation>с</translation>
+    </message>
+    <message id="tmiw_088">
+        <source>координат нет</source>
+        <translation>координат нет</translation>
+    </message>
+    <message id="tmiw_089">
+        <source>ИЗ ИСТОРИИ (по номеру)</source>
+        <translation>ИЗ ИСТОРИИ (по номеру)</translation>
+    </message>
+    <message id="tmiw_090">
+        <source>ИЗ ИСТОРИИ (по времени)</source>
+        <translation>ИЗ ИСТОРИИ (по времени)</translation>
+    </message>
+    <message id="tmiw_091">
+        <source>Команда терминалу</source>
+        <translation>Команда терминалу</translation>
+    </message>
+    <message id="tmiw_092">
+        <source>Включить выход %1?</source>
+        <translation>Включить выход %1?</translation>
+    </message>
+    <message id="tmiw_093">
+        <source>Выключить выход %1?</source>
+        <translation>Выключить выход %1?</translation>
+    </message>
+    <message id="tmiw_094">
+        <source>Поставить терминал на охрану?</source>
+        <translation>Поставить терминал на охрану?</translation>
+    </message>
+    <message id="tmiw_095">
+        <source>Снять терминал с охраны?</source>
+        <translation>Снять терминал с охраны?</translation>
+    </message>
+    <message id="tmiw_096">
+        <source>Выполнить «%1»? Данные терминала будут удалены.</source>
+        <translation>Выполнить «%1»? Данные терминала будут удалены.</translation>
+    </message>
+    <message id="tmiw_097">
+        <source>Файл прошивки датчика</source>
+        <translation>Файл прошивки датчика</translation>
+    </message>
+    <message id="tmiw_098">
+        <source>Записать прошивку %1 в датчик? Датчик будет недоступен до конца записи.</source>
+        <translation>Записать прошивку %1 в датчик? Датчик будет недоступен до конца записи.</translation>
+    </message>
+    <message id="tmiw_099">
+        <source>Значение параметра</source>
+        <translation>Значение параметра</translation>
+    </message>
+    <message id="tmiw_100">
+        <source>Ответ на команду</source>
+        <translation>Ответ на команду</translation>
+    </message>
+    <message id="tmiw_101">
+        <source>Ответ датчика топлива</source>
+        <translation>Ответ датчика топлива</translation>
+    </message>
+    <message id="tmiw_102">
+        <source>Параметры прошивки датчика</source>
+        <translation>Параметры прошивки датчика</translation>
+    </message>
+    <message id="tmiw_103">
+        <source>Ключ ТМ: %1</source>
+        <translation>Ключ ТМ: %1</translation>
+    </message>
+    <message id="tmiw_104">
+        <source>Получены значения АЦП универсальных входов</source>
+        <translation>Получены значения АЦП универсальных входов</translation>
+    </message>
+    <message id="tmiw_105">
+        <source>Текущее значение дисплея: %1</source>
+        <translation>Текущее значение дисплея: %1</translation>
+    </message>
+    <message id="tmiw_106">
+        <source>RFID-карта: %1 (%2)</source>
+        <translation>RFID-карта: %1 (%2)</translation>
+    </message>
+    <message id="tmiw_107">
+        <source>Ответ тахографа</source>
+        <translation>Ответ тахографа</translation>
+    </message>
+    <message id="tmiw_108">
+        <source>Файл тахографа прочитан</source>
+        <oldsource>Файл тахографа прочитанФайл тахографа не прочитан</oldsource>
+        <translation>Файл тахографа прочитанФайл тахографа не прочитан</translation>
+    </message>
+    <message id="tmiw_109">
+        <source>Файл тахографа не прочитан</source>
+        <translation>Файл тахографа не прочитан</translation>
+    </message>
+    <message id="tmiw_110">
+        <source>Ответ на запрос файла данных датчика</source>
+        <translation>Ответ на запрос файла данных датчика</translation>
+    </message>
+    <message id="tmiw_111">
+        <source>Файл данных датчика прочитан</source>
+        <oldsource>Файл данных датчика прочитанФайл данных датчика не прочитан</oldsource>
+        <translation>Файл данных датчика прочитанФайл данных датчика не прочитан</translation>
+    </message>
+    <message id="tmiw_112">
+        <source>Файл данных датчика не прочитан</source>
+        <translation>Файл данных датчика не прочитан</translation>
+    </message>
+    <message id="tmiw_114">
+        <source>Сохранить записи телеметрии</source>
+        <oldsource>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</oldsource>
+        <translation>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
+    </message>
+    <message id="tmiw_115">
+        <source>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
+        <translation>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
+    </message>
 </context>
 </TS>
