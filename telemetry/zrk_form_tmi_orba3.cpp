@@ -114,6 +114,7 @@ void ZRK_Form_TMI_Orba3::buildTabs()
         auto* tree = new QTreeWidget;
         tree->setObjectName(QStringLiteral("Tab_%1").arg(QLatin1String(tab.titleId)));
         tree->setColumnCount(2);
+        tree->setHeaderHidden(true);
         tree->setUniformRowHeights(true);
         tree->setAlternatingRowColors(true);
         tree->setRootIsDecorated(true);

@@ -206,6 +206,7 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
     ui->ChartField->setCurrentIndex(ui->ChartField->findData(int(orba::F_Speed)));
     ui->MainSplitter->setStretchFactor(1, 3);
     ui->MainSplitter->setStretchFactor(2, 2);
+    ui->MainSplitter->setSizes({ 200, 620, 460 });
     ui->TimeMoment->setDateTime(QDateTime::currentDateTime());
     ui->HistoryMark->hide();
 
