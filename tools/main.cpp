@@ -15,6 +15,7 @@ const ToolCommand kCommands[] = {
     { "decode", kDecodeUsage, runDecodeCommand },
     { "config", kConfigUsage, runConfigCommand },
     { "geo", kGeoUsage, runGeoCommand },
+    { "tmi", kTmiUsage, runTmiCommand },
 };
 
 void printUsage(QTextStream& s)
