@@ -2,7 +2,8 @@
 """git merge driver for id-based .ts catalogues: the union of both sides' messages.
 
 Usage (set up by scripts/setup-git.sh): ts-merge.py BASE OURS THEIRS. Writes the result to OURS.
-A message both sides have keeps our text unless only theirs changed it since the base.
+A message both sides have keeps our text unless only theirs changed it since the base. Nothing is
+dropped: a message that is really gone from the sources leaves with the next lupdate run.
 """
 import re
 import sys
@@ -23,6 +24,10 @@ def messages(path):
     return text, found, order
 
 
+def unfinished(block):
+    return 'type="unfinished"' in block or '<translation></translation>' in block
+
+
 base_text, base, _ = messages(sys.argv[1])
 ours_text, ours, ours_order = messages(sys.argv[2])
 _, theirs, theirs_order = messages(sys.argv[3])
@@ -32,16 +37,12 @@ if not ours_text:
 result = []
 for mid in ours_order:
     block = ours[mid]
-    if mid in theirs and block == base.get(mid) and theirs[mid] != block:
+    if mid in theirs and theirs[mid] != block and (block == base.get(mid) or unfinished(block)):
         block = theirs[mid]
-    if mid in base and mid not in theirs and block == base[mid]:
-        continue  # removed on their side, untouched on ours
     result.append(block)
 for mid in theirs_order:
     if mid in ours:
         continue
-    if mid in base and theirs[mid] == base[mid]:
-        continue  # removed on our side, untouched on theirs
     result.append(theirs[mid])
 
 head = ours_text[:MSG.search(ours_text).start()] if MSG.search(ours_text) else ours_text.split('</context>')[0]

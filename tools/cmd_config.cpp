@@ -88,7 +88,7 @@ QString shownValue(const QString& value)
 {
     if (!value.isEmpty() && !value.contains(QLatin1Char(' ')) && !value.contains(QLatin1Char('"')))
         return value;
-    return quoted(value);
+    return jsonQuoted(value);
 }
 
 int runLint(const QStringList& args, QTextStream& out, QTextStream& err)

@@ -659,7 +659,7 @@ Built %7</translation>
     </message>
     <message id="tmif_015">
         <source>Трек</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Track</translation>
     </message>
     <message id="orbf_001">
         <source>Номер записи</source>
@@ -951,7 +951,7 @@ Built %7</translation>
     </message>
     <message id="orbf_073">
         <source>Точные координаты приёмника</source>
-        <translation>Receiver's precise coordinates</translation>
+        <translation>Receiver&apos;s precise coordinates</translation>
     </message>
     <message id="orbf_074">
         <source>Высота по приёмнику</source>
@@ -2272,6 +2272,34 @@ Built %7</translation>
     <message id="tmiw_115">
         <source>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
         <translation>Telemetry (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
+    </message>
+    <message id="abou_001">
+        <source></source>
+        <translation>Parameter information</translation>
+    </message>
+    <message id="abou_002">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="iopr_001">
+        <source></source>
+        <translation>Please wait</translation>
+    </message>
+    <message id="iopr_003">
+        <source></source>
+        <translation>Done:</translation>
+    </message>
+    <message id="iopr_004">
+        <source></source>
+        <translation>Total:</translation>
+    </message>
+    <message id="iopr_005">
+        <source></source>
+        <translation>Time:</translation>
+    </message>
+    <message id="iopr_006">
+        <source></source>
+        <translation>Cancel</translation>
     </message>
 </context>
 </TS>

@@ -2273,5 +2273,33 @@
         <source>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
         <translation>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
     </message>
+    <message id="abou_001">
+        <source></source>
+        <translation>Справка о параметре</translation>
+    </message>
+    <message id="abou_002">
+        <source></source>
+        <translation>Закрыть</translation>
+    </message>
+    <message id="iopr_001">
+        <source></source>
+        <translation>Ожидание</translation>
+    </message>
+    <message id="iopr_003">
+        <source></source>
+        <translation>Выполнено:</translation>
+    </message>
+    <message id="iopr_004">
+        <source></source>
+        <translation>Всего:</translation>
+    </message>
+    <message id="iopr_005">
+        <source></source>
+        <translation>Время:</translation>
+    </message>
+    <message id="iopr_006">
+        <source></source>
+        <translation>Отмена</translation>
+    </message>
 </context>
 </TS>
