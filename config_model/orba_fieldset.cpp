@@ -1,5 +1,6 @@
 #include "config_model/orba_fieldset.h"
 
+#include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
 #include "telemetry/orba_record.h"
 
@@ -26,6 +27,20 @@ QString defaultMaskOf(int length)
 std::unique_ptr<CXMLWorkData> child(CXMLWorkData* parent, const char* name, int mode)
 {
     return std::unique_ptr<CXMLWorkData>(parent ? parent->createNode(name, mode) : nullptr);
+}
+
+// The parameter list keeps 254 bytes of a value, one short of the mask: the mask goes to and
+// comes from the element's own attribute entry, after the list has been committed.
+void writeWholeValue(CXMLWorkData* node, const char* key, const QString& value)
+{
+    if (CXmlTagV2* entry = node->tag() ? node->tag()->values.getTagFromName(QLatin1String(key)) : nullptr)
+        entry->value = value;
+}
+
+QString readWholeValue(const CXMLWorkData* node, const char* key, const QString& def)
+{
+    const CXmlTagV2* entry = node->tag() ? node->tag()->values.getTagFromName(QLatin1String(key)) : nullptr;
+    return entry ? entry->value : def;
 }
 
 } // namespace
@@ -131,7 +146,7 @@ FieldSetChoice readFieldSet(CXMLWorkData* root, bool useState2)
     if (!orbaNode)
         return choice;
     choice.format = orbaNode->readString(kFormatKey, choice.format);
-    choice.mask = sanitizedMask(orbaNode->readString(kMaskKey, choice.mask));
+    choice.mask = sanitizedMask(readWholeValue(orbaNode.get(), kMaskKey, choice.mask));
     return choice;
 }
 
@@ -147,6 +162,7 @@ void writeFieldSet(CXMLWorkData* root, const FieldSetChoice& choice)
         orbaNode->writeString(kFormatKey, choice.format);
         orbaNode->writeString(kMaskKey, choice.mask);
         orbaNode->writeParameters();
+        writeWholeValue(orbaNode.get(), kMaskKey, choice.mask);
     }
     top->writeParameters();
 }
@@ -159,7 +175,7 @@ bool readMaskFromFile(const QString& path, QString* mask, QString* format)
     bool found = false;
     if (std::unique_ptr<CXMLWorkData> top { root.getFirstNode(kProtocolNode) }) {
         if (std::unique_ptr<CXMLWorkData> orbaNode { top->getFirstNode(kOrbaNode) }) {
-            const QString text = orbaNode->readString(kMaskKey, QString());
+            const QString text = readWholeValue(orbaNode.get(), kMaskKey, QString());
             found = !text.isEmpty();
             if (found && mask)
                 *mask = sanitizedMask(text);

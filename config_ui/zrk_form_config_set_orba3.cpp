@@ -1212,6 +1212,26 @@ void ZRK_Form_Config_Set_Orba3::setStrFormat(const QString& mask)
     recountSize();
 }
 
+QComboBox* ZRK_Form_Config_Set_Orba3::flashFormat() const
+{
+    return ui->FlashFormat;
+}
+
+QLabel* ZRK_Form_Config_Set_Orba3::sizeLabel() const
+{
+    return ui->label_SizeValue;
+}
+
+QLabel* ZRK_Form_Config_Set_Orba3::warningLabel() const
+{
+    return ui->label_Warning;
+}
+
+QTabWidget* ZRK_Form_Config_Set_Orba3::tabWidget() const
+{
+    return ui->tabWidget_Tabs;
+}
+
 QString ZRK_Form_Config_Set_Orba3::getTypeDFProtocol() const
 {
     return generationText(ui->FlashFormat->currentIndex());
