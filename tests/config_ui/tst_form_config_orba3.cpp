@@ -98,6 +98,7 @@ private slots:
     void badStoredMask();
     void userParameters();
     void filterAndTabs();
+    void grabs();
 
 private:
     QTemporaryDir dir;
@@ -393,6 +394,22 @@ void tst_FormConfigOrba3::filterAndTabs()
     QCOMPARE(page.tabWidget()->currentWidget(), page.tabUser());
     page.openTab(2);
     QCOMPARE(page.tabWidget()->currentIndex(), 0);
+}
+
+// With ZRK_SCREENSHOT_DIR set, the page as a technician sees it: the defaults, and over the limit.
+void tst_FormConfigOrba3::grabs()
+{
+    const QString out = qEnvironmentVariable("ZRK_SCREENSHOT_DIR");
+    if (out.isEmpty())
+        QSKIP("ZRK_SCREENSHOT_DIR not set");
+    Page page;
+    page.resize(900, 640);
+    page.show();
+    QVERIFY(page.grab().save(out + QStringLiteral("/fieldset_default.png")));
+    page.setTypeDFProtocol(QStringLiteral("30"));
+    page.setStrFormat(QString(kMaskLength, QLatin1Char('1')));
+    page.openTab(209);
+    QVERIFY(page.grab().save(out + QStringLiteral("/fieldset_over.png")));
 }
 
 QTEST_MAIN(tst_FormConfigOrba3)
