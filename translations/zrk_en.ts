@@ -2301,5 +2301,301 @@ Built %7</translation>
         <source></source>
         <translation>Cancel</translation>
     </message>
+    <message id="cfgo_001">
+        <source>Основные</source>
+        <translation>Main</translation>
+    </message>
+    <message id="cfgo_002">
+        <source>Навигация</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="cfgo_003">
+        <source>Датчики RS</source>
+        <translation>RS sensors</translation>
+    </message>
+    <message id="cfgo_004">
+        <source>Шина CAN</source>
+        <translation>CAN</translation>
+    </message>
+    <message id="cfgo_005">
+        <source>Тахограф</source>
+        <translation>Tachograph</translation>
+    </message>
+    <message id="cfgo_006">
+        <source>Дополнительно</source>
+        <translation>More</translation>
+    </message>
+    <message id="cfgo_007">
+        <source>Акселерометр</source>
+        <translation>Accelerometer</translation>
+    </message>
+    <message id="cfgo_008">
+        <source>Расходомер</source>
+        <translation>Flow meter</translation>
+    </message>
+    <message id="cfgo_009">
+        <source>Рефрижератор</source>
+        <translation>Refrigerator</translation>
+    </message>
+    <message id="cfgo_010">
+        <source>Пользовательские</source>
+        <translation>User</translation>
+    </message>
+    <message id="cfgo_015">
+        <source>Поле %1, размер в записи: %2 байт</source>
+        <translation>Field %1, %2 byte(s) in the record</translation>
+    </message>
+    <message id="cfgo_050">
+        <source>Запись и состояние терминала</source>
+        <translation>Record and terminal state</translation>
+    </message>
+    <message id="cfgo_051">
+        <source>Питание</source>
+        <translation>Power</translation>
+    </message>
+    <message id="cfgo_052">
+        <source>Аналоговые входы</source>
+        <translation>Analogue inputs</translation>
+    </message>
+    <message id="cfgo_053">
+        <source>Дискретные входы и выходы</source>
+        <translation>Discrete inputs and outputs</translation>
+    </message>
+    <message id="cfgo_054">
+        <source>Счётчики импульсов и частота</source>
+        <translation>Pulse counters and frequency</translation>
+    </message>
+    <message id="cfgo_055">
+        <source>Моточасы</source>
+        <translation>Engine hours</translation>
+    </message>
+    <message id="cfgo_056">
+        <source>Температура</source>
+        <translation>Temperature</translation>
+    </message>
+    <message id="cfgo_057">
+        <source>Координаты и движение</source>
+        <translation>Position and motion</translation>
+    </message>
+    <message id="cfgo_058">
+        <source>Навигационный приёмник</source>
+        <translation>Navigation receiver</translation>
+    </message>
+    <message id="cfgo_059">
+        <source>Базовые станции</source>
+        <translation>Mobile cells</translation>
+    </message>
+    <message id="cfgo_060">
+        <source>ДУТ RS-485 1–6 и RS-232</source>
+        <translation>RS-485 fuel sensors 1–6 and RS-232</translation>
+    </message>
+    <message id="cfgo_061">
+        <source>Температура ДУТ RS-485</source>
+        <translation>RS-485 fuel sensor temperature</translation>
+    </message>
+    <message id="cfgo_062">
+        <source>ДУТ RS-485 7–16</source>
+        <translation>RS-485 fuel sensors 7–16</translation>
+    </message>
+    <message id="cfgo_063">
+        <source>Частота ДУТ RS-485</source>
+        <translation>RS-485 fuel sensor frequency</translation>
+    </message>
+    <message id="cfgo_064">
+        <source>Данные шины CAN</source>
+        <translation>CAN bus data</translation>
+    </message>
+    <message id="cfgo_065">
+        <source>Состояние систем ТС по CAN</source>
+        <translation>Vehicle systems over CAN</translation>
+    </message>
+    <message id="cfgo_066">
+        <source>Данные тахографа</source>
+        <translation>Tachograph data</translation>
+    </message>
+    <message id="cfgo_021">
+        <source>Датчики давления в шинах</source>
+        <translation>Tyre pressure sensors</translation>
+    </message>
+    <message id="cfgo_067">
+        <source>Диспетчерские сообщения</source>
+        <translation>Dispatcher messages</translation>
+    </message>
+    <message id="cfgo_068">
+        <source>Пассажиропоток</source>
+        <translation>Passenger counters</translation>
+    </message>
+    <message id="cfgo_069">
+        <source>Автоинформатор</source>
+        <translation>Route announcer</translation>
+    </message>
+    <message id="cfgo_070">
+        <source>Камера и акселерометр ТС</source>
+        <translation>Camera and vehicle accelerometer</translation>
+    </message>
+    <message id="cfgo_071">
+        <source>Точная температура</source>
+        <translation>High-precision temperature</translation>
+    </message>
+    <message id="cfgo_072">
+        <source>Влажность</source>
+        <translation>Humidity</translation>
+    </message>
+    <message id="cfgo_022">
+        <source>Нет</source>
+        <translation>None</translation>
+    </message>
+    <message id="cfgo_028">
+        <source>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</source>
+        <translation>Fields 94–97: tyres 1–2, 3–6, 7–14 and 15–30</translation>
+    </message>
+    <message id="cfgo_073">
+        <source>Акселерометр терминала</source>
+        <translation>Terminal accelerometer</translation>
+    </message>
+    <message id="cfgo_074">
+        <source>Акселерометр ТС и эко-вождение</source>
+        <translation>Vehicle accelerometer and eco-driving</translation>
+    </message>
+    <message id="cfgo_075">
+        <source>Расходомер топлива</source>
+        <translation>Fuel flow meter</translation>
+    </message>
+    <message id="cfgo_076">
+        <source>Рефрижераторная установка</source>
+        <translation>Refrigerator unit</translation>
+    </message>
+    <message id="cfgo_077">
+        <source>Параметры 1 байт</source>
+        <translation>1-byte parameters</translation>
+    </message>
+    <message id="cfgo_078">
+        <source>Параметры 2 байта</source>
+        <translation>2-byte parameters</translation>
+    </message>
+    <message id="cfgo_079">
+        <source>Параметры 4 байта</source>
+        <translation>4-byte parameters</translation>
+    </message>
+    <message id="cfgo_080">
+        <source>Параметры 8 байт</source>
+        <translation>8-byte parameters</translation>
+    </message>
+    <message id="cfgo_023">
+        <source>Целое без знака</source>
+        <translation>Unsigned integer</translation>
+    </message>
+    <message id="cfgo_024">
+        <source>Целое со знаком</source>
+        <translation>Signed integer</translation>
+    </message>
+    <message id="cfgo_025">
+        <source>Шестнадцатеричное</source>
+        <translation>Hexadecimal</translation>
+    </message>
+    <message id="cfgo_026">
+        <source>С плавающей точкой</source>
+        <translation>Floating point</translation>
+    </message>
+    <message id="cfgo_027">
+        <source>Название параметра</source>
+        <translation>Parameter name</translation>
+    </message>
+    <message id="cfgo_014">
+        <source>Запись</source>
+        <translation>Record</translation>
+    </message>
+    <message id="cfgo_011">
+        <source>ORBA 1 (поля 1–69)</source>
+        <translation>ORBA 1 (fields 1–69)</translation>
+    </message>
+    <message id="cfgo_012">
+        <source>ORBA 2 (поля 1–122)</source>
+        <translation>ORBA 2 (fields 1–122)</translation>
+    </message>
+    <message id="cfgo_013">
+        <source>ORBA 3 (поля 1–255)</source>
+        <translation>ORBA 3 (fields 1–255)</translation>
+    </message>
+    <message id="cfgo_017">
+        <source>По вкладкам, байт: %1</source>
+        <translation>By tab, bytes: %1</translation>
+    </message>
+    <message id="cfgo_016">
+        <source>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</source>
+        <translation>The record takes %1 bytes, more than the %2 allowed: the terminal would not keep such records. Untick some fields.</translation>
+    </message>
+    <message id="cfgo_019">
+        <source>Файл %1 не является конфигурацией с набором полей записи.</source>
+        <translation>The file %1 is not a configuration with a record field set.</translation>
+    </message>
+    <message id="cfgo_018">
+        <source>Набор полей из файла конфигурации</source>
+        <translation>Record field set from a configuration file</translation>
+    </message>
+    <message id="cfgo_020">
+        <source>Файлы конфигурации (*.xml);;Все файлы (*)</source>
+        <translation>Configuration files (*.xml);;All files (*)</translation>
+    </message>
+    <message id="cfgo_029">
+        <source>Ошибка</source>
+        <translation>Error</translation>
+    </message>
+    <message id="cfgo_030">
+        <source></source>
+        <translation>Protocol generation:</translation>
+    </message>
+    <message id="cfgo_031">
+        <source></source>
+        <translation>Which fields the terminal can record: ORBA 1 fields 1–69, ORBA 2 1–122, ORBA 3 1–255</translation>
+    </message>
+    <message id="cfgo_032">
+        <source></source>
+        <translation>Record size, bytes:</translation>
+    </message>
+    <message id="cfgo_033">
+        <source></source>
+        <translation>Sum of the ticked fields' sizes; at most 512 bytes</translation>
+    </message>
+    <message id="cfgo_034">
+        <source></source>
+        <translation>Find a field by name on all tabs</translation>
+    </message>
+    <message id="cfgo_035">
+        <source></source>
+        <translation>Find a field…</translation>
+    </message>
+    <message id="cfgo_036">
+        <source></source>
+        <translation>Ticked only</translation>
+    </message>
+    <message id="cfgo_037">
+        <source></source>
+        <translation>Field sets:</translation>
+    </message>
+    <message id="cfgo_038">
+        <source></source>
+        <translation>Default</translation>
+    </message>
+    <message id="cfgo_039">
+        <source></source>
+        <translation>The fields the terminal records by default</translation>
+    </message>
+    <message id="cfgo_040">
+        <source></source>
+        <translation>Navigation only</translation>
+    </message>
+    <message id="cfgo_041">
+        <source></source>
+        <translation>Number, event, time, position, altitude, speed, course and mileage</translation>
+    </message>
+    <message id="cfgo_042">
+        <source></source>
+        <translation>From a file…</translation>
+    </message>
+    <message id="cfgo_043">
+        <source></source>
+        <translation>Take the field set from another configuration file</translation>
+    </message>
 </context>
 </TS>

@@ -2301,5 +2301,301 @@
         <source></source>
         <translation>Отмена</translation>
     </message>
+    <message id="cfgo_001">
+        <source>Основные</source>
+        <translation>Основные</translation>
+    </message>
+    <message id="cfgo_002">
+        <source>Навигация</source>
+        <translation>Навигация</translation>
+    </message>
+    <message id="cfgo_003">
+        <source>Датчики RS</source>
+        <translation>Датчики RS</translation>
+    </message>
+    <message id="cfgo_004">
+        <source>Шина CAN</source>
+        <translation>Шина CAN</translation>
+    </message>
+    <message id="cfgo_005">
+        <source>Тахограф</source>
+        <translation>Тахограф</translation>
+    </message>
+    <message id="cfgo_006">
+        <source>Дополнительно</source>
+        <translation>Дополнительно</translation>
+    </message>
+    <message id="cfgo_007">
+        <source>Акселерометр</source>
+        <translation>Акселерометр</translation>
+    </message>
+    <message id="cfgo_008">
+        <source>Расходомер</source>
+        <translation>Расходомер</translation>
+    </message>
+    <message id="cfgo_009">
+        <source>Рефрижератор</source>
+        <translation>Рефрижератор</translation>
+    </message>
+    <message id="cfgo_010">
+        <source>Пользовательские</source>
+        <translation>Пользовательские</translation>
+    </message>
+    <message id="cfgo_015">
+        <source>Поле %1, размер в записи: %2 байт</source>
+        <translation>Поле %1, размер в записи: %2 байт</translation>
+    </message>
+    <message id="cfgo_050">
+        <source>Запись и состояние терминала</source>
+        <translation>Запись и состояние терминала</translation>
+    </message>
+    <message id="cfgo_051">
+        <source>Питание</source>
+        <translation>Питание</translation>
+    </message>
+    <message id="cfgo_052">
+        <source>Аналоговые входы</source>
+        <translation>Аналоговые входы</translation>
+    </message>
+    <message id="cfgo_053">
+        <source>Дискретные входы и выходы</source>
+        <translation>Дискретные входы и выходы</translation>
+    </message>
+    <message id="cfgo_054">
+        <source>Счётчики импульсов и частота</source>
+        <translation>Счётчики импульсов и частота</translation>
+    </message>
+    <message id="cfgo_055">
+        <source>Моточасы</source>
+        <translation>Моточасы</translation>
+    </message>
+    <message id="cfgo_056">
+        <source>Температура</source>
+        <translation>Температура</translation>
+    </message>
+    <message id="cfgo_057">
+        <source>Координаты и движение</source>
+        <translation>Координаты и движение</translation>
+    </message>
+    <message id="cfgo_058">
+        <source>Навигационный приёмник</source>
+        <translation>Навигационный приёмник</translation>
+    </message>
+    <message id="cfgo_059">
+        <source>Базовые станции</source>
+        <translation>Базовые станции</translation>
+    </message>
+    <message id="cfgo_060">
+        <source>ДУТ RS-485 1–6 и RS-232</source>
+        <translation>ДУТ RS-485 1–6 и RS-232</translation>
+    </message>
+    <message id="cfgo_061">
+        <source>Температура ДУТ RS-485</source>
+        <translation>Температура ДУТ RS-485</translation>
+    </message>
+    <message id="cfgo_062">
+        <source>ДУТ RS-485 7–16</source>
+        <translation>ДУТ RS-485 7–16</translation>
+    </message>
+    <message id="cfgo_063">
+        <source>Частота ДУТ RS-485</source>
+        <translation>Частота ДУТ RS-485</translation>
+    </message>
+    <message id="cfgo_064">
+        <source>Данные шины CAN</source>
+        <translation>Данные шины CAN</translation>
+    </message>
+    <message id="cfgo_065">
+        <source>Состояние систем ТС по CAN</source>
+        <translation>Состояние систем ТС по CAN</translation>
+    </message>
+    <message id="cfgo_066">
+        <source>Данные тахографа</source>
+        <translation>Данные тахографа</translation>
+    </message>
+    <message id="cfgo_021">
+        <source>Датчики давления в шинах</source>
+        <translation>Датчики давления в шинах</translation>
+    </message>
+    <message id="cfgo_067">
+        <source>Диспетчерские сообщения</source>
+        <translation>Диспетчерские сообщения</translation>
+    </message>
+    <message id="cfgo_068">
+        <source>Пассажиропоток</source>
+        <translation>Пассажиропоток</translation>
+    </message>
+    <message id="cfgo_069">
+        <source>Автоинформатор</source>
+        <translation>Автоинформатор</translation>
+    </message>
+    <message id="cfgo_070">
+        <source>Камера и акселерометр ТС</source>
+        <translation>Камера и акселерометр ТС</translation>
+    </message>
+    <message id="cfgo_071">
+        <source>Точная температура</source>
+        <translation>Точная температура</translation>
+    </message>
+    <message id="cfgo_072">
+        <source>Влажность</source>
+        <translation>Влажность</translation>
+    </message>
+    <message id="cfgo_022">
+        <source>Нет</source>
+        <translation>Нет</translation>
+    </message>
+    <message id="cfgo_028">
+        <source>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</source>
+        <translation>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</translation>
+    </message>
+    <message id="cfgo_073">
+        <source>Акселерометр терминала</source>
+        <translation>Акселерометр терминала</translation>
+    </message>
+    <message id="cfgo_074">
+        <source>Акселерометр ТС и эко-вождение</source>
+        <translation>Акселерометр ТС и эко-вождение</translation>
+    </message>
+    <message id="cfgo_075">
+        <source>Расходомер топлива</source>
+        <translation>Расходомер топлива</translation>
+    </message>
+    <message id="cfgo_076">
+        <source>Рефрижераторная установка</source>
+        <translation>Рефрижераторная установка</translation>
+    </message>
+    <message id="cfgo_077">
+        <source>Параметры 1 байт</source>
+        <translation>Параметры 1 байт</translation>
+    </message>
+    <message id="cfgo_078">
+        <source>Параметры 2 байта</source>
+        <translation>Параметры 2 байта</translation>
+    </message>
+    <message id="cfgo_079">
+        <source>Параметры 4 байта</source>
+        <translation>Параметры 4 байта</translation>
+    </message>
+    <message id="cfgo_080">
+        <source>Параметры 8 байт</source>
+        <translation>Параметры 8 байт</translation>
+    </message>
+    <message id="cfgo_023">
+        <source>Целое без знака</source>
+        <translation>Целое без знака</translation>
+    </message>
+    <message id="cfgo_024">
+        <source>Целое со знаком</source>
+        <translation>Целое со знаком</translation>
+    </message>
+    <message id="cfgo_025">
+        <source>Шестнадцатеричное</source>
+        <translation>Шестнадцатеричное</translation>
+    </message>
+    <message id="cfgo_026">
+        <source>С плавающей точкой</source>
+        <translation>С плавающей точкой</translation>
+    </message>
+    <message id="cfgo_027">
+        <source>Название параметра</source>
+        <translation>Название параметра</translation>
+    </message>
+    <message id="cfgo_014">
+        <source>Запись</source>
+        <translation>Запись</translation>
+    </message>
+    <message id="cfgo_011">
+        <source>ORBA 1 (поля 1–69)</source>
+        <translation>ORBA 1 (поля 1–69)</translation>
+    </message>
+    <message id="cfgo_012">
+        <source>ORBA 2 (поля 1–122)</source>
+        <translation>ORBA 2 (поля 1–122)</translation>
+    </message>
+    <message id="cfgo_013">
+        <source>ORBA 3 (поля 1–255)</source>
+        <translation>ORBA 3 (поля 1–255)</translation>
+    </message>
+    <message id="cfgo_017">
+        <source>По вкладкам, байт: %1</source>
+        <translation>По вкладкам, байт: %1</translation>
+    </message>
+    <message id="cfgo_016">
+        <source>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</source>
+        <translation>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</translation>
+    </message>
+    <message id="cfgo_019">
+        <source>Файл %1 не является конфигурацией с набором полей записи.</source>
+        <translation>Файл %1 не является конфигурацией с набором полей записи.</translation>
+    </message>
+    <message id="cfgo_018">
+        <source>Набор полей из файла конфигурации</source>
+        <translation>Набор полей из файла конфигурации</translation>
+    </message>
+    <message id="cfgo_020">
+        <source>Файлы конфигурации (*.xml);;Все файлы (*)</source>
+        <translation>Файлы конфигурации (*.xml);;Все файлы (*)</translation>
+    </message>
+    <message id="cfgo_029">
+        <source>Ошибка</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message id="cfgo_030">
+        <source></source>
+        <translation>Поколение протокола:</translation>
+    </message>
+    <message id="cfgo_031">
+        <source></source>
+        <translation>Какие поля может записывать терминал: ORBA 1 — поля 1–69, ORBA 2 — 1–122, ORBA 3 — 1–255</translation>
+    </message>
+    <message id="cfgo_032">
+        <source></source>
+        <translation>Размер записи, байт:</translation>
+    </message>
+    <message id="cfgo_033">
+        <source></source>
+        <translation>Сумма размеров отмеченных полей; не более 512 байт</translation>
+    </message>
+    <message id="cfgo_034">
+        <source></source>
+        <translation>Поиск поля по названию на всех вкладках</translation>
+    </message>
+    <message id="cfgo_035">
+        <source></source>
+        <translation>Найти поле…</translation>
+    </message>
+    <message id="cfgo_036">
+        <source></source>
+        <translation>Только отмеченные</translation>
+    </message>
+    <message id="cfgo_037">
+        <source></source>
+        <translation>Наборы полей:</translation>
+    </message>
+    <message id="cfgo_038">
+        <source></source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message id="cfgo_039">
+        <source></source>
+        <translation>Поля, которые терминал записывает по умолчанию</translation>
+    </message>
+    <message id="cfgo_040">
+        <source></source>
+        <translation>Только навигация</translation>
+    </message>
+    <message id="cfgo_041">
+        <source></source>
+        <translation>Номер, событие, время, координаты, высота, скорость, курс и пробег</translation>
+    </message>
+    <message id="cfgo_042">
+        <source></source>
+        <translation>Из файла…</translation>
+    </message>
+    <message id="cfgo_043">
+        <source></source>
+        <translation>Взять набор полей из другого файла конфигурации</translation>
+    </message>
 </context>
 </TS>
