@@ -71,29 +71,6 @@ unsigned short eval_crc16(unsigned short crc, unsigned char const* data, unsigne
     return value;
 }
 
-int getBitFromByte(unsigned char value, int pos)
-{
-    if (pos < 0 || pos > 7)
-        return 0;
-    return (value >> pos) & 1;
-}
-
-int get2BitFromByte(unsigned char value, int pos)
-{
-    if (pos < 0 || pos > 6)
-        return 0;
-    return (value >> pos) & 3;
-}
-
-unsigned char setBitToByte(unsigned char& value, int pos, unsigned char bit)
-{
-    if (pos < 0 || pos > 7)
-        return 0;
-    if (bit != 0)
-        value = static_cast<unsigned char>(value | (1u << pos));
-    return value;
-}
-
 bool getBitFromStrByte(const QString& digits, int pos)
 {
     if (pos < 0 || pos >= digits.size())

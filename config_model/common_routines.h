@@ -23,16 +23,36 @@ unsigned short SummPlusCRC16(unsigned short crc, unsigned char* data, unsigned s
 // The same continuation with a 32-bit length.
 unsigned short eval_crc16(unsigned short crc, unsigned char const* data, unsigned int len);
 
-// Bit pos (0 = least significant) as 0 or 1; any position outside 0..7 gives 0.
-int getBitFromByte(unsigned char value, int pos);
+// The count bits starting at bit pos (0 = least significant) as a number; 0 unless all of them
+// lie in 0..7. Every bit read of the project goes through here; constexpr for the record tables.
+constexpr int bitsFromByte(unsigned char value, int pos, int count)
+{
+    return pos < 0 || count < 1 || pos + count > 8 ? 0 : (value >> pos) & ((1 << count) - 1);
+}
+
+// Bit pos as 0 or 1; any position outside 0..7 gives 0.
+constexpr int getBitFromByte(unsigned char value, int pos)
+{
+    return bitsFromByte(value, pos, 1);
+}
 
 // The two bits starting at pos; any position outside 0..6 gives 0.
-int get2BitFromByte(unsigned char value, int pos);
+constexpr int get2BitFromByte(unsigned char value, int pos)
+{
+    return bitsFromByte(value, pos, 2);
+}
 
 // Sets bit pos of value when bit is non-zero and returns the new value. A zero bit leaves value
 // unchanged: this routine never clears a bit, its callers build bytes up from zero. A position
 // outside 0..7 changes nothing and returns 0.
-unsigned char setBitToByte(unsigned char& value, int pos, unsigned char bit);
+constexpr unsigned char setBitToByte(unsigned char& value, int pos, unsigned char bit)
+{
+    if (pos < 0 || pos > 7)
+        return 0;
+    if (bit != 0)
+        value = static_cast<unsigned char>(value | (1u << pos));
+    return value;
+}
 
 // The digit at pos of a string of "0"/"1" characters, non-zero giving true; false when pos is
 // outside the string or the character there is not a digit.

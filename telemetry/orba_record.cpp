@@ -357,7 +357,7 @@ QString subValueText(int id, const unsigned char* rec)
     const SubInfo& s = kSubValues[id];
     const unsigned char* p = rec + kOffsets[s.field] + s.offset;
     if (s.bits != 0)
-        return QString::number((p[0] >> s.shift) & ((1u << s.bits) - 1u));
+        return QString::number(bitsFromByte(p[0], s.shift, s.bits));
     return valueText(s.rule, s.type, s.width, p, s.field);
 }
 

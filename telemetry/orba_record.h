@@ -4,6 +4,8 @@
 // the extended record, and the decoder they share. Everything here is derived from the tables in
 // orba_fields.def, orba_subvalues.def and orba_ext.def. No widgets.
 
+#include "config_model/common_routines.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVector>
@@ -227,7 +229,7 @@ template <int W, Type T, int Shift, int Bits> auto readSub(const unsigned char* 
     if constexpr (Bits == 0)
         return readValue<W, T>(p);
     else
-        return static_cast<quint8>((p[0] >> Shift) & ((1u << Bits) - 1u));
+        return static_cast<quint8>(bitsFromByte(p[0], Shift, Bits));
 }
 
 // ---- The structures --------------------------------------------------------------------------
@@ -308,10 +310,17 @@ enum ExtId
 
 // ---- Decoding --------------------------------------------------------------------------------
 
-// Presence of field no (1..255) in a 32-byte mask.
-inline bool maskBit(const unsigned char* mask, int no)
+// Presence of field no (1..255) in a 32-byte mask: the lowest number of each byte is its most
+// significant bit.
+constexpr bool maskBit(const unsigned char* mask, int no)
 {
-    return (mask[(no - 1) >> 3] >> (7 - ((no - 1) & 7))) & 1;
+    return getBitFromByte(mask[(no - 1) / 8], 7 - (no - 1) % 8) != 0;
+}
+
+// Marks field no (1..255) present in a mask.
+constexpr void setMaskBit(unsigned char* mask, int no)
+{
+    setBitToByte(mask[(no - 1) / 8], 7 - (no - 1) % 8, 1);
 }
 
 // Unpacks the values of the present fields 1..lastField from body into rec (a structure of

@@ -75,7 +75,7 @@ constexpr bool fixedPacketIsConsistent()
     unsigned char mask[9] = {};
     for (int no : kFixedPacketFields) {
         bytes += orba::kFields[no - 1].width;
-        mask[(no - 1) / 8] |= static_cast<unsigned char>(0x80 >> ((no - 1) % 8));
+        orba::setMaskBit(mask, no);
     }
     for (int i = 0; i < 9; ++i) {
         if (mask[i] != kFixedPacketHead[2 + i])
@@ -151,8 +151,7 @@ QByteArray TmiPage_Orba1::currentRecordBuffer() const
     for (int no = 1; no <= lastField(); ++no) {
         if (!isUsed(no))
             continue;
-        out[orba::kMaskOffset + (no - 1) / 8]
-            = char(out[orba::kMaskOffset + (no - 1) / 8] | (0x80 >> ((no - 1) % 8)));
+        orba::setMaskBit(reinterpret_cast<unsigned char*>(out.data()) + orba::kMaskOffset, no);
         out.append(reinterpret_cast<const char*>(rec + orba::kOffsets[no]), orba::kFields[no - 1].width);
     }
     return out;
