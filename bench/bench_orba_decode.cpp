@@ -2,20 +2,16 @@
 // the record with every field, and the record with the default field set. Prints the ratios of
 // the fastest CPU times of several repetitions (the build machine is shared, so wall time would
 // count other processes' turns).
+#include "best_times.h"
+#include "config_model/orba_fieldset.h"
 #include "telemetry/tmipage_orba3.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
-#include <map>
-#include <string>
 #include <vector>
 
 namespace {
-
-// The default field set: positions (0-based) in the field-set text.
-const int kDefaultPositions[] = { 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 18, 19, 28, 30, 36, 70,
-    122, 123, 124, 138, 199, 205 };
 
 // A record of the given fields, laid out field by field at the table's widths.
 QByteArray makeRecord(const std::vector<int>& fields)
@@ -23,7 +19,7 @@ QByteArray makeRecord(const std::vector<int>& fields)
     QByteArray mask(orba::kMaskBytes, '\0');
     QByteArray body;
     for (int no : fields) {
-        mask[(no - 1) / 8] = char(mask[(no - 1) / 8] | (0x80 >> ((no - 1) % 8)));
+        orba::setMaskBit(reinterpret_cast<unsigned char*>(mask.data()), no);
         for (int i = 0; i < orba::kFields[no - 1].width; ++i)
             body.append(char(no + i));
     }
@@ -38,11 +34,15 @@ std::vector<int> allFields()
     return f;
 }
 
+// The field set a new configuration starts with.
 std::vector<int> defaultFields()
 {
     std::vector<int> f;
-    for (int p : kDefaultPositions)
-        f.push_back(p + 1);
+    const QString& set = zrk::fieldset::const_qsDef_Orba3;
+    for (int p = 0; p < set.size(); ++p) {
+        if (set.at(p) == QLatin1Char('1'))
+            f.push_back(p + 1);
+    }
     return f;
 }
 
@@ -144,54 +144,14 @@ BENCHMARK(BM_MemcpyDefaultSet);
 BENCHMARK(BM_DecodeDefaultSetChangingMask);
 BENCHMARK(BM_SetNewTMIAllFields);
 
-class Recorder : public benchmark::ConsoleReporter
-{
-public:
-    // Plain text: the output ends up in CI logs, not on a terminal.
-    Recorder()
-        : ConsoleReporter(OO_Tabular)
-    {
-    }
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        for (const Run& r : runs) {
-            if (r.run_type != Run::RT_Iteration || r.error_occurred)
-                continue;
-            const std::string name = r.run_name.function_name;
-            const double t = r.GetAdjustedCPUTime();
-            if (!times.count(name) || t < times[name])
-                times[name] = t;
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-    std::map<std::string, double> times;
-};
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    // Several repetitions unless asked otherwise: the ratios use the fastest of each, which is the
-    // one least disturbed by other work on the machine.
-    std::vector<char*> args(argv, argv + argc);
-    bool repetitionsGiven = false;
-    for (char* a : args)
-        repetitionsGiven = repetitionsGiven || std::string(a).rfind("--benchmark_repetitions", 0) == 0;
-    char repetitions[] = "--benchmark_repetitions=5";
-    if (!repetitionsGiven)
-        args.push_back(repetitions);
-    argc = int(args.size());
-    args.push_back(nullptr);
-    argv = args.data();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    BestTimesReporter recorder;
+    if (!runBenchmarks(argc, argv, recorder))
         return 1;
-    Recorder recorder;
-    benchmark::RunSpecifiedBenchmarks(&recorder);
-    auto t = [&](const char* name) {
-        const auto it = recorder.times.find(name);
-        return it == recorder.times.end() ? 0.0 : it->second;
-    };
+    auto t = [&](const char* name) { return recorder.time(name); };
     const double memcpyAll = t("BM_MemcpyAllFields");
     const double memcpyDefault = t("BM_MemcpyDefaultSet");
     if (memcpyAll <= 0 || memcpyDefault <= 0) {

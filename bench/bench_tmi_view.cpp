@@ -2,6 +2,8 @@
 // pure data work of the same record (decode plus every display text of its present fields),
 // measured in one run. Two records with different values alternate, so every shown record really
 // changes the form. Prints the ratio of the fastest CPU times of several repetitions.
+#include "best_times.h"
+#include "config_model/orba_fieldset.h"
 #include "telemetry/orba_dispatch.h"
 #include "telemetry/orba_page.h"
 #include "telemetry/zrk_widget_tmi_view.h"
@@ -12,22 +14,19 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
-#include <map>
-#include <string>
-#include <vector>
 
 namespace {
 
-// The default field set of a terminal (field numbers).
-const int kDefaultFields[] = { 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 19, 20, 29, 31, 37, 71, 123,
-    124, 125, 139, 200, 206 };
-
+// A record of the field set a new configuration starts with.
 QByteArray makeRecord(quint32 number, int seed)
 {
     QByteArray mask(orba::kMaskBytes, '\0');
     QByteArray body;
-    for (int no : kDefaultFields) {
-        mask[(no - 1) / 8] = char(mask[(no - 1) / 8] | (0x80 >> ((no - 1) % 8)));
+    const QString& set = zrk::fieldset::const_qsDef_Orba3;
+    for (int no = 1; no <= set.size(); ++no) {
+        if (set.at(no - 1) != QLatin1Char('1'))
+            continue;
+        orba::setMaskBit(reinterpret_cast<unsigned char*>(mask.data()), no);
         for (int i = 0; i < orba::kFields[no - 1].width; ++i)
             body.append(char(no == 1 && i == 0 ? number : no + i + seed));
     }
@@ -72,52 +71,17 @@ void BM_DecodeAndTexts(benchmark::State& state)
 BENCHMARK(BM_ShowRecordInView);
 BENCHMARK(BM_DecodeAndTexts);
 
-class Recorder : public benchmark::ConsoleReporter
-{
-public:
-    // Plain text: the output ends up in CI logs, not on a terminal.
-    Recorder()
-        : ConsoleReporter(OO_Tabular)
-    {
-    }
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        for (const Run& r : runs) {
-            if (r.run_type != Run::RT_Iteration || r.error_occurred)
-                continue;
-            const std::string name = r.run_name.function_name;
-            const double t = r.GetAdjustedCPUTime();
-            if (!times.count(name) || t < times[name])
-                times[name] = t;
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-    std::map<std::string, double> times;
-};
-
 } // namespace
 
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    std::vector<char*> args(argv, argv + argc);
-    bool repetitionsGiven = false;
-    for (char* a : args)
-        repetitionsGiven = repetitionsGiven || std::string(a).rfind("--benchmark_repetitions", 0) == 0;
-    char repetitions[] = "--benchmark_repetitions=5";
-    if (!repetitionsGiven)
-        args.push_back(repetitions);
-    argc = int(args.size());
-    args.push_back(nullptr);
-    argv = args.data();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    BestTimesReporter recorder;
+    if (!runBenchmarks(argc, argv, recorder))
         return 1;
-    Recorder recorder;
-    benchmark::RunSpecifiedBenchmarks(&recorder);
-    const double show = recorder.times["BM_ShowRecordInView"];
-    const double data = recorder.times["BM_DecodeAndTexts"];
+    const double show = recorder.time("BM_ShowRecordInView");
+    const double data = recorder.time("BM_DecodeAndTexts");
     if (show <= 0 || data <= 0) {
         std::printf("ratios: not measured (run all benchmarks)\n");
         return 0;
