@@ -82,14 +82,19 @@ void OrbaPage::setNewCurrentOrExt(const unsigned char* buf, int len)
     const unsigned char kind = startNewRecord(buf, len);
     if (kind == orba::kKindCurrent) {
         m_isExt = 0;
-        if (len > orba::kBodyOffset)
-            setCurrentTMI(buf + orba::kBodyOffset, len - orba::kBodyOffset);
-        else
-            setCurrentTMI(nullptr, 0);
+        setCurrentRecord(buf, len);
     } else if (kind == orba::kKindExtended) {
         m_isExt = 1;
         setExtTMI(buf, len);
     }
+}
+
+void OrbaPage::setCurrentRecord(const unsigned char* buf, int len)
+{
+    if (len > orba::kBodyOffset)
+        setCurrentTMI(buf + orba::kBodyOffset, len - orba::kBodyOffset);
+    else
+        setCurrentTMI(nullptr, 0);
 }
 
 void OrbaPage::setExtTMI(const unsigned char* buf, int len)

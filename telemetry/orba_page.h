@@ -59,6 +59,9 @@ protected:
     // Keeps what every kind of buffer leaves behind: the head copy, the raw copy and its length;
     // clears the record structures. Returns the kind byte (0 for an empty buffer).
     unsigned char startNewRecord(const unsigned char* buf, int len);
+    // The values of a current record (kind 0xB0) by the mask already in the head copy: the body
+    // after the 34-byte head.
+    void setCurrentRecord(const unsigned char* buf, int len);
     // Version 2 and 3: current (0xB0) and extended (0xB1) records.
     void setNewCurrentOrExt(const unsigned char* buf, int len);
     void setExtTMI(const unsigned char* buf, int len);

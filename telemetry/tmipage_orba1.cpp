@@ -113,10 +113,7 @@ void TmiPage_Orba1::setNewTMI(const unsigned char* buf, int len)
         setCurrentTMI_From_F8(buf, len);
     } else if (kind == orba::kKindCurrent) {
         setExtendedFlag(0);
-        if (len > orba::kBodyOffset)
-            setCurrentTMI(buf + orba::kBodyOffset, len - orba::kBodyOffset);
-        else
-            setCurrentTMI(nullptr, 0);
+        setCurrentRecord(buf, len);
     }
 }
 
