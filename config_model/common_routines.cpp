@@ -1,6 +1,7 @@
 #include "config_model/common_routines.h"
 
 #include <QFile>
+#include <QSaveFile>
 
 namespace {
 
@@ -69,6 +70,16 @@ unsigned short eval_crc16(unsigned short crc, unsigned char const* data, unsigne
     for (unsigned int i = 0; i < len; ++i)
         value = crc16Step(value, data[i]);
     return value;
+}
+
+bool saveWholeFile(const QString& path, const QByteArray& bytes, QString* reason)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return true;
+    if (reason)
+        *reason = file.errorString();
+    return false;
 }
 
 bool getBitFromStrByte(const QString& digits, int pos)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <array>
@@ -69,6 +70,10 @@ unsigned long htonl32(unsigned long value);
 
 // All eight bytes in reversed order.
 unsigned long long htonl64(unsigned long long value);
+
+// Writes bytes to path whole or not at all: a file that cannot be written completely leaves the
+// old one as it was. On failure reason (when given) gets the system's text of the fault.
+bool saveWholeFile(const QString& path, const QByteArray& bytes, QString* reason = nullptr);
 
 // CRC-32 of IEEE 802.3 (the one zlib computes), kept as a running value that is at every point
 // the finished check sum of the bytes seen so far (check value 0xCBF43926 over "123456789").

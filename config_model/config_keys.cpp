@@ -383,7 +383,7 @@ Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
     Values values;
     values.reserve(branch.keys.size());
     std::unique_ptr<CXMLWorkData> top(
-        root ? root->createNode(branch.top.toLatin1().constData(), 0) : nullptr);
+        root ? root->createNode(branch.top.toLatin1().constData(), NodeFindOrCreate) : nullptr);
     QString openGroup;
     std::unique_ptr<CXMLWorkData> node;
     for (const KeyDecl& d : branch.keys) {
@@ -392,7 +392,7 @@ Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
             if (d.group.isEmpty())
                 node.reset();
             else
-                node.reset(top ? top->createNode(d.group.toLatin1().constData(), 0) : nullptr);
+                node.reset(top ? top->createNode(d.group.toLatin1().constData(), NodeFindOrCreate) : nullptr);
         }
         const CXMLWorkData* from = d.group.isEmpty() ? top.get() : node.get();
         if (!from) {
@@ -423,7 +423,7 @@ void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& val
 {
     if (!root || branch.keys.isEmpty())
         return;
-    std::unique_ptr<CXMLWorkData> top(root->createNode(branch.top.toLatin1().constData(), 0));
+    std::unique_ptr<CXMLWorkData> top(root->createNode(branch.top.toLatin1().constData(), NodeFindOrCreate));
     if (!top)
         return;
     top->clearNode();
@@ -450,7 +450,7 @@ void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& val
             writeKey(top.get(), branch.keys[i], i);
     }
     for (const QString& group : branch.groups) {
-        std::unique_ptr<CXMLWorkData> node(top->createNode(group.toLatin1().constData(), 3));
+        std::unique_ptr<CXMLWorkData> node(top->createNode(group.toLatin1().constData(), NodeRecord));
         if (!node)
             continue;
         node->clearNode();

@@ -1,13 +1,13 @@
 #include "config_model/geo_file.h"
 
 #include "config_model/app_settings.h"
+#include "config_model/common_routines.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_workdata.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <memory>
 
@@ -36,13 +36,6 @@ const char kNewMarker[] = "<AINF";
 const char kOptionsTextDefault[] = "000000";
 const char kTempListName[] = "write.lst";
 
-enum NodeMode : int
-{
-    GetOrCreate = 0,
-    Append = 1,
-    Record = 3,
-};
-
 using Node = std::unique_ptr<CXMLWorkData>;
 
 // An empty document in memory, its root named kRoot.
@@ -55,7 +48,7 @@ std::unique_ptr<CSerialize> newDocument()
 
 Node listNode(CXMLWorkData& root, const char* name, int count)
 {
-    Node n(root.createNode(name, GetOrCreate));
+    Node n(root.createNode(name, NodeFindOrCreate));
     n->writeInteger(kCount, count);
     n->writeParameters();
     return n;
@@ -231,12 +224,12 @@ QString failure(const QString& name, const QString& reason)
 
 bool writeWhole(const QString& path, const QByteArray& text, QString* error)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+    QString reason;
+    if (saveWholeFile(path, text, &reason))
         return true;
     if (error)
         //% "Не удалось записать файл \"%1\": %2."
-        *error = qtTrId("geod_025").arg(QDir::toNativeSeparators(path), file.errorString());
+        *error = qtTrId("geod_025").arg(QDir::toNativeSeparators(path), reason);
     return false;
 }
 
@@ -261,7 +254,7 @@ QByteArray renderFileParamGeo(const coreAinfData& data, bool full)
     {
         Node list = listNode(root, kZones, data.zones.size());
         for (const coreGeoZone& z : data.zones) {
-            Node n(list->createNode(kZone, Record));
+            Node n(list->createNode(kZone, NodeRecord));
             n->writeInteger("id", z.id);
             n->writeString("name", z.name);
             n->writeString("lat", formatGeoCoordinate(z.lat));
@@ -278,7 +271,7 @@ QByteArray renderFileParamGeo(const coreAinfData& data, bool full)
         Node list = listNode(root, kRoutes, data.routes.size());
         for (const coreGeoRoute& r : data.routes) {
             // An element with children: a record would drop its stops on writing.
-            Node n(list->createNode(kRoute, Append));
+            Node n(list->createNode(kRoute, NodeAppend));
             n->writeInteger("id", r.id);
             n->writeString("number", r.number);
             n->writeString("char", r.chr);
@@ -289,7 +282,7 @@ QByteArray renderFileParamGeo(const coreAinfData& data, bool full)
             n->writeInteger(kCountStop, r.stops.size());
             n->writeParameters();
             for (const coreGeoStop& s : r.stops) {
-                Node stop(n->createNode(kStop, Record));
+                Node stop(n->createNode(kStop, NodeRecord));
                 stop->writeInteger("type", s.type);
                 stop->writeInteger("zoneid", s.zoneid);
                 stop->writeInteger("number", s.number);
@@ -302,7 +295,7 @@ QByteArray renderFileParamGeo(const coreAinfData& data, bool full)
     {
         Node list = listNode(root, kSpeeds, data.speeds.size());
         for (const coreSpeedZone& s : data.speeds) {
-            Node n(list->createNode(kSpeed, Record));
+            Node n(list->createNode(kSpeed, NodeRecord));
             n->writeInteger("id", s.id);
             n->writeString("title", s.title);
             n->writeInteger("speed", s.speed);
@@ -320,13 +313,13 @@ QByteArray renderFileParamGeo(const coreAinfData& data, bool full)
         {
             Node list = listNode(root, kSounds, data.sounds.size());
             for (const coreGeoSound& s : data.sounds) {
-                Node n(list->createNode(kSoundFile, Record));
+                Node n(list->createNode(kSoundFile, NodeRecord));
                 n->writeInteger("id", s.id);
                 n->writeString("title", s.title);
                 n->writeParameters();
             }
         }
-        Node config(root.createNode(kConfig, Record));
+        Node config(root.createNode(kConfig, NodeRecord));
         writeDefaults(*config, data.defaults);
     }
     return doc->render();
@@ -410,7 +403,7 @@ QByteArray renderFileCFG(const coreAinfDefaults& defaults)
     CXMLWorkData root(doc.get(), kRoot);
     root.writeInteger(kVersion, kGeoFileVersion);
     root.writeParameters();
-    Node config(root.createNode(kConfig, Record));
+    Node config(root.createNode(kConfig, NodeRecord));
     writeDefaults(*config, defaults);
     return doc->render();
 }

@@ -1,11 +1,12 @@
 #include "config_model/kml_reader.h"
 
+#include "config_model/common_routines.h"
+
 #include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -345,12 +346,11 @@ QByteArray renderKml(const coreAinfData& data)
 
 bool writeKml(const QString& path, const coreAinfData& data, QString* error)
 {
-    const QByteArray text = renderKml(data);
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit())
+    QString reason;
+    if (saveWholeFile(path, renderKml(data), &reason))
         return true;
     if (error)
         //% "Не удалось записать файл \"%1\": %2."
-        *error = qtTrId("geod_025").arg(QDir::toNativeSeparators(path), file.errorString());
+        *error = qtTrId("geod_025").arg(QDir::toNativeSeparators(path), reason);
     return false;
 }

@@ -142,8 +142,8 @@ QStringList checkMask(const QString& mask, int generation)
 FieldSetChoice readFieldSet(CXMLWorkData* root, bool useState2)
 {
     FieldSetChoice choice { QLatin1String(kFormatReadDefault), defaultMask(useState2) };
-    auto protocol = child(root, kProtocolNode, 0);
-    auto orbaNode = child(protocol.get(), kOrbaNode, 0);
+    auto protocol = child(root, kProtocolNode, NodeFindOrCreate);
+    auto orbaNode = child(protocol.get(), kOrbaNode, NodeFindOrCreate);
     if (!orbaNode)
         return choice;
     choice.format = orbaNode->readString(kFormatKey, choice.format);
@@ -153,12 +153,12 @@ FieldSetChoice readFieldSet(CXMLWorkData* root, bool useState2)
 
 void writeFieldSet(CXMLWorkData* root, const FieldSetChoice& choice)
 {
-    auto top = child(root, kProtocolNode, 0);
+    auto top = child(root, kProtocolNode, NodeFindOrCreate);
     if (!top)
         return;
     top->clearNode();
     top->writeString(kPageKey, kProtocolNode);
-    if (auto orbaNode = child(top.get(), kOrbaNode, 3)) {
+    if (auto orbaNode = child(top.get(), kOrbaNode, NodeRecord)) {
         orbaNode->clearNode();
         orbaNode->writeString(kFormatKey, choice.format);
         orbaNode->writeString(kMaskKey, choice.mask);
@@ -222,11 +222,11 @@ UserParams defaultUserParams()
 UserParams readUserParams(CXMLWorkData* root)
 {
     UserParams params = defaultUserParams();
-    auto top = child(root, kUserNode, 0);
+    auto top = child(root, kUserNode, NodeFindOrCreate);
     if (!top)
         return params;
     for (int g = 0; g < 4; ++g) {
-        auto node = child(top.get(), userGroupNode(g).toLatin1().constData(), 0);
+        auto node = child(top.get(), userGroupNode(g).toLatin1().constData(), NodeFindOrCreate);
         if (!node)
             continue;
         const QString types = node->readString(kUserTypeKey, QString());
@@ -244,13 +244,13 @@ UserParams readUserParams(CXMLWorkData* root)
 
 void writeUserParams(CXMLWorkData* root, const UserParams& params)
 {
-    auto top = child(root, kUserNode, 0);
+    auto top = child(root, kUserNode, NodeFindOrCreate);
     if (!top)
         return;
     top->clearNode();
     top->writeString(kPageKey, kUserNode);
     for (int g = 0; g < 4; ++g) {
-        auto node = child(top.get(), userGroupNode(g).toLatin1().constData(), 3);
+        auto node = child(top.get(), userGroupNode(g).toLatin1().constData(), NodeRecord);
         if (!node)
             continue;
         node->clearNode();

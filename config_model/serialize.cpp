@@ -1,11 +1,11 @@
 #include "config_model/serialize.h"
 
+#include "config_model/common_routines.h"
 #include "config_model/cp1251.h"
 #include "config_model/xml_handler.h"
 
 #include <QBuffer>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QXmlSimpleReader>
 
 #include <algorithm>
@@ -527,15 +527,7 @@ QByteArray CSerialize::render()
 
 bool CSerialize::saveAs(const QString& path)
 {
-    const QByteArray text = render();
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    if (file.write(text) != text.size()) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit();
+    return saveWholeFile(path, render());
 }
 
 bool CSerialize::writeToFileV2()

@@ -271,7 +271,7 @@ void CXMLWorkData::clearNode()
 
 CXMLWorkData* CXMLWorkData::createNodeZRK(const char* name, const QString& text)
 {
-    CXMLWorkData* child = createNode(name, 0);
+    CXMLWorkData* child = createNode(name, NodeFindOrCreate);
     if (child && child->m_tag) {
         child->m_tag->value = text;
         child->m_tag->type = CXmlTagV2::Text;
@@ -364,7 +364,7 @@ QColor CXMLWorkData::readColorString(const char* name, const QColor& def) const
 
 void CXMLWorkData::writeFont(const char* name, const QFont& font)
 {
-    CXMLWorkData* child = createNode(name, 0);
+    CXMLWorkData* child = createNode(name, NodeFindOrCreate);
     if (!child)
         return;
     child->writeString(kFontFamily, font.family());
@@ -379,7 +379,7 @@ void CXMLWorkData::writeFont(const char* name, const QFont& font)
 
 QFont CXMLWorkData::readFont(const char* name, const QFont& def)
 {
-    CXMLWorkData* child = createNode(name, 0);
+    CXMLWorkData* child = createNode(name, NodeFindOrCreate);
     if (!child)
         return def;
     QFont font;

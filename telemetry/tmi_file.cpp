@@ -1,12 +1,12 @@
 #include "telemetry/tmi_file.h"
 
+#include "config_model/common_routines.h"
 #include "telemetry/orba_dispatch.h"
 #include "telemetry/orba_export.h"
 #include "telemetry/tmipage_orba3.h"
 #include "zrk/zrk_text.h"
 
 #include <QFile>
-#include <QSaveFile>
 #include <QTextCodec>
 
 #include <cmath>
@@ -143,12 +143,12 @@ void writeRecord(QByteArray& out, int index, const Record& r)
 
 bool saveWhole(const QString& path, const QByteArray& bytes, QString* error)
 {
-    QSaveFile f(path);
-    if (f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() && f.commit())
+    QString reason;
+    if (saveWholeFile(path, bytes, &reason))
         return true;
     if (error) {
         //% "не удаётся записать: %1"
-        *error = fileError(path, qtTrId("tmif_002").arg(f.errorString()));
+        *error = fileError(path, qtTrId("tmif_002").arg(reason));
     }
     return false;
 }

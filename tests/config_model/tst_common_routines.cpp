@@ -34,6 +34,19 @@ unsigned char* bytes(QByteArray& a)
     return reinterpret_cast<unsigned char*>(a.data());
 }
 
+// saveWholeFile's result: 1 saved, 0 refused with a reason, 2 refused without one.
+int saved(const QString& path, const QByteArray& bytes)
+{
+    QString reason;
+    return saveWholeFile(path, bytes, &reason) ? 1 : reason.isEmpty() ? 2 : 0;
+}
+
+QByteArray readAll(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
 // The file's check sum by a check-sum object that has already run over other bytes.
 uint fileCrc(const QString& path)
 {
@@ -123,6 +136,12 @@ void tst_CommonRoutines::values_data()
     v("pair 6 of C0", get2BitFromByte(0xC0, 6), 3);
     v("pair 7", get2BitFromByte(0xFF, 7), 0);
     v("pair -1", get2BitFromByte(0xFF, -1), 0);
+    v("six from 2 of FC", bitsFromByte(0xFC, 2, 6), 0x3F);
+    v("six from 3 run past 7", bitsFromByte(0xFF, 3, 6), 0);
+    v("saved whole", saved(m_dir.filePath("w"), "new") == 1 && readAll(m_dir.filePath("w")) == "new", 1);
+    v("save over old", saved(file("o", "old"), "newer") == 1 && readAll(m_dir.filePath("o")) == "newer", 1);
+    v("save into missing folder", saved(m_dir.filePath("missing/w"), "x"), 0);
+    v("save onto a folder", saved(m_dir.path(), "x"), 0);
     v("set 7 by 0xFF", setBit(0x00, 7, 0xFF), 0x8080);
     v("set already set", setBit(0x08, 3, 1), 0x0808);
     v("zero never clears", setBit(0x08, 3, 0), 0x0808);
