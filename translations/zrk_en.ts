@@ -2555,7 +2555,7 @@ Built %7</translation>
     </message>
     <message id="cfgo_033">
         <source></source>
-        <translation>Sum of the ticked fields' sizes; at most 512 bytes</translation>
+        <translation>Sum of the ticked fields&apos; sizes; at most 512 bytes</translation>
     </message>
     <message id="cfgo_034">
         <source></source>
@@ -2596,6 +2596,14 @@ Built %7</translation>
     <message id="cfgo_043">
         <source></source>
         <translation>Take the field set from another configuration file</translation>
+    </message>
+    <message id="cfgo_081">
+        <source>Поколение протокола ORBA</source>
+        <translation>ORBA protocol generation</translation>
+    </message>
+    <message id="cfgo_082">
+        <source>Поля записи (маска)</source>
+        <translation>Record fields (mask)</translation>
     </message>
 </context>
 </TS>

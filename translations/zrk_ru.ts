@@ -2597,5 +2597,13 @@
         <source></source>
         <translation>Взять набор полей из другого файла конфигурации</translation>
     </message>
+    <message id="cfgo_081">
+        <source>Поколение протокола ORBA</source>
+        <translation>Поколение протокола ORBA</translation>
+    </message>
+    <message id="cfgo_082">
+        <source>Поля записи (маска)</source>
+        <translation>Поля записи (маска)</translation>
+    </message>
 </context>
 </TS>
