@@ -20,6 +20,10 @@ Form chooseForm(const unsigned char* buf, int len, int configuratorMode, bool sh
         return (configuratorMode == 1 || configuratorMode == 2) ? Form::Orba3Production : Form::Orba3;
     if (kind == kKindExtended)
         return Form::Extended;
+    // The fixed packet of old firmware is a version-1 record with a fixed field set: a
+    // technician reads it on the version-1 page rather than as an unknown buffer.
+    if (kind == kKindFixedPacket)
+        return Form::Orba1;
     return showUnknown ? Form::Unknown : Form::Dropped;
 }
 

@@ -12,7 +12,7 @@ namespace orba {
 enum class Form
 {
     Dropped, // fewer than 2 bytes, or unknown and not asked to show it
-    Orba1, // current record, version 1
+    Orba1, // current record, version 1, or the fixed packet (kind 0x08)
     Orba2, // current record, version 2
     Orba3, // current record, version 3
     Orba3Production, // current record, version 3, in the production configurator modes
