@@ -3,6 +3,8 @@
 #include "telemetry/orba_dispatch.h"
 #include "telemetry/orba_field_labels.h"
 #include "telemetry/tmipage_orba3.h"
+#include "telemetry/zrk_form_tmi_ext.h"
+#include "telemetry/zrk_form_tmi_orba3.h"
 #include "ui_zrk_widget_tmi_page.h"
 #include "ui_zrk_widget_tmi_table.h"
 
@@ -164,7 +166,7 @@ void ZRK_Widget_Tmi_Page::showRecord(int index)
 {
     if (m_store.size() == 0) {
         m_current = -1;
-        m_ui->Values->setRowCount(0);
+        fillRecordView(QByteArray());
         updateNavigation();
         return;
     }
@@ -186,28 +188,37 @@ bool ZRK_Widget_Tmi_Page::showRecordAtTime(const QDateTime& moment)
     return false;
 }
 
+// Current records in the record form, extended ones in theirs; anything else as its bytes.
 void ZRK_Widget_Tmi_Page::fillRecordView(const QByteArray& record)
 {
-    QVector<QPair<QString, QString>> rows;
     const orba::Decoded d = orba::decodeRecord(record);
-    if (d.form == orba::Form::Extended) {
-        const szExtTMI_ORBA3& ext = static_cast<const TmiPage_Orba3&>(*d.page).extTMI();
-        for (int id = orba::E_Kind + 1; id < orba::kExtCount; ++id)
-            rows.append({ QLatin1String(orba::kExtFields[id].name), orba::extFieldText(id, ext) });
-    } else if (d.page) {
-        for (int no = 1; no <= d.page->lastField(); ++no) {
-            if (d.page->isUsed(no))
-                rows.append({ orba::fieldLabel(no), d.page->fieldText(no) });
+    const bool extended = d.form == orba::Form::Extended;
+    const bool current = d.page && !extended;
+    if (current) {
+        if (!m_form) {
+            m_form = new ZRK_Form_TMI_Orba3(this);
+            m_ui->layout_Main->addWidget(m_form, 1);
         }
+        m_form->setPage(*d.page);
+    } else if (extended) {
+        if (!m_formExt) {
+            m_formExt = new ZRK_Form_TMI_Ext(this);
+            m_ui->layout_Main->addWidget(m_formExt, 1);
+        }
+        m_formExt->setPage(static_cast<const TmiPage_Orba3&>(*d.page));
     } else {
-        //% "Неизвестная запись"
-        rows.append({ qtTrId("tmif_032"), QString::fromLatin1(record.toHex(' ')) });
+        m_ui->Values->setRowCount(record.isEmpty() ? 0 : 1);
+        if (!record.isEmpty()) {
+            //% "Неизвестная запись"
+            m_ui->Values->setItem(0, 0, new QTableWidgetItem(qtTrId("tmif_032")));
+            m_ui->Values->setItem(0, 1, new QTableWidgetItem(QString::fromLatin1(record.toHex(' '))));
+        }
     }
-    m_ui->Values->setRowCount(rows.size());
-    for (int r = 0; r < rows.size(); ++r) {
-        m_ui->Values->setItem(r, 0, new QTableWidgetItem(rows[r].first));
-        m_ui->Values->setItem(r, 1, new QTableWidgetItem(rows[r].second));
-    }
+    if (m_form)
+        m_form->setVisible(current);
+    if (m_formExt)
+        m_formExt->setVisible(extended);
+    m_ui->Values->setVisible(!current && !extended);
 }
 
 void ZRK_Widget_Tmi_Page::updateNavigation()

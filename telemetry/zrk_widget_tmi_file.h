@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+class ZRK_Form_TMI_Ext;
+class ZRK_Form_TMI_Orba3;
 namespace Ui {
 class ZRK_Designer_Tmi_Page;
 class ZRK_Designer_Tmi_Table;
@@ -74,13 +76,14 @@ private slots:
     void slot_pressed_GoTime();
 
 private:
-    // The record in the record view: for now a field/value list from the page's display texts.
     void fillRecordView(const QByteArray& record);
     void updateNavigation();
 
     std::unique_ptr<Ui::ZRK_Designer_Tmi_Page> m_ui;
     zrk::tmi::RecordStore m_store;
     int m_current = -1;
+    ZRK_Form_TMI_Orba3* m_form = nullptr; // created on the first current record
+    ZRK_Form_TMI_Ext* m_formExt = nullptr; // created on the first extended record
 };
 
 // One row per record: chosen columns, sorting, a filter by event code and time, CSV/KML export

@@ -1287,5 +1287,593 @@ Records read before the fault: %2. Show them?</translation>
         <source></source>
         <translation type="unfinished"></translation>
     </message>
+    <message id="tmio_001">
+        <source>Основное</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_002">
+        <source>Навигация</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_003">
+        <source>Питание, входы и выходы</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_004">
+        <source>Датчики</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_005">
+        <source>CAN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_007">
+        <source>Тахограф</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_008">
+        <source>Акселерометр и эко-вождение</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_009">
+        <source>Пассажиры</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_010">
+        <source>Геоинформация</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_011">
+        <source>Датчики расхода топлива</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_012">
+        <source>Рефрижератор</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_013">
+        <source>Пользовательские параметры</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_006">
+        <source>Шины</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_014">
+        <source>Исходные данные</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_020">
+        <source>Номер датчика</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_021">
+        <source>Давление</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_022">
+        <source>Температура</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_023">
+        <source>Версия %1, набор полей (%2): %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_024">
+        <source>Тело записи, %1 байт:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_041">
+        <source>Питание</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_042">
+        <source>Входы 1-8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_043">
+        <source>Аналоговый вход 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_044">
+        <source>Аналоговый вход 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_045">
+        <source>Выход 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_046">
+        <source>Выход 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_047">
+        <source>Спутники</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_048">
+        <source>Навигация (фиксация)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_049">
+        <source>Уровень GSM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_050">
+        <source>Температура 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_051">
+        <source>Температура 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_052">
+        <source>Температура (точная) 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_053">
+        <source>ВКЛ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_054">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_043">
+        <source>%1: мин. %2, макс. %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_044">
+        <source>%1: нет данных</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_040">
+        <source>расширенная</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_041">
+        <source>неизвестная</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_042">
+        <source>история</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_080">
+        <source>Удалённый сеанс с терминалом завершён</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_081">
+        <source>Терминал подключёнТерминал не подключён</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_082">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_083">
+        <source>Параметры конфигурации: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_084">
+        <source>Запрос режима проверки</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_223">
+        <source>Неизвестный тип записи</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_085">
+        <source>Получена: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_086">
+        <source>время записи: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_087">
+        <source>возраст координат: %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="abbr_003">
+        <source>с</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_088">
+        <source>координат нет</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_089">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_090">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_091">
+        <source>Команда терминалу</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_092">
+        <source>Включить выход %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_093">
+        <source>Выключить выход %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_094">
+        <source>Поставить терминал на охрану?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_095">
+        <source>Снять терминал с охраны?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_096">
+        <source>Выполнить «%1»? Данные терминала будут удалены.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_097">
+        <source>Файл прошивки датчика</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_098">
+        <source>Записать прошивку %1 в датчик? Датчик будет недоступен до конца записи.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_099">
+        <source>Значение параметра</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_100">
+        <source>Ответ на команду</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_101">
+        <source>Ответ датчика топлива</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_102">
+        <source>Параметры прошивки датчика</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_103">
+        <source>Ключ ТМ: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_104">
+        <source>Получены значения АЦП универсальных входов</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_105">
+        <source>Текущее значение дисплея: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_106">
+        <source>RFID-карта: %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_107">
+        <source>Ответ тахографа</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_108">
+        <source>Файл тахографа прочитанФайл тахографа не прочитан</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_109">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_110">
+        <source>Ответ на запрос файла данных датчика</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_111">
+        <source>Файл данных датчика прочитанФайл данных датчика не прочитан</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_112">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_114">
+        <source>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_115">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_040">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_001">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_002">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_057">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_003">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_059">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_004">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_005">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_055">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_056">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_006">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_007">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_071">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_070">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_060">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_013">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_014">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_010">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_015">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_054">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_016">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_017">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_018">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_019">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_020">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_021">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_049">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_050">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_051">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_022">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_023">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_024">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_061">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_025">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_026">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_058">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_027">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_028">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_029">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_030">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_031">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_032">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_033">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_062">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_034">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_035">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_036">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_037">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_063">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_038">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_039">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_052">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_053">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_064">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_065">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_045">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_066">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_046">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_047">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_067">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_068">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_048">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_069">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_011">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_012">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_008">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmiw_009">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_030">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_032">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_031">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_034">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message id="tmio_033">
+        <source></source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

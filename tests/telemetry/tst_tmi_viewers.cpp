@@ -1,5 +1,7 @@
 // The page and table viewers of a saved telemetry file, offscreen.
 #include "orba_records.h"
+#include "telemetry/zrk_form_tmi_ext.h"
+#include "telemetry/zrk_form_tmi_orba3.h"
 #include "telemetry/zrk_widget_tmi_file.h"
 #include "translations/catalogue.h"
 
@@ -71,15 +73,21 @@ private slots:
         auto* values = page.findChild<QTableWidget*>(QStringLiteral("Values"));
         QCOMPARE(page.currentIndex(), 0);
         QVERIFY(!prev->isEnabled() && next->isEnabled());
-        QCOMPARE(values->item(0, 1)->text(), QStringLiteral("1")); // NumPage of the first record
+        const auto* form = page.findChild<ZRK_Form_TMI_Orba3*>();
+        QVERIFY(form && form->isVisibleTo(&page) && !values->isVisibleTo(&page));
+        QCOMPARE(form->shownText(orba::F_NumPage), QStringLiteral("1"));
         QTest::mouseClick(page.findChild<QPushButton*>(QStringLiteral("Last")), Qt::LeftButton);
         QCOMPARE(page.currentIndex(), 3);
         QVERIFY(prev->isEnabled() && !next->isEnabled());
+        QVERIFY(!form->isVisibleTo(&page) && values->isVisibleTo(&page));
         QCOMPARE(values->rowCount(), 1); // an unknown record: its bytes
         QCOMPARE(values->item(0, 1)->text(), QStringLiteral("b0 28 ff"));
+        page.showRecord(2); // the extended record in its own form
+        QVERIFY(page.findChild<ZRK_Form_TMI_Ext*>()->isVisibleTo(&page) && !form->isVisibleTo(&page));
         page.findChild<QSpinBox*>(QStringLiteral("Number"))->setValue(2);
         QTest::mouseClick(page.findChild<QPushButton*>(QStringLiteral("GoNumber")), Qt::LeftButton);
         QCOMPARE(page.currentIndex(), 1);
+        QCOMPARE(form->shownText(orba::F_NumPage), QStringLiteral("2"));
         page.showRecord(99);
         QCOMPARE(page.currentIndex(), 3);
     }
