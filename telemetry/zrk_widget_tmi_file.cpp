@@ -158,6 +158,9 @@ void ZRK_Widget_Tmi_Page::setRecords(zrk::tmi::RecordStore&& store)
     m_current = -1;
     m_ui->FileName->setText(fileName());
     m_ui->Number->setMaximum(std::max(1, m_store.size()));
+    double first = 0;
+    if (m_store.numberOf(0, orba::F_Time, &first))
+        m_ui->Moment->setDateTime(QDateTime::fromSecsSinceEpoch(qint64(first)));
     showRecord(0);
     updateNavigation();
 }
@@ -197,6 +200,7 @@ void ZRK_Widget_Tmi_Page::fillRecordView(const QByteArray& record)
     if (current) {
         if (!m_form) {
             m_form = new ZRK_Form_TMI_Orba3(this);
+            m_form->translateForm();
             m_ui->layout_Main->addWidget(m_form, 1);
         }
         m_form->setPage(*d.page);
@@ -281,6 +285,7 @@ ZRK_Widget_Tmi_Table::ZRK_Widget_Tmi_Table(QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->Table->setModel(m_model);
+    m_ui->Table->verticalHeader()->hide(); // the first column numbers the records
     m_ui->Table->setWordWrap(false);
     m_ui->Table->verticalHeader()->setDefaultSectionSize(m_ui->Table->fontMetrics().height() + 6);
     m_ui->Table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -314,6 +319,15 @@ void ZRK_Widget_Tmi_Table::setRecords(zrk::tmi::RecordStore&& store)
     m_model->setStore(std::move(store));
     m_present = m_model->columns();
     m_ui->Table->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
+    // Sized by the rows on screen, not by all of them.
+    m_ui->Table->resizeColumnsToContents();
+    // The time range offered is that of the file's first and last records.
+    const zrk::tmi::RecordStore& s = m_model->store();
+    double first = 0, last = 0;
+    if (s.numberOf(0, orba::F_Time, &first) && s.numberOf(s.size() - 1, orba::F_Time, &last)) {
+        m_ui->From->setDateTime(QDateTime::fromSecsSinceEpoch(qint64(std::min(first, last))));
+        m_ui->To->setDateTime(QDateTime::fromSecsSinceEpoch(qint64(std::max(first, last))));
+    }
     updateCount();
 }
 
