@@ -51,9 +51,9 @@ namespace {
     QT_TRID_NOOP("tmif_045"),
     //% "Столбцы…"
     QT_TRID_NOOP("tmif_046"),
-    //% "CSV…"
+    //% "Экспорт CSV…"
     QT_TRID_NOOP("tmif_047"),
-    //% "KML…"
+    //% "Экспорт KML…"
     QT_TRID_NOOP("tmif_048"),
     //% "Время записи (местное), границы включены"
     QT_TRID_NOOP("tmif_053"),

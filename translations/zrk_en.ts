@@ -1184,12 +1184,12 @@
         <translation>Columns…</translation>
     </message>
     <message id="tmif_047">
-        <source>CSV…</source>
-        <translation>CSV…</translation>
+        <source>Экспорт CSV…</source>
+        <translation>Export CSV…</translation>
     </message>
     <message id="tmif_048">
-        <source>KML…</source>
-        <translation>KML…</translation>
+        <source>Экспорт KML…</source>
+        <translation>Export KML…</translation>
     </message>
     <message id="tmif_053">
         <source>Время записи (местное), границы включены</source>
@@ -1261,619 +1261,623 @@ Records read before the fault: %2. Show them?</translation>
     </message>
     <message id="abou_001">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter information</translation>
     </message>
     <message id="abou_002">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message id="iopr_001">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Please wait</translation>
     </message>
     <message id="iopr_003">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Done:</translation>
     </message>
     <message id="iopr_004">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Total:</translation>
     </message>
     <message id="iopr_005">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Time:</translation>
     </message>
     <message id="iopr_006">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message id="tmio_001">
         <source>Основное</source>
-        <translation type="unfinished"></translation>
+        <translation>Main</translation>
     </message>
     <message id="tmio_002">
         <source>Навигация</source>
-        <translation type="unfinished"></translation>
+        <translation>Navigation</translation>
     </message>
     <message id="tmio_003">
         <source>Питание, входы и выходы</source>
-        <translation type="unfinished"></translation>
+        <translation>Power, inputs and outputs</translation>
     </message>
     <message id="tmio_004">
         <source>Датчики</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensors</translation>
     </message>
     <message id="tmio_005">
-        <source>CAN</source>
-        <translation type="unfinished"></translation>
+        <source>Шина CAN</source>
+        <translation>CAN</translation>
     </message>
     <message id="tmio_007">
         <source>Тахограф</source>
-        <translation type="unfinished"></translation>
+        <translation>Tachograph</translation>
     </message>
     <message id="tmio_008">
         <source>Акселерометр и эко-вождение</source>
-        <translation type="unfinished"></translation>
+        <translation>Accelerometer and eco-driving</translation>
     </message>
     <message id="tmio_009">
         <source>Пассажиры</source>
-        <translation type="unfinished"></translation>
+        <translation>Passengers</translation>
     </message>
     <message id="tmio_010">
         <source>Геоинформация</source>
-        <translation type="unfinished"></translation>
+        <translation>Geo-information</translation>
     </message>
     <message id="tmio_011">
         <source>Датчики расхода топлива</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuel-flow sensors</translation>
     </message>
     <message id="tmio_012">
         <source>Рефрижератор</source>
-        <translation type="unfinished"></translation>
+        <translation>Refrigerator</translation>
     </message>
     <message id="tmio_013">
         <source>Пользовательские параметры</source>
-        <translation type="unfinished"></translation>
+        <translation>User parameters</translation>
     </message>
     <message id="tmio_006">
         <source>Шины</source>
-        <translation type="unfinished"></translation>
+        <translation>Tyres</translation>
     </message>
     <message id="tmio_014">
         <source>Исходные данные</source>
-        <translation type="unfinished"></translation>
+        <translation>Raw data</translation>
     </message>
     <message id="tmio_020">
         <source>Номер датчика</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensor number</translation>
     </message>
     <message id="tmio_021">
         <source>Давление</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressure</translation>
     </message>
     <message id="tmio_022">
         <source>Температура</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperature</translation>
     </message>
     <message id="tmio_023">
         <source>Версия %1, набор полей (%2): %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1, field set (%2): %3</translation>
     </message>
     <message id="tmio_024">
         <source>Тело записи, %1 байт:</source>
-        <translation type="unfinished"></translation>
+        <translation>Record body, %1 bytes:</translation>
     </message>
     <message id="tmio_041">
         <source>Питание</source>
-        <translation type="unfinished"></translation>
+        <translation>Power</translation>
     </message>
     <message id="tmio_042">
         <source>Входы 1-8</source>
-        <translation type="unfinished"></translation>
+        <translation>Inputs 1-8</translation>
     </message>
     <message id="tmio_043">
         <source>Аналоговый вход 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Analog input 1</translation>
     </message>
     <message id="tmio_044">
         <source>Аналоговый вход 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Analog input 2</translation>
     </message>
     <message id="tmio_045">
         <source>Выход 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Output 1</translation>
     </message>
     <message id="tmio_046">
         <source>Выход 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Output 2</translation>
     </message>
     <message id="tmio_047">
         <source>Спутники</source>
-        <translation type="unfinished"></translation>
+        <translation>Satellites</translation>
     </message>
     <message id="tmio_048">
         <source>Навигация (фиксация)</source>
-        <translation type="unfinished"></translation>
+        <translation>Navigation (fix)</translation>
     </message>
     <message id="tmio_049">
         <source>Уровень GSM</source>
-        <translation type="unfinished"></translation>
+        <translation>GSM level</translation>
     </message>
     <message id="tmio_050">
         <source>Температура 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperature 1</translation>
     </message>
     <message id="tmio_051">
         <source>Температура 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperature 2</translation>
     </message>
     <message id="tmio_052">
         <source>Температура (точная) 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperature (precise) 1</translation>
     </message>
     <message id="tmio_053">
         <source>ВКЛ</source>
-        <translation type="unfinished"></translation>
+        <translation>ON</translation>
     </message>
     <message id="tmio_054">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>выкл</source>
+        <translation>off</translation>
     </message>
     <message id="tmiw_043">
         <source>%1: мин. %2, макс. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: min %2, max %3</translation>
     </message>
     <message id="tmiw_044">
         <source>%1: нет данных</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no data</translation>
     </message>
     <message id="tmiw_040">
         <source>расширенная</source>
-        <translation type="unfinished"></translation>
+        <translation>extended</translation>
     </message>
     <message id="tmiw_041">
         <source>неизвестная</source>
-        <translation type="unfinished"></translation>
+        <translation>unknown</translation>
     </message>
     <message id="tmiw_042">
         <source>история</source>
-        <translation type="unfinished"></translation>
+        <translation>history</translation>
     </message>
     <message id="tmiw_080">
         <source>Удалённый сеанс с терминалом завершён</source>
-        <translation type="unfinished"></translation>
+        <translation>Remote session with the terminal ended</translation>
     </message>
     <message id="tmiw_081">
-        <source>Терминал подключёнТерминал не подключён</source>
-        <translation type="unfinished"></translation>
+        <source>Терминал подключён</source>
+        <oldsource>Терминал подключёнТерминал не подключён</oldsource>
+        <translation>Terminal connected</translation>
     </message>
     <message id="tmiw_082">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Терминал не подключён</source>
+        <translation>Terminal not connected</translation>
     </message>
     <message id="tmiw_083">
         <source>Параметры конфигурации: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration parameters: %1</translation>
     </message>
     <message id="tmiw_084">
         <source>Запрос режима проверки</source>
-        <translation type="unfinished"></translation>
+        <translation>Test mode query</translation>
     </message>
     <message id="tmiw_223">
         <source>Неизвестный тип записи</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown record type</translation>
     </message>
     <message id="tmiw_085">
         <source>Получена: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Received: %1</translation>
     </message>
     <message id="tmiw_086">
         <source>время записи: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>record time: %1</translation>
     </message>
     <message id="tmiw_087">
         <source>возраст координат: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>position age: %1 %2</translation>
     </message>
     <message id="abbr_003">
         <source>с</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message id="tmiw_088">
         <source>координат нет</source>
-        <translation type="unfinished"></translation>
+        <translation>no position</translation>
     </message>
     <message id="tmiw_089">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>ИЗ ИСТОРИИ (по номеру)</source>
+        <translation>FROM HISTORY (by number)</translation>
     </message>
     <message id="tmiw_090">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>ИЗ ИСТОРИИ (по времени)</source>
+        <translation>FROM HISTORY (by time)</translation>
     </message>
     <message id="tmiw_091">
         <source>Команда терминалу</source>
-        <translation type="unfinished"></translation>
+        <translation>Command to the terminal</translation>
     </message>
     <message id="tmiw_092">
         <source>Включить выход %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch output %1 on?</translation>
     </message>
     <message id="tmiw_093">
         <source>Выключить выход %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch output %1 off?</translation>
     </message>
     <message id="tmiw_094">
         <source>Поставить терминал на охрану?</source>
-        <translation type="unfinished"></translation>
+        <translation>Arm the terminal&apos;s guard mode?</translation>
     </message>
     <message id="tmiw_095">
         <source>Снять терминал с охраны?</source>
-        <translation type="unfinished"></translation>
+        <translation>Disarm the terminal&apos;s guard mode?</translation>
     </message>
     <message id="tmiw_096">
         <source>Выполнить «%1»? Данные терминала будут удалены.</source>
-        <translation type="unfinished"></translation>
+        <translation>Run &quot;%1&quot;? The terminal&apos;s data will be deleted.</translation>
     </message>
     <message id="tmiw_097">
         <source>Файл прошивки датчика</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensor firmware file</translation>
     </message>
     <message id="tmiw_098">
         <source>Записать прошивку %1 в датчик? Датчик будет недоступен до конца записи.</source>
-        <translation type="unfinished"></translation>
+        <translation>Write firmware %1 to the sensor? The sensor is unavailable until it is written.</translation>
     </message>
     <message id="tmiw_099">
         <source>Значение параметра</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter value</translation>
     </message>
     <message id="tmiw_100">
         <source>Ответ на команду</source>
-        <translation type="unfinished"></translation>
+        <translation>Command reply</translation>
     </message>
     <message id="tmiw_101">
         <source>Ответ датчика топлива</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuel sensor reply</translation>
     </message>
     <message id="tmiw_102">
         <source>Параметры прошивки датчика</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensor firmware parameters</translation>
     </message>
     <message id="tmiw_103">
         <source>Ключ ТМ: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Touch-memory key: %1</translation>
     </message>
     <message id="tmiw_104">
         <source>Получены значения АЦП универсальных входов</source>
-        <translation type="unfinished"></translation>
+        <translation>Universal input A/D values received</translation>
     </message>
     <message id="tmiw_105">
         <source>Текущее значение дисплея: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Current display value: %1</translation>
     </message>
     <message id="tmiw_106">
         <source>RFID-карта: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>RFID card: %1 (%2)</translation>
     </message>
     <message id="tmiw_107">
         <source>Ответ тахографа</source>
-        <translation type="unfinished"></translation>
+        <translation>Tachograph reply</translation>
     </message>
     <message id="tmiw_108">
-        <source>Файл тахографа прочитанФайл тахографа не прочитан</source>
-        <translation type="unfinished"></translation>
+        <source>Файл тахографа прочитан</source>
+        <oldsource>Файл тахографа прочитанФайл тахографа не прочитан</oldsource>
+        <translation>Tachograph file read</translation>
     </message>
     <message id="tmiw_109">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Файл тахографа не прочитан</source>
+        <translation>Tachograph file not read</translation>
     </message>
     <message id="tmiw_110">
         <source>Ответ на запрос файла данных датчика</source>
-        <translation type="unfinished"></translation>
+        <translation>Sensor data file query reply</translation>
     </message>
     <message id="tmiw_111">
-        <source>Файл данных датчика прочитанФайл данных датчика не прочитан</source>
-        <translation type="unfinished"></translation>
+        <source>Файл данных датчика прочитан</source>
+        <oldsource>Файл данных датчика прочитанФайл данных датчика не прочитан</oldsource>
+        <translation>Sensor data file read</translation>
     </message>
     <message id="tmiw_112">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Файл данных датчика не прочитан</source>
+        <translation>Sensor data file not read</translation>
     </message>
     <message id="tmiw_114">
-        <source>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
-        <translation type="unfinished"></translation>
+        <source>Сохранить записи телеметрии</source>
+        <oldsource>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</oldsource>
+        <translation>Save telemetry records</translation>
     </message>
     <message id="tmiw_115">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
+        <translation>Telemetry (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
     </message>
     <message id="tmio_040">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Проверка на производстве</source>
+        <translation>Production check</translation>
     </message>
     <message id="tmiw_001">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Текущая запись</source>
+        <translation>Current record</translation>
     </message>
     <message id="tmiw_002">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>◀ Предыдущая</source>
+        <translation>◀ Previous</translation>
     </message>
     <message id="tmiw_057">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Номер показанной записи</source>
+        <translation>Number of the shown record</translation>
     </message>
     <message id="tmiw_003">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Следующая ▶</source>
+        <translation>Next ▶</translation>
     </message>
     <message id="tmiw_059">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Момент: показать ближайшую запись до него</source>
+        <translation>Moment: show the nearest record before it</translation>
     </message>
     <message id="tmiw_004">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Показать</source>
+        <translation>Show</translation>
     </message>
     <message id="tmiw_005">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Смещение от UTC:</source>
+        <translation>UTC offset:</translation>
     </message>
     <message id="tmiw_055">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Часы смещения от UTC, -12..14</source>
+        <translation>UTC offset hours, -12..14</translation>
     </message>
     <message id="tmiw_056">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Минуты смещения, 0..45</source>
+        <translation>UTC offset minutes, 0..45</translation>
     </message>
     <message id="tmiw_006">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Автозапрос</source>
+        <translation>Auto-request</translation>
     </message>
     <message id="tmiw_007">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Период автозапроса, 1..60 с</source>
+        <translation>Auto-request period, 1..60 s</translation>
     </message>
     <message id="tmiw_071">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Записи этого сеанса; щелчок показывает запись</source>
+        <translation>Records of this session; click one to show it</translation>
     </message>
     <message id="tmiw_070">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Запросите текущую запись</source>
+        <translation>Request the current record</translation>
     </message>
     <message id="tmiw_060">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Числовое поле для графика</source>
+        <translation>Numeric field to plot</translation>
     </message>
     <message id="tmiw_013">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Добавить</source>
+        <translation>Add</translation>
     </message>
     <message id="tmiw_014">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Очистить</source>
+        <translation>Clear</translation>
     </message>
     <message id="tmiw_010">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>График</source>
+        <translation>Chart</translation>
     </message>
     <message id="tmiw_015">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Выход</source>
+        <translation>Output</translation>
     </message>
     <message id="tmiw_054">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Номер выхода, 1..8</source>
+        <translation>Output number, 1..8</translation>
     </message>
     <message id="tmiw_016">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Включить</source>
+        <translation>Switch on</translation>
     </message>
     <message id="tmiw_017">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Выключить</source>
+        <translation>Switch off</translation>
     </message>
     <message id="tmiw_018">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Охрана</source>
+        <translation>Guard</translation>
     </message>
     <message id="tmiw_019">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Поставить</source>
+        <translation>Arm</translation>
     </message>
     <message id="tmiw_020">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Снять</source>
+        <translation>Disarm</translation>
     </message>
     <message id="tmiw_021">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Очистка</source>
+        <translation>Clearing</translation>
     </message>
     <message id="tmiw_049">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Память записей</source>
+        <translation>Record memory</translation>
     </message>
     <message id="tmiw_050">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Счётчики</source>
+        <translation>Counters</translation>
     </message>
     <message id="tmiw_051">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Всё</source>
+        <translation>Everything</translation>
     </message>
     <message id="tmiw_022">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Очистить</source>
+        <translation>Clear</translation>
     </message>
     <message id="tmiw_023">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Вывод GNSS/NMEA</source>
+        <translation>GNSS/NMEA output</translation>
     </message>
     <message id="tmiw_024">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Параметр</source>
+        <translation>Parameter</translation>
     </message>
     <message id="tmiw_061">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Текст параметра, например «имя=значение»</source>
+        <translation>Parameter text, e.g. &quot;name=value&quot;</translation>
     </message>
     <message id="tmiw_025">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Установить</source>
+        <translation>Set</translation>
     </message>
     <message id="tmiw_026">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Команда с числом</source>
+        <translation>Command with a number</translation>
     </message>
     <message id="tmiw_058">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Число для команды</source>
+        <translation>Number for the command</translation>
     </message>
     <message id="tmiw_027">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Выполнить</source>
+        <translation>Run</translation>
     </message>
     <message id="tmiw_028">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Ключ / карта</source>
+        <translation>Key / card</translation>
     </message>
     <message id="tmiw_029">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Прочитать ключ ТМ</source>
+        <translation>Read touch-memory key</translation>
     </message>
     <message id="tmiw_030">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Прочитать RFID-карту</source>
+        <translation>Read RFID card</translation>
     </message>
     <message id="tmiw_031">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Код ключа ТМ</source>
+        <translation>Touch-memory key code</translation>
     </message>
     <message id="tmiw_032">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Код RFID</source>
+        <translation>RFID code</translation>
     </message>
     <message id="tmiw_033">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>ДУТ: команда</source>
+        <translation>Fuel sensor: command</translation>
     </message>
     <message id="tmiw_062">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Команда датчику уровня топлива</source>
+        <translation>Command to the fuel-level sensor</translation>
     </message>
     <message id="tmiw_034">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Отправить</source>
+        <translation>Send</translation>
     </message>
     <message id="tmiw_035">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Прошивка датчика</source>
+        <translation>Sensor firmware</translation>
     </message>
     <message id="tmiw_036">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Выбрать файл…</source>
+        <translation>Choose file…</translation>
     </message>
     <message id="tmiw_037">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Тахограф: запрос</source>
+        <translation>Tachograph: query</translation>
     </message>
     <message id="tmiw_063">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Вид запроса тахографа, 0..255</source>
+        <translation>Tachograph query kind, 0..255</translation>
     </message>
     <message id="tmiw_038">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Запросить</source>
+        <translation>Request</translation>
     </message>
     <message id="tmiw_039">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Тахограф: файл</source>
+        <translation>Tachograph: file</translation>
     </message>
     <message id="tmiw_052">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Бортовое устройство</source>
+        <translation>Vehicle unit</translation>
     </message>
     <message id="tmiw_053">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Карта водителя</source>
+        <translation>Driver card</translation>
     </message>
     <message id="tmiw_064">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Начало периода</source>
+        <translation>Start of the period</translation>
     </message>
     <message id="tmiw_065">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Конец периода</source>
+        <translation>End of the period</translation>
     </message>
     <message id="tmiw_045">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Тахограф: чтение файла</source>
+        <translation>Tachograph: read file</translation>
     </message>
     <message id="tmiw_066">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Имя файла тахографа</source>
+        <translation>Tachograph file name</translation>
     </message>
     <message id="tmiw_046">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Прочитать</source>
+        <translation>Read</translation>
     </message>
     <message id="tmiw_047">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>ДУТ: данные</source>
+        <translation>Fuel sensor: data</translation>
     </message>
     <message id="tmiw_067">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Датчик</source>
+        <translation>Sensor</translation>
     </message>
     <message id="tmiw_068">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Запрос</source>
+        <translation>Query</translation>
     </message>
     <message id="tmiw_048">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>ДУТ: файл данных</source>
+        <translation>Fuel sensor: data file</translation>
     </message>
     <message id="tmiw_069">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Имя файла данных датчика</source>
+        <translation>Sensor data file name</translation>
     </message>
     <message id="tmiw_011">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Команды</source>
+        <translation>Commands</translation>
     </message>
     <message id="tmiw_012">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Журнал</source>
+        <translation>Log</translation>
     </message>
     <message id="tmiw_008">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Скрывать отсутствующие поля</source>
+        <translation>Hide absent fields</translation>
     </message>
     <message id="tmiw_009">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Сохранить…</source>
+        <translation>Save…</translation>
     </message>
     <message id="tmio_030">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Расширенная запись</source>
+        <translation>Extended record</translation>
     </message>
     <message id="tmio_032">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Значение</source>
+        <translation>Value</translation>
     </message>
     <message id="tmio_031">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Поле</source>
+        <translation>Field</translation>
     </message>
     <message id="tmio_034">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Размер</source>
+        <translation>Size</translation>
     </message>
     <message id="tmio_033">
-        <source></source>
-        <translation type="unfinished"></translation>
+        <source>Тип</source>
+        <translation>Type</translation>
     </message>
 </context>
 </TS>

@@ -1184,12 +1184,12 @@
         <translation>Столбцы…</translation>
     </message>
     <message id="tmif_047">
-        <source>CSV…</source>
-        <translation>CSV…</translation>
+        <source>Экспорт CSV…</source>
+        <translation>Экспорт CSV…</translation>
     </message>
     <message id="tmif_048">
-        <source>KML…</source>
-        <translation>KML…</translation>
+        <source>Экспорт KML…</source>
+        <translation>Экспорт KML…</translation>
     </message>
     <message id="tmif_053">
         <source>Время записи (местное), границы включены</source>
@@ -1261,31 +1261,31 @@
     </message>
     <message id="abou_001">
         <source></source>
-        <translation></translation>
+        <translation>Справка о параметре</translation>
     </message>
     <message id="abou_002">
         <source></source>
-        <translation></translation>
+        <translation>Закрыть</translation>
     </message>
     <message id="iopr_001">
         <source></source>
-        <translation></translation>
+        <translation>Ожидание</translation>
     </message>
     <message id="iopr_003">
         <source></source>
-        <translation></translation>
+        <translation>Выполнено:</translation>
     </message>
     <message id="iopr_004">
         <source></source>
-        <translation></translation>
+        <translation>Всего:</translation>
     </message>
     <message id="iopr_005">
         <source></source>
-        <translation></translation>
+        <translation>Время:</translation>
     </message>
     <message id="iopr_006">
         <source></source>
-        <translation></translation>
+        <translation>Отмена</translation>
     </message>
     <message id="tmio_001">
         <source>Основное</source>
@@ -1304,8 +1304,8 @@
         <translation>Датчики</translation>
     </message>
     <message id="tmio_005">
-        <source>CAN</source>
-        <translation>CAN</translation>
+        <source>Шина CAN</source>
+        <translation>Шина CAN</translation>
     </message>
     <message id="tmio_007">
         <source>Тахограф</source>
@@ -1417,7 +1417,8 @@
     </message>
     <message id="tmio_054">
         <source></source>
-        <translation></translation>
+        <oldsource>выкл</oldsource>
+        <translation>выкл</translation>
     </message>
     <message id="tmiw_043">
         <source>%1: мин. %2, макс. %3</source>
@@ -1449,7 +1450,8 @@
     </message>
     <message id="tmiw_082">
         <source></source>
-        <translation></translation>
+        <oldsource>Терминал не подключён</oldsource>
+        <translation>Терминал не подключён</translation>
     </message>
     <message id="tmiw_083">
         <source>Параметры конфигурации: %1</source>
@@ -1485,11 +1487,13 @@
     </message>
     <message id="tmiw_089">
         <source></source>
-        <translation></translation>
+        <oldsource>ИЗ ИСТОРИИ (по номеру)</oldsource>
+        <translation>ИЗ ИСТОРИИ (по номеру)</translation>
     </message>
     <message id="tmiw_090">
         <source></source>
-        <translation></translation>
+        <oldsource>ИЗ ИСТОРИИ (по времени)</oldsource>
+        <translation>ИЗ ИСТОРИИ (по времени)</translation>
     </message>
     <message id="tmiw_091">
         <source>Команда терминалу</source>
@@ -1565,7 +1569,8 @@
     </message>
     <message id="tmiw_109">
         <source></source>
-        <translation></translation>
+        <oldsource>Файл тахографа не прочитан</oldsource>
+        <translation>Файл тахографа не прочитан</translation>
     </message>
     <message id="tmiw_110">
         <source>Ответ на запрос файла данных датчика</source>
@@ -1577,7 +1582,8 @@
     </message>
     <message id="tmiw_112">
         <source></source>
-        <translation></translation>
+        <oldsource>Файл данных датчика не прочитан</oldsource>
+        <translation>Файл данных датчика не прочитан</translation>
     </message>
     <message id="tmiw_114">
         <source>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
@@ -1585,295 +1591,368 @@
     </message>
     <message id="tmiw_115">
         <source></source>
-        <translation></translation>
+        <oldsource>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</oldsource>
+        <translation>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
     </message>
     <message id="tmio_040">
         <source></source>
-        <translation></translation>
+        <oldsource>Проверка на производстве</oldsource>
+        <translation>Проверка на производстве</translation>
     </message>
     <message id="tmiw_001">
         <source></source>
-        <translation></translation>
+        <oldsource>Текущая запись</oldsource>
+        <translation>Текущая запись</translation>
     </message>
     <message id="tmiw_002">
         <source></source>
-        <translation></translation>
+        <oldsource>◀ Предыдущая</oldsource>
+        <translation>◀ Предыдущая</translation>
     </message>
     <message id="tmiw_057">
         <source></source>
-        <translation></translation>
+        <oldsource>Номер показанной записи</oldsource>
+        <translation>Номер показанной записи</translation>
     </message>
     <message id="tmiw_003">
         <source></source>
-        <translation></translation>
+        <oldsource>Следующая ▶</oldsource>
+        <translation>Следующая ▶</translation>
     </message>
     <message id="tmiw_059">
         <source></source>
-        <translation></translation>
+        <oldsource>Момент: показать ближайшую запись до него</oldsource>
+        <translation>Момент: показать ближайшую запись до него</translation>
     </message>
     <message id="tmiw_004">
         <source></source>
-        <translation></translation>
+        <oldsource>Показать</oldsource>
+        <translation>Показать</translation>
     </message>
     <message id="tmiw_005">
         <source></source>
-        <translation></translation>
+        <oldsource>Смещение от UTC:</oldsource>
+        <translation>Смещение от UTC:</translation>
     </message>
     <message id="tmiw_055">
         <source></source>
-        <translation></translation>
+        <oldsource>Часы смещения от UTC, -12..14</oldsource>
+        <translation>Часы смещения от UTC, -12..14</translation>
     </message>
     <message id="tmiw_056">
         <source></source>
-        <translation></translation>
+        <oldsource>Минуты смещения, 0..45</oldsource>
+        <translation>Минуты смещения, 0..45</translation>
     </message>
     <message id="tmiw_006">
         <source></source>
-        <translation></translation>
+        <oldsource>Автозапрос</oldsource>
+        <translation>Автозапрос</translation>
     </message>
     <message id="tmiw_007">
         <source></source>
-        <translation></translation>
+        <oldsource>Период автозапроса, 1..60 с</oldsource>
+        <translation>Период автозапроса, 1..60 с</translation>
     </message>
     <message id="tmiw_071">
         <source></source>
-        <translation></translation>
+        <oldsource>Записи этого сеанса; щелчок показывает запись</oldsource>
+        <translation>Записи этого сеанса; щелчок показывает запись</translation>
     </message>
     <message id="tmiw_070">
         <source></source>
-        <translation></translation>
+        <oldsource>Запросите текущую запись</oldsource>
+        <translation>Запросите текущую запись</translation>
     </message>
     <message id="tmiw_060">
         <source></source>
-        <translation></translation>
+        <oldsource>Числовое поле для графика</oldsource>
+        <translation>Числовое поле для графика</translation>
     </message>
     <message id="tmiw_013">
         <source></source>
-        <translation></translation>
+        <oldsource>Добавить</oldsource>
+        <translation>Добавить</translation>
     </message>
     <message id="tmiw_014">
         <source></source>
-        <translation></translation>
+        <oldsource>Очистить</oldsource>
+        <translation>Очистить</translation>
     </message>
     <message id="tmiw_010">
         <source></source>
-        <translation></translation>
+        <oldsource>График</oldsource>
+        <translation>График</translation>
     </message>
     <message id="tmiw_015">
         <source></source>
-        <translation></translation>
+        <oldsource>Выход</oldsource>
+        <translation>Выход</translation>
     </message>
     <message id="tmiw_054">
         <source></source>
-        <translation></translation>
+        <oldsource>Номер выхода, 1..8</oldsource>
+        <translation>Номер выхода, 1..8</translation>
     </message>
     <message id="tmiw_016">
         <source></source>
-        <translation></translation>
+        <oldsource>Включить</oldsource>
+        <translation>Включить</translation>
     </message>
     <message id="tmiw_017">
         <source></source>
-        <translation></translation>
+        <oldsource>Выключить</oldsource>
+        <translation>Выключить</translation>
     </message>
     <message id="tmiw_018">
         <source></source>
-        <translation></translation>
+        <oldsource>Охрана</oldsource>
+        <translation>Охрана</translation>
     </message>
     <message id="tmiw_019">
         <source></source>
-        <translation></translation>
+        <oldsource>Поставить</oldsource>
+        <translation>Поставить</translation>
     </message>
     <message id="tmiw_020">
         <source></source>
-        <translation></translation>
+        <oldsource>Снять</oldsource>
+        <translation>Снять</translation>
     </message>
     <message id="tmiw_021">
         <source></source>
-        <translation></translation>
+        <oldsource>Очистка</oldsource>
+        <translation>Очистка</translation>
     </message>
     <message id="tmiw_049">
         <source></source>
-        <translation></translation>
+        <oldsource>Память записей</oldsource>
+        <translation>Память записей</translation>
     </message>
     <message id="tmiw_050">
         <source></source>
-        <translation></translation>
+        <oldsource>Счётчики</oldsource>
+        <translation>Счётчики</translation>
     </message>
     <message id="tmiw_051">
         <source></source>
-        <translation></translation>
+        <oldsource>Всё</oldsource>
+        <translation>Всё</translation>
     </message>
     <message id="tmiw_022">
         <source></source>
-        <translation></translation>
+        <oldsource>Очистить</oldsource>
+        <translation>Очистить</translation>
     </message>
     <message id="tmiw_023">
         <source></source>
-        <translation></translation>
+        <oldsource>Вывод GNSS/NMEA</oldsource>
+        <translation>Вывод GNSS/NMEA</translation>
     </message>
     <message id="tmiw_024">
         <source></source>
-        <translation></translation>
+        <oldsource>Параметр</oldsource>
+        <translation>Параметр</translation>
     </message>
     <message id="tmiw_061">
         <source></source>
-        <translation></translation>
+        <oldsource>Текст параметра, например «имя=значение»</oldsource>
+        <translation>Текст параметра, например «имя=значение»</translation>
     </message>
     <message id="tmiw_025">
         <source></source>
-        <translation></translation>
+        <oldsource>Установить</oldsource>
+        <translation>Установить</translation>
     </message>
     <message id="tmiw_026">
         <source></source>
-        <translation></translation>
+        <oldsource>Команда с числом</oldsource>
+        <translation>Команда с числом</translation>
     </message>
     <message id="tmiw_058">
         <source></source>
-        <translation></translation>
+        <oldsource>Число для команды</oldsource>
+        <translation>Число для команды</translation>
     </message>
     <message id="tmiw_027">
         <source></source>
-        <translation></translation>
+        <oldsource>Выполнить</oldsource>
+        <translation>Выполнить</translation>
     </message>
     <message id="tmiw_028">
         <source></source>
-        <translation></translation>
+        <oldsource>Ключ / карта</oldsource>
+        <translation>Ключ / карта</translation>
     </message>
     <message id="tmiw_029">
         <source></source>
-        <translation></translation>
+        <oldsource>Прочитать ключ ТМ</oldsource>
+        <translation>Прочитать ключ ТМ</translation>
     </message>
     <message id="tmiw_030">
         <source></source>
-        <translation></translation>
+        <oldsource>Прочитать RFID-карту</oldsource>
+        <translation>Прочитать RFID-карту</translation>
     </message>
     <message id="tmiw_031">
         <source></source>
-        <translation></translation>
+        <oldsource>Код ключа ТМ</oldsource>
+        <translation>Код ключа ТМ</translation>
     </message>
     <message id="tmiw_032">
         <source></source>
-        <translation></translation>
+        <oldsource>Код RFID</oldsource>
+        <translation>Код RFID</translation>
     </message>
     <message id="tmiw_033">
         <source></source>
-        <translation></translation>
+        <oldsource>ДУТ: команда</oldsource>
+        <translation>ДУТ: команда</translation>
     </message>
     <message id="tmiw_062">
         <source></source>
-        <translation></translation>
+        <oldsource>Команда датчику уровня топлива</oldsource>
+        <translation>Команда датчику уровня топлива</translation>
     </message>
     <message id="tmiw_034">
         <source></source>
-        <translation></translation>
+        <oldsource>Отправить</oldsource>
+        <translation>Отправить</translation>
     </message>
     <message id="tmiw_035">
         <source></source>
-        <translation></translation>
+        <oldsource>Прошивка датчика</oldsource>
+        <translation>Прошивка датчика</translation>
     </message>
     <message id="tmiw_036">
         <source></source>
-        <translation></translation>
+        <oldsource>Выбрать файл…</oldsource>
+        <translation>Выбрать файл…</translation>
     </message>
     <message id="tmiw_037">
         <source></source>
-        <translation></translation>
+        <oldsource>Тахограф: запрос</oldsource>
+        <translation>Тахограф: запрос</translation>
     </message>
     <message id="tmiw_063">
         <source></source>
-        <translation></translation>
+        <oldsource>Вид запроса тахографа, 0..255</oldsource>
+        <translation>Вид запроса тахографа, 0..255</translation>
     </message>
     <message id="tmiw_038">
         <source></source>
-        <translation></translation>
+        <oldsource>Запросить</oldsource>
+        <translation>Запросить</translation>
     </message>
     <message id="tmiw_039">
         <source></source>
-        <translation></translation>
+        <oldsource>Тахограф: файл</oldsource>
+        <translation>Тахограф: файл</translation>
     </message>
     <message id="tmiw_052">
         <source></source>
-        <translation></translation>
+        <oldsource>Бортовое устройство</oldsource>
+        <translation>Бортовое устройство</translation>
     </message>
     <message id="tmiw_053">
         <source></source>
-        <translation></translation>
+        <oldsource>Карта водителя</oldsource>
+        <translation>Карта водителя</translation>
     </message>
     <message id="tmiw_064">
         <source></source>
-        <translation></translation>
+        <oldsource>Начало периода</oldsource>
+        <translation>Начало периода</translation>
     </message>
     <message id="tmiw_065">
         <source></source>
-        <translation></translation>
+        <oldsource>Конец периода</oldsource>
+        <translation>Конец периода</translation>
     </message>
     <message id="tmiw_045">
         <source></source>
-        <translation></translation>
+        <oldsource>Тахограф: чтение файла</oldsource>
+        <translation>Тахограф: чтение файла</translation>
     </message>
     <message id="tmiw_066">
         <source></source>
-        <translation></translation>
+        <oldsource>Имя файла тахографа</oldsource>
+        <translation>Имя файла тахографа</translation>
     </message>
     <message id="tmiw_046">
         <source></source>
-        <translation></translation>
+        <oldsource>Прочитать</oldsource>
+        <translation>Прочитать</translation>
     </message>
     <message id="tmiw_047">
         <source></source>
-        <translation></translation>
+        <oldsource>ДУТ: данные</oldsource>
+        <translation>ДУТ: данные</translation>
     </message>
     <message id="tmiw_067">
         <source></source>
-        <translation></translation>
+        <oldsource>Датчик</oldsource>
+        <translation>Датчик</translation>
     </message>
     <message id="tmiw_068">
         <source></source>
-        <translation></translation>
+        <oldsource>Запрос</oldsource>
+        <translation>Запрос</translation>
     </message>
     <message id="tmiw_048">
         <source></source>
-        <translation></translation>
+        <oldsource>ДУТ: файл данных</oldsource>
+        <translation>ДУТ: файл данных</translation>
     </message>
     <message id="tmiw_069">
         <source></source>
-        <translation></translation>
+        <oldsource>Имя файла данных датчика</oldsource>
+        <translation>Имя файла данных датчика</translation>
     </message>
     <message id="tmiw_011">
         <source></source>
-        <translation></translation>
+        <oldsource>Команды</oldsource>
+        <translation>Команды</translation>
     </message>
     <message id="tmiw_012">
         <source></source>
-        <translation></translation>
+        <oldsource>Журнал</oldsource>
+        <translation>Журнал</translation>
     </message>
     <message id="tmiw_008">
         <source></source>
-        <translation></translation>
+        <oldsource>Скрывать отсутствующие поля</oldsource>
+        <translation>Скрывать отсутствующие поля</translation>
     </message>
     <message id="tmiw_009">
         <source></source>
-        <translation></translation>
+        <oldsource>Сохранить…</oldsource>
+        <translation>Сохранить…</translation>
     </message>
     <message id="tmio_030">
         <source></source>
-        <translation></translation>
+        <oldsource>Расширенная запись</oldsource>
+        <translation>Расширенная запись</translation>
     </message>
     <message id="tmio_032">
         <source></source>
-        <translation></translation>
+        <oldsource>Значение</oldsource>
+        <translation>Значение</translation>
     </message>
     <message id="tmio_031">
         <source></source>
-        <translation></translation>
+        <oldsource>Поле</oldsource>
+        <translation>Поле</translation>
     </message>
     <message id="tmio_034">
         <source></source>
-        <translation></translation>
+        <oldsource>Размер</oldsource>
+        <translation>Размер</translation>
     </message>
     <message id="tmio_033">
         <source></source>
-        <translation></translation>
+        <oldsource>Тип</oldsource>
+        <translation>Тип</translation>
     </message>
 </context>
 </TS>
