@@ -1,0 +1,3 @@
+#include "demo_session.h"
+
+void ZrkDemoSession::runTelemetrySteps() { }
