@@ -380,6 +380,13 @@ QByteArray ZrkSimTelemetry::record(quint32 number) const
     return encode(m_store.at(int(number - m_firstNumber)));
 }
 
+QByteArray ZrkSimTelemetry::fieldValues(quint32 number) const
+{
+    if (number < m_firstNumber || number > lastNumber())
+        return QByteArray();
+    return m_store.at(int(number - m_firstNumber));
+}
+
 QByteArray ZrkSimTelemetry::extendedRecord() const
 {
     const Values& v = m_store.last();

@@ -91,6 +91,9 @@ public:
     // The record numbered n as the terminal would send it now: kind, version, mask, body; empty
     // when there is no such record.
     QByteArray record(quint32 number) const;
+    // Every field's value of record n as the terminal holds it, each at its place among all
+    // fields in table order (734 bytes); empty when there is no such record.
+    QByteArray fieldValues(quint32 number) const;
     // A fresh extended record (kind 0xB1) from the newest record.
     QByteArray extendedRecord() const;
 
