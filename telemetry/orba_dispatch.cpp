@@ -20,6 +20,10 @@ Form chooseForm(const unsigned char* buf, int len, int configuratorMode, bool sh
         return (configuratorMode == 1 || configuratorMode == 2) ? Form::Orba3Production : Form::Orba3;
     if (kind == kKindExtended)
         return Form::Extended;
+    // The fixed packet of old firmware is a version-1 record with a fixed field set: a
+    // technician reads it on the version-1 page rather than as an unknown buffer.
+    if (kind == kKindFixedPacket)
+        return Form::Orba1;
     return showUnknown ? Form::Unknown : Form::Dropped;
 }
 
@@ -63,6 +67,26 @@ const char* pageClassName(Form form)
         break;
     }
     return "unknown";
+}
+
+} // namespace orba
+
+namespace orba {
+
+Decoded decodeRecord(const unsigned char* buf, int len)
+{
+    Decoded d;
+    d.form = chooseForm(buf, len, 0, true);
+    if (buf && len >= 1 && buf[0] == kKindFixedPacket)
+        d.form = Form::Orba1;
+    d.page = buildPage(d.form, buf, len);
+    d.className = pageClassName(d.form);
+    return d;
+}
+
+Decoded decodeRecord(const QByteArray& record)
+{
+    return decodeRecord(reinterpret_cast<const unsigned char*>(record.constData()), record.size());
 }
 
 } // namespace orba

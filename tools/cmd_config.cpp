@@ -25,29 +25,13 @@ void count(const CXmlTagV2* tag, Counts& c)
         count(child, c);
 }
 
-QString quoted(const QString& text)
-{
-    const QString s = substituteEach(
-        text, { { "\\", "\\\\" }, { "\"", "\\\"" }, { "\n", "\\n" }, { "\r", "\\r" }, { "\t", "\\t" } });
-    // Other control characters (a name read back from "_1095_" holds one) are shown by code.
-    QString shown;
-    for (const QChar c : s) {
-        const ushort u = c.unicode();
-        if (u < 0x20 || (u >= 0x7F && u < 0xA0))
-            shown += QStringLiteral("\\u%1").arg(u, 4, 16, QLatin1Char('0'));
-        else
-            shown += c;
-    }
-    return QLatin1Char('"') + shown + QLatin1Char('"');
-}
-
 void dump(const CXmlTagV2* tag, int depth, QTextStream& out)
 {
-    out << depth << ' ' << tag->type << ' ' << quoted(tag->name);
+    out << depth << ' ' << tag->type << ' ' << jsonQuoted(tag->name);
     if (!tag->value.isEmpty())
-        out << " text=" << quoted(tag->value);
+        out << " text=" << jsonQuoted(tag->value);
     for (const CXmlTagV2* a : tag->values)
-        out << ' ' << a->name << '=' << quoted(a->value);
+        out << ' ' << a->name << '=' << jsonQuoted(a->value);
     out << '\n';
     for (const CXmlTagV2* child : tag->children)
         dump(child, depth + 1, out);

@@ -5,6 +5,7 @@
 #include "config_model/common_routines.h"
 #include "config_model/cp1251.h"
 #include "device/common_functions.h"
+#include "zrk/zrk_text.h"
 
 #include <QFile>
 
@@ -19,26 +20,6 @@ const char* const kPacketUsage
 const char* const kCrcUsage = "  crc8|crc16|crc32 FILE           the file's check sum in hex\n";
 
 namespace {
-
-bool isHexDigit(QChar c)
-{
-    return (c >= QLatin1Char('0') && c <= QLatin1Char('9'))
-        || (c >= QLatin1Char('a') && c <= QLatin1Char('f'))
-        || (c >= QLatin1Char('A') && c <= QLatin1Char('F'));
-}
-
-// Strict hex: pairs of digits, nothing else. QByteArray::fromHex skips bad characters silently.
-bool parseHex(const QString& text, QByteArray& out)
-{
-    if (text.size() % 2 != 0)
-        return false;
-    for (const QChar c : text) {
-        if (!isHexDigit(c))
-            return false;
-    }
-    out = QByteArray::fromHex(text.toLatin1());
-    return true;
-}
 
 // The whole file, or an error text.
 bool readFile(const QString& path, QByteArray& data, QString& error)
@@ -90,9 +71,9 @@ int packetBuild(const QStringList& args, QTextStream& out, QTextStream& err)
     if (args.size() == 3) {
         if (args.at(1) != QLatin1String("--args"))
             return fail(err, QStringLiteral("unexpected '%1' (expected --args HEX)").arg(args.at(1)), 2);
-        if (!parseHex(args.at(2), binary))
-            return fail(
-                err, QStringLiteral("--args: '%1' is not a sequence of hex byte pairs").arg(args.at(2)));
+        QString why;
+        if (!zrk::parseHex(args.at(2), binary, &why))
+            return fail(err, QStringLiteral("--args: bad hex: %1").arg(why));
     }
     QByteArray packet;
     if (!commonFunctions::getHeaderCommand(args.at(0), binary, packet)) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QStringList>
 #include <QTextStream>
 
@@ -16,8 +18,17 @@ int runPacketCommand(const QString& name, const QStringList& args, QTextStream& 
 int runCrcCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
 int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
 int runConfigCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
+int runTmiCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
 
 extern const char* const kPacketUsage;
 extern const char* const kCrcUsage;
 extern const char* const kDecodeUsage;
 extern const char* const kConfigUsage;
+extern const char* const kTmiUsage;
+
+// A text as a JSON string literal, escaped by Qt's JSON writer.
+inline QString jsonQuoted(const QString& text)
+{
+    const QByteArray array = QJsonDocument(QJsonArray { text }).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(array.mid(1, array.size() - 2));
+}

@@ -219,5 +219,19 @@ struct szAccelReset;
 struct szCmdAccelParam;
 struct szBluetoothDevice;
 struct szSDFile;
-struct szQueryTaho;
 struct szCmndAINF;
+
+// wParam of 2352 (tachograph file request): which file and the period it covers.
+struct szQueryTaho
+{
+    qint32 fileKind = 0; // 1 = vehicle unit file, 2 = driver card file
+    qint64 fromUnix = 0; // Unix seconds, UTC
+    qint64 toUnix = 0;
+};
+
+// wParam of 2410 (request fuel-sensor data): the sensor and the query, as two texts.
+struct szQueryFlsData
+{
+    QString sensor;
+    QString query;
+};

@@ -118,7 +118,7 @@ private slots:
         QTest::newRow("version 3, mode 5") << QByteArray("\xB0\x1E", 2) << 5 << false << int(F::Orba3);
         QTest::newRow("version 40 shown") << QByteArray("\xB0\x28", 2) << 0 << true << int(F::Unknown);
         QTest::newRow("version 40 dropped") << QByteArray("\xB0\x28", 2) << 0 << false << int(F::Dropped);
-        QTest::newRow("fixed packet kind shown") << QByteArray("\x08\x0A", 2) << 0 << true << int(F::Unknown);
+        QTest::newRow("fixed packet as version 1") << QByteArray("\x08\x0A", 2) << 0 << false << int(F::Orba1);
         QTest::newRow("kind 0 dropped") << QByteArray(40, '\0') << 0 << false << int(F::Dropped);
     }
 

@@ -108,9 +108,9 @@ private slots:
             const int eq = e.indexOf(QLatin1Char('='));
             QCOMPARE(at(r.out, e.left(eq)), e.mid(eq + 1));
         }
-        if (record.size() > 34 && record[1] == char(30)) // beyond a double's precision: written whole
-            QVERIFY(
-                r.out.contains("\"name\":\"User8Byte3\",\"present\":true,\"value\":9223372036854775809,"));
+        if (record.size() > 34
+            && record[1] == char(30)) // beyond a double's precision: written whole, as text
+            QVERIFY(r.out.contains("\"value\":\"9223372036854775809\""));
         if (record[0] == char(0xB1))
             QVERIFY(at(r.out, "xml")
                         .contains(QStringLiteral(
@@ -127,10 +127,10 @@ private slots:
         QCOMPARE(l.size(), 4);
         QCOMPARE(at(l[0], "page"), QStringLiteral("TmiPage_Orba2"));
         QCOMPARE(at(l[1], "page"), QStringLiteral("TmiPage_Orba3"));
-        QCOMPARE(l[2], QByteArray("{\"kind\":176,\"version\":40,\"length\":3,\"page\":\"unknown\"}"));
+        QCOMPARE(l[2], QByteArray("{\"kind\":176,\"length\":3,\"page\":\"unknown\",\"version\":40}"));
         QCOMPARE(at(l[3], "page"), QStringLiteral("TmiPage_Orba1"));
         QCOMPARE(decode({ QStringLiteral("-") }, "b1\n").out,
-            QByteArray("{\"kind\":177,\"version\":null,\"length\":1,\"page\":\"unknown\"}\n"));
+            QByteArray("{\"kind\":177,\"length\":1,\"page\":\"unknown\",\"version\":null}\n"));
     }
 
     void csv()

@@ -1,0 +1,51 @@
+#include "telemetry/zrk_form_tmi_ext.h"
+
+#include "telemetry/tmipage_orba3.h"
+#include "ui_zrk_form_tmi_ext.h"
+
+#include <QTextStream>
+
+ZRK_Form_TMI_Ext::ZRK_Form_TMI_Ext(QWidget* parent)
+    : QWidget(parent)
+    , ui(new Ui::ZRK_Designer_Form_TMI_Ext)
+{
+    ui->setupUi(this);
+    setObjectName(QStringLiteral("ZRK_Form_TMI_Ext"));
+    ui->ExtXml->setFont(QFont(QStringLiteral("Monospace"), 9));
+    // One row per head value, made once; a record changes only their texts.
+    for (int id = 0; id < orba::kExtCount; ++id)
+        new QTreeWidgetItem(ui->ExtHead, QStringList { QString::fromLatin1(orba::kExtFields[id].name), QString() });
+    ui->ExtHead->header()->resizeSection(0, 180);
+}
+
+ZRK_Form_TMI_Ext::~ZRK_Form_TMI_Ext() = default;
+
+void ZRK_Form_TMI_Ext::setPage(const TmiPage_Orba3& page)
+{
+    for (int id = 0; id < orba::kExtCount; ++id) {
+        QTreeWidgetItem* item = ui->ExtHead->topLevelItem(id);
+        const QString text = orba::extFieldText(id, page.extTMI());
+        if (item->text(1) != text)
+            item->setText(1, text);
+    }
+    ui->ExtDynamic->clear();
+    for (const orba::DynamicItem& d : page.getDynamicItems_Ext()) {
+        const QString value = d.type == 2 ? d.text : QString::number(d.number);
+        new QTreeWidgetItem(ui->ExtDynamic, QStringList { QString::number(d.type), QString::number(d.size), value });
+    }
+    QString xml;
+    QTextStream out(&xml);
+    page.getXmlPageExt(out);
+    out.flush();
+    ui->ExtXml->setPlainText(xml);
+}
+
+QString ZRK_Form_TMI_Ext::xmlText() const
+{
+    return ui->ExtXml->toPlainText();
+}
+
+int ZRK_Form_TMI_Ext::dynamicCount() const
+{
+    return ui->ExtDynamic->topLevelItemCount();
+}
