@@ -10,11 +10,16 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QMetaMethod>
 #include <QSlider>
+#include <QTimer>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -44,6 +49,36 @@ bool click(QWidget* in, const char* objectName)
 bool hasMethod(const QObject* o, const char* signature)
 {
     return o->metaObject()->indexOfMethod(QMetaObject::normalizedSignature(signature).constData()) >= 0;
+}
+
+// For a few seconds, answers the modal dialogs a save brings up: the file dialog gets `file` and
+// is accepted; a message box (a failed save) is logged and closed, so the session goes on.
+void answerFileDialog(const QString& file)
+{
+    auto* poll = new QTimer;
+    auto tries = std::make_shared<int>(0);
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, tries, file] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (auto* dialog = qobject_cast<QFileDialog*>(modal)) {
+            // The folder first: a whole path in selectFile leaves the dialog on the folder alone.
+            dialog->setDirectory(QFileInfo(file).absolutePath());
+            dialog->selectFile(QFileInfo(file).fileName());
+            if (auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+                edit->setText(QFileInfo(file).fileName()); // what a user types
+            static_cast<QDialog*>(dialog)->done(QDialog::Accepted); // as if the user pressed Save
+        } else if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+            std::fprintf(stderr, "zrk-host demo: the view says: %s\n", qPrintable(box->text()));
+            box->accept();
+        } else if (auto* other = qobject_cast<QDialog*>(modal)) {
+            note("an unexpected dialog came up while saving; it is closed");
+            other->reject();
+        }
+        if (++*tries > 80) {
+            poll->stop();
+            poll->deleteLater();
+        }
+    });
+    poll->start(100);
 }
 
 } // namespace
@@ -90,10 +125,18 @@ void ZrkDemoSession::runTelemetrySteps()
     // Save what the view holds, then open it in both viewers.
     const QString file = QDir(m_directory).absoluteFilePath(QStringLiteral("demo.tmi"));
     QFile::remove(file);
-    if (hasMethod(view, "WriteTmiToFile(QString)"))
+    if (hasMethod(view, "WriteTmiToFile(QString)")) {
         QMetaObject::invokeMethod(view, "WriteTmiToFile", Q_ARG(QString, file));
-    else
-        note("the view has no slot WriteTmiToFile(QString); saving skipped");
+    } else if (button(view, "SaveFile")) {
+        // Qt's own dialog, which the session can fill; a platform one would wait for a person.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        // The user's way: the save button, then the file dialog it opens, filled and accepted.
+        answerFileDialog(file);
+        click(view, "SaveFile");
+        settle(300);
+    } else {
+        note("the view has neither WriteTmiToFile(QString) nor a SaveFile button; saving skipped");
+    }
     if (!QFileInfo::exists(file)) {
         note("no .tmi was written; the viewer steps are skipped");
         view->hide();
