@@ -1115,5 +1115,1631 @@
         <source>Параметр пользователя 8 байт, №3</source>
         <translation>User parameter, 8 bytes, no. 3</translation>
     </message>
+    <message id="abou_003">
+        <source>Модуль терминала %1
+Версия %2.%3.%4, сборка %5
+Версия библиотеки %6
+Собран %7</source>
+        <translation>Terminal module %1
+Version %2.%3.%4, build %5
+Library version %6
+Built %7</translation>
+    </message>
+    <message id="geod_001">
+        <source>Слишком много геозон: %1 (терминал хранит не более %2).</source>
+        <translation>Too many geo-zones: %1 (this terminal keeps at most %2).</translation>
+    </message>
+    <message id="geod_002">
+        <source>Слишком много маршрутов: %1 (терминал хранит не более %2).</source>
+        <translation>Too many routes: %1 (this terminal keeps at most %2).</translation>
+    </message>
+    <message id="geod_003">
+        <source>В маршруте %1 остановок: %2 (не более %3 на маршрут).</source>
+        <translation>Route %1 has %2 stops (at most %3 per route).</translation>
+    </message>
+    <message id="geod_004">
+        <source>Слишком много скоростных зон: %1 (терминал хранит не более %2).</source>
+        <translation>Too many speed zones: %1 (this terminal keeps at most %2).</translation>
+    </message>
+    <message id="geod_005">
+        <source>Слишком много звуковых файлов: %1 (не более %2).</source>
+        <translation>Too many sound files: %1 (at most %2).</translation>
+    </message>
+    <message id="geod_006">
+        <source>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</source>
+        <translation>Geo-zone &quot;%1&quot;: id %2 is outside 1..%3.</translation>
+    </message>
+    <message id="geod_007">
+        <source>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</source>
+        <translation>Geo-zone %1: radius %2 m is outside %3..%4 m.</translation>
+    </message>
+    <message id="geod_008">
+        <source>Геозона %1: координаты %2, %3 вне земного шара.</source>
+        <translation>Geo-zone %1: coordinates %2, %3 are off the globe.</translation>
+    </message>
+    <message id="geod_009">
+        <source>Номер геозоны %1 встречается дважды.</source>
+        <translation>Geo-zone id %1 is used twice.</translation>
+    </message>
+    <message id="geod_010">
+        <source>Маршрут %1: остановка ссылается на несуществующую геозону %2.</source>
+        <translation>Route %1: a stop refers to geo-zone %2, which does not exist.</translation>
+    </message>
+    <message id="geod_020">
+        <source>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</source>
+        <translation>the node &quot;%1&quot; declares %2 records but holds %3</translation>
+    </message>
+    <message id="geod_021">
+        <source>геозона %1: &quot;%2&quot; не является координатой</source>
+        <translation>geo-zone %1: &quot;%2&quot; is not a coordinate</translation>
+    </message>
+    <message id="geod_022">
+        <source>версия файла %1 новее, чем читает эта программа (%2)</source>
+        <translation>version %1 of the file is newer than this program reads (%2)</translation>
+    </message>
+    <message id="geod_023">
+        <source>маршрут %1 объявляет остановок: %2, а содержит: %3</source>
+        <translation>route %1 declares %2 stops but holds %3</translation>
+    </message>
+    <message id="geod_024">
+        <source>Не удалось открыть файл геоинформации &quot;%1&quot;: %2.</source>
+        <translation>Cannot open the geo-information file &quot;%1&quot;: %2.</translation>
+    </message>
+    <message id="geod_025">
+        <source>Не удалось записать файл &quot;%1&quot;: %2.</source>
+        <translation>Cannot write the file &quot;%1&quot;: %2.</translation>
+    </message>
+    <message id="geod_026">
+        <source>файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, но не читает; сохраните данные заново в новом формате</source>
+        <translation>the file is in the old geo-information format (PARAMAINF), which this program recognises but does not read; save the data again in the new format</translation>
+    </message>
+    <message id="geod_027">
+        <source>это не файл геоинформации (нет корня &quot;AINF&quot;)</source>
+        <translation>it is not a geo-information file (no &quot;AINF&quot; root)</translation>
+    </message>
+    <message id="geod_028">
+        <source>файл больше %1 МБ</source>
+        <translation>the file is larger than %1 MB</translation>
+    </message>
+    <message id="geod_029">
+        <source>текст не является правильным XML (%1)</source>
+        <translation>the text is not well-formed XML (%1)</translation>
+    </message>
+    <message id="geod_030">
+        <source>Не удалось создать папку &quot;%1&quot;.</source>
+        <translation>Cannot create the folder &quot;%1&quot;.</translation>
+    </message>
+    <message id="geod_040">
+        <source>Не удалось прочитать файл KML &quot;%1&quot;: %2.</source>
+        <translation>Cannot read the KML file &quot;%1&quot;: %2.</translation>
+    </message>
+    <message id="geod_041">
+        <source>файл больше %1 МБ</source>
+        <translation>the file is larger than %1 MB</translation>
+    </message>
+    <message id="geod_042">
+        <source>файл объявляет DTD или сущности, которые в KML не используются</source>
+        <translation>the file declares a DTD or entities, which KML does not use</translation>
+    </message>
+    <message id="geod_043">
+        <source>вложенность элементов глубже %1 уровней</source>
+        <translation>elements are nested deeper than %1 levels</translation>
+    </message>
+    <message id="geod_044">
+        <source>корневой элемент &quot;%1&quot;, а не &quot;kml&quot;</source>
+        <translation>the root element is &quot;%1&quot;, not &quot;kml&quot;</translation>
+    </message>
+    <message id="geod_045">
+        <source>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</source>
+        <translation>placemark &quot;%1&quot;: the coordinates &quot;%2&quot; cannot be read</translation>
+    </message>
+    <message id="geod_046">
+        <source>строка %1: %2</source>
+        <translation>line %1: %2</translation>
+    </message>
+    <message id="geod_047">
+        <source>файл пуст</source>
+        <translation>the file is empty</translation>
+    </message>
+    <message id="geod_048">
+        <source>В файле &quot;%1&quot; точек: %2; вместе с %3 геозонами списка это больше %4, которые хранит терминал. Ничего не добавлено.</source>
+        <translation>The file &quot;%1&quot; has %2 points; with the %3 geo-zones already in the list that is more than the %4 this terminal keeps. Nothing was added.</translation>
+    </message>
+    <message id="geod_049">
+        <source>Номера геозон 1..%1 все заняты. Ничего не добавлено.</source>
+        <translation>The geo-zone ids 1..%1 are all taken. Nothing was added.</translation>
+    </message>
+    <message id="geod_050">
+        <source>Геозоны</source>
+        <translation>Geo-zones</translation>
+    </message>
+    <message id="geod_051">
+        <source>Геозона %1, радиус %2 м</source>
+        <translation>Geo-zone %1, radius %2 m</translation>
+    </message>
+    <message id="geod_052">
+        <source>Маршруты</source>
+        <translation>Routes</translation>
+    </message>
+    <message id="cfgt3_007">
+        <source>Ставить точки только в движении (правило старт/стоп)</source>
+        <translation>Lay points only while moving (start/stop rule)</translation>
+    </message>
+    <message id="cfgt3_008">
+        <source>Ставить точку при превышении скорости</source>
+        <translation>Lay a point when the speed limit is exceeded</translation>
+    </message>
+    <message id="cfgt3_009">
+        <source>Порог скорости, км/ч</source>
+        <translation>Speed limit, km/h</translation>
+    </message>
+    <message id="cfgt3_010">
+        <source>Правило поворота</source>
+        <translation>Turn rule</translation>
+    </message>
+    <message id="cfgt3_013">
+        <source>Угол поворота, °</source>
+        <translation>Turn angle, °</translation>
+    </message>
+    <message id="cfgt3_014">
+        <source>Ставить точку по расстоянию, м</source>
+        <translation>Lay a point by distance, m</translation>
+    </message>
+    <message id="cfgt3_015">
+        <source>Расстояние, м</source>
+        <translation>Distance, m</translation>
+    </message>
+    <message id="cfgt3_016">
+        <source>Ставить точку по таймеру в движении, с</source>
+        <translation>Lay a point by timer while moving, s</translation>
+    </message>
+    <message id="cfgt3_017">
+        <source>Таймер в движении, с</source>
+        <translation>Timer while moving, s</translation>
+    </message>
+    <message id="cfgt3_018">
+        <source>Признаки движения для таймера</source>
+        <translation>Movement signs for the timer</translation>
+    </message>
+    <message id="cfgt3_023">
+        <source>Таймер на стоянке, с</source>
+        <translation>Timer while stopped, s</translation>
+    </message>
+    <message id="cfgt3_025">
+        <source>Не ставить точки ближе, м</source>
+        <translation>No points closer than, m</translation>
+    </message>
+    <message id="cfgt3_026">
+        <source>Минимальное расстояние между точками, м</source>
+        <translation>Minimum distance between points, m</translation>
+    </message>
+    <message id="cfgt3_027">
+        <source>Не ставить точки чаще, с</source>
+        <translation>No points more often than, s</translation>
+    </message>
+    <message id="cfgt3_028">
+        <source>Минимальный интервал между точками, с</source>
+        <translation>Minimum interval between points, s</translation>
+    </message>
+    <message id="cfgt3_029">
+        <source>Фильтр координат</source>
+        <translation>Coordinate filter</translation>
+    </message>
+    <message id="cfgt3_031">
+        <source>Минимум спутников</source>
+        <translation>Minimum satellites</translation>
+    </message>
+    <message id="cfgt3_032">
+        <source>Максимальный HDOP</source>
+        <translation>Maximum HDOP</translation>
+    </message>
+    <message id="cfgt3_033">
+        <source>Максимальная скорость, км/ч</source>
+        <translation>Maximum speed, km/h</translation>
+    </message>
+    <message id="cfgt3_034">
+        <source>Максимальное ускорение</source>
+        <translation>Maximum acceleration</translation>
+    </message>
+    <message id="cfgt3_035">
+        <source>Максимальный скачок, м</source>
+        <translation>Maximum jump, m</translation>
+    </message>
+    <message id="cfgt3_036">
+        <source>Отбраковок подряд, не более</source>
+        <translation>Rejections in a row, at most</translation>
+    </message>
+    <message id="cfgt3_037">
+        <source>Минимальная высота, м</source>
+        <translation>Minimum altitude, m</translation>
+    </message>
+    <message id="cfgt3_038">
+        <source>Максимальная высота, м</source>
+        <translation>Maximum altitude, m</translation>
+    </message>
+    <message id="cfgt3_039">
+        <source>Расхождение с временем сети, с</source>
+        <translation>Difference from network time, s</translation>
+    </message>
+    <message id="cfgt3_040">
+        <source>Координаты на стоянке</source>
+        <translation>Coordinates while stopped</translation>
+    </message>
+    <message id="cfgt3_044">
+        <source>Признаки стоянки</source>
+        <translation>Standstill signs</translation>
+    </message>
+    <message id="cfgt3_051">
+        <source>Режим стоянки</source>
+        <translation>Parking mode</translation>
+    </message>
+    <message id="cfgt3_056">
+        <source>Время до стоянки, с</source>
+        <translation>Time until parking, s</translation>
+    </message>
+    <message id="cfgt3_057">
+        <source>Спутниковые системы</source>
+        <translation>Satellite systems</translation>
+    </message>
+    <message id="cfgt3_058">
+        <source>Помощь A-GPS</source>
+        <translation>A-GPS assistance</translation>
+    </message>
+    <message id="cfgt3_059">
+        <source>Прогноз орбит (EPO)</source>
+        <translation>Orbit prediction (EPO)</translation>
+    </message>
+    <message id="cfgt3_060">
+        <source>Маска возвышения спутников, °</source>
+        <translation>Satellite elevation mask, °</translation>
+    </message>
+    <message id="cfgt3_061">
+        <source>Система координат</source>
+        <translation>Datum</translation>
+    </message>
+    <message id="cfgt3_064">
+        <source>Приёмник</source>
+        <translation>Receiver</translation>
+    </message>
+    <message id="cfgt3_067">
+        <source>Таймер холодного рестарта приёмника</source>
+        <translation>Receiver cold restart timer</translation>
+    </message>
+    <message id="cfgt3_071">
+        <source>Период в движении, с</source>
+        <translation>Period while moving, s</translation>
+    </message>
+    <message id="cfgt3_072">
+        <source>Признаки движения</source>
+        <translation>Movement signs</translation>
+    </message>
+    <message id="cfgt3_073">
+        <source>Период на стоянке, с (0 — выключено)</source>
+        <translation>Period while parked, s (0: off)</translation>
+    </message>
+    <message id="cfgt3_070">
+        <source>Источники</source>
+        <translation>Sources</translation>
+    </message>
+    <message id="cfgt3_069">
+        <source>Позиционирование для телеметрии</source>
+        <translation>Alternative positioning for telemetry</translation>
+    </message>
+    <message id="cfgt3_074">
+        <source>Сервис локации</source>
+        <translation>Locator service</translation>
+    </message>
+    <message id="cfgt3_075">
+        <source>Ключ доступа</source>
+        <translation>Access key</translation>
+    </message>
+    <message id="cfgt3_076">
+        <source>Условие</source>
+        <translation>Condition</translation>
+    </message>
+    <message id="cfgt3_077">
+        <source>Добавлять в телеметрию</source>
+        <translation>Add to telemetry</translation>
+    </message>
+    <message id="cfgt3_078">
+        <source>Фильтр координат локатора</source>
+        <translation>Locator coordinate filter</translation>
+    </message>
+    <message id="cfgt3_079">
+        <source>Предельная скорость, км/ч</source>
+        <translation>Speed limit, km/h</translation>
+    </message>
+    <message id="cfgt3_080">
+        <source>Отбраковок подряд до принятия</source>
+        <translation>Rejections in a row before accepting</translation>
+    </message>
+    <message id="cfgt3_081">
+        <source>Записывать отбракованные координаты</source>
+        <translation>Record rejected positions</translation>
+    </message>
+    <message id="cfgt3_082">
+        <source>Перепроверять по Wi-Fi</source>
+        <translation>Recheck by Wi-Fi</translation>
+    </message>
+    <message id="cfgt3_083">
+        <source>Перепроверять по GNSS</source>
+        <translation>Recheck by GNSS</translation>
+    </message>
+    <message id="cfgt3_084">
+        <source>Фильтр точек доступа</source>
+        <translation>Access point filter</translation>
+    </message>
+    <message id="cfgt3_085">
+        <source>Минимальный уровень точки доступа, дБм</source>
+        <translation>Minimum access point level, dBm</translation>
+    </message>
+    <message id="cfgt3_087">
+        <source>Чёрный список, строка %1</source>
+        <translation>Black list, row %1</translation>
+    </message>
+    <message id="cfgt3_065">
+        <source>При отсутствии координат GNSS</source>
+        <translation>Without a GNSS fix</translation>
+    </message>
+    <message id="cfgt3_066">
+        <source>Всегда</source>
+        <translation>Always</translation>
+    </message>
+    <message id="cfgt3_001">
+        <source>Трек</source>
+        <translation>Track</translation>
+    </message>
+    <message id="cfgt3_100">
+        <source>Диапазон: %1..%2</source>
+        <translation>Range: %1..%2</translation>
+    </message>
+    <message id="cfgt3_102">
+        <source>Диапазон: %1..%2; 0 — выключено</source>
+        <translation>Range: %1..%2; 0: off</translation>
+    </message>
+    <message id="cfgt3_101">
+        <source></source>
+        <translation>When to lay a point</translation>
+    </message>
+    <message id="cfgt3_011">
+        <source></source>
+        <translation>Turn by angle, °</translation>
+    </message>
+    <message id="cfgt3_012">
+        <source></source>
+        <translation>Turn by direction</translation>
+    </message>
+    <message id="cfgt3_019">
+        <source></source>
+        <translation>Input 1</translation>
+    </message>
+    <message id="cfgt3_020">
+        <source></source>
+        <translation>Ignition</translation>
+    </message>
+    <message id="cfgt3_021">
+        <source></source>
+        <translation>Tachometer</translation>
+    </message>
+    <message id="cfgt3_022">
+        <source></source>
+        <translation>Vibration sensor</translation>
+    </message>
+    <message id="cfgt3_024">
+        <source></source>
+        <translation>Point density limits</translation>
+    </message>
+    <message id="cfgt3_002">
+        <source></source>
+        <translation>Track points</translation>
+    </message>
+    <message id="cfgt3_030">
+        <source></source>
+        <translation>Rejection of fixes</translation>
+    </message>
+    <message id="cfgt3_041">
+        <source></source>
+        <translation>No averaging</translation>
+    </message>
+    <message id="cfgt3_042">
+        <source></source>
+        <translation>Average</translation>
+    </message>
+    <message id="cfgt3_043">
+        <source></source>
+        <translation>Fixed point</translation>
+    </message>
+    <message id="cfgt3_049">
+        <source></source>
+        <translation>Accelerometer</translation>
+    </message>
+    <message id="cfgt3_050">
+        <source></source>
+        <translation>Accelerometer (SH5)</translation>
+    </message>
+    <message id="cfgt3_003">
+        <source></source>
+        <translation>Filtering</translation>
+    </message>
+    <message id="cfgt3_104">
+        <source></source>
+        <translation>Parking</translation>
+    </message>
+    <message id="cfgt3_052">
+        <source></source>
+        <translation>By the motion sensor</translation>
+    </message>
+    <message id="cfgt3_053">
+        <source></source>
+        <translation>By the accelerometer settings</translation>
+    </message>
+    <message id="cfgt3_054">
+        <source></source>
+        <translation>Accelerometer…</translation>
+    </message>
+    <message id="cfgt3_055">
+        <source></source>
+        <translation>Parking is detected by the accelerometer</translation>
+    </message>
+    <message id="cfgt3_103">
+        <source></source>
+        <translation>GNSS receiver</translation>
+    </message>
+    <message id="cfgt3_062">
+        <source></source>
+        <translation>WGS-84 (world)</translation>
+    </message>
+    <message id="cfgt3_063">
+        <source></source>
+        <translation>PZ-90</translation>
+    </message>
+    <message id="cfgt3_068">
+        <source></source>
+        <translation>Receiver assistance</translation>
+    </message>
+    <message id="cfgt3_098">
+        <source></source>
+        <translation>Built-in</translation>
+    </message>
+    <message id="cfgt3_099">
+        <source></source>
+        <translation>External</translation>
+    </message>
+    <message id="cfgt3_004">
+        <source></source>
+        <translation>Receiver and parking</translation>
+    </message>
+    <message id="cfgt3_107">
+        <source></source>
+        <translation>Use</translation>
+    </message>
+    <message id="cfgt3_095">
+        <source></source>
+        <translation>No</translation>
+    </message>
+    <message id="cfgt3_096">
+        <source></source>
+        <translation>Coordinates</translation>
+    </message>
+    <message id="cfgt3_097">
+        <source></source>
+        <translation>Coordinates and access points</translation>
+    </message>
+    <message id="cfgt3_086">
+        <source></source>
+        <translation>Black list…</translation>
+    </message>
+    <message id="cfgt3_005">
+        <source></source>
+        <translation>Locator</translation>
+    </message>
+    <message id="cfgt3_088">
+        <source></source>
+        <translation>Wi-Fi access points</translation>
+    </message>
+    <message id="cfgt3_090">
+        <source></source>
+        <translation>Wi-Fi module…</translation>
+    </message>
+    <message id="cfgt3_089">
+        <source></source>
+        <translation>Mobile cells (LBS)</translation>
+    </message>
+    <message id="cfgt3_093">
+        <source></source>
+        <translation>Access point black list</translation>
+    </message>
+    <message id="cfgt3_094">
+        <source></source>
+        <translation>Access point name</translation>
+    </message>
+    <message id="cfgt3_106">
+        <source></source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="cfgt3_105">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="cfgt3_091">
+        <source></source>
+        <translation>While parked</translation>
+    </message>
+    <message id="cfgt3_047">
+        <source>GPS + ГЛОНАСС</source>
+        <translation>GPS + GLONASS</translation>
+    </message>
+    <message id="cfgt3_048">
+        <source>GPS и BeiDou</source>
+        <translation>GPS and BeiDou</translation>
+    </message>
+    <message id="cfgt3_045">
+        <source>Только GPS</source>
+        <translation>GPS only</translation>
+    </message>
+    <message id="cfgt3_046">
+        <source>ГЛОНАСС</source>
+        <translation>GLONASS</translation>
+    </message>
+    <message id="tmio_030">
+        <source>Расширенная запись</source>
+        <translation>Extended record</translation>
+    </message>
+    <message id="tmio_031">
+        <source>Поле</source>
+        <translation>Field</translation>
+    </message>
+    <message id="tmio_032">
+        <source>Значение</source>
+        <translation>Value</translation>
+    </message>
+    <message id="tmio_033">
+        <source>Тип</source>
+        <translation>Type</translation>
+    </message>
+    <message id="tmio_034">
+        <source>Размер</source>
+        <translation>Size</translation>
+    </message>
+    <message id="tmio_001">
+        <source>Основное</source>
+        <translation>Main</translation>
+    </message>
+    <message id="tmio_002">
+        <source>Навигация</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="tmio_003">
+        <source>Питание, входы и выходы</source>
+        <translation>Power, inputs and outputs</translation>
+    </message>
+    <message id="tmio_004">
+        <source>Датчики</source>
+        <translation>Sensors</translation>
+    </message>
+    <message id="tmio_005">
+        <source>Шина CAN</source>
+        <translation>CAN</translation>
+    </message>
+    <message id="tmio_007">
+        <source>Тахограф</source>
+        <translation>Tachograph</translation>
+    </message>
+    <message id="tmio_008">
+        <source>Акселерометр и эко-вождение</source>
+        <translation>Accelerometer and eco-driving</translation>
+    </message>
+    <message id="tmio_009">
+        <source>Пассажиры</source>
+        <translation>Passengers</translation>
+    </message>
+    <message id="tmio_010">
+        <source>Геоинформация</source>
+        <translation>Geo-information</translation>
+    </message>
+    <message id="tmio_011">
+        <source>Датчики расхода топлива</source>
+        <translation>Fuel-flow sensors</translation>
+    </message>
+    <message id="tmio_012">
+        <source>Рефрижератор</source>
+        <translation>Refrigerator</translation>
+    </message>
+    <message id="tmio_013">
+        <source>Пользовательские параметры</source>
+        <translation>User parameters</translation>
+    </message>
+    <message id="tmio_006">
+        <source>Шины</source>
+        <translation>Tyres</translation>
+    </message>
+    <message id="tmio_014">
+        <source>Исходные данные</source>
+        <translation>Raw data</translation>
+    </message>
+    <message id="tmio_020">
+        <source>Номер датчика</source>
+        <translation>Sensor number</translation>
+    </message>
+    <message id="tmio_021">
+        <source>Давление</source>
+        <translation>Pressure</translation>
+    </message>
+    <message id="tmio_022">
+        <source>Температура</source>
+        <translation>Temperature</translation>
+    </message>
+    <message id="tmio_023">
+        <source>Версия %1, набор полей (%2): %3</source>
+        <translation>Version %1, field set (%2): %3</translation>
+    </message>
+    <message id="tmio_024">
+        <source>Тело записи, %1 байт:</source>
+        <translation>Record body, %1 bytes:</translation>
+    </message>
+    <message id="tmio_041">
+        <source>Питание</source>
+        <translation>Power</translation>
+    </message>
+    <message id="tmio_042">
+        <source>Входы 1-8</source>
+        <translation>Inputs 1-8</translation>
+    </message>
+    <message id="tmio_043">
+        <source>Аналоговый вход 1</source>
+        <translation>Analog input 1</translation>
+    </message>
+    <message id="tmio_044">
+        <source>Аналоговый вход 2</source>
+        <translation>Analog input 2</translation>
+    </message>
+    <message id="tmio_045">
+        <source>Выход 1</source>
+        <translation>Output 1</translation>
+    </message>
+    <message id="tmio_046">
+        <source>Выход 2</source>
+        <translation>Output 2</translation>
+    </message>
+    <message id="tmio_047">
+        <source>Спутники</source>
+        <translation>Satellites</translation>
+    </message>
+    <message id="tmio_048">
+        <source>Навигация (фиксация)</source>
+        <translation>Navigation (fix)</translation>
+    </message>
+    <message id="tmio_049">
+        <source>Уровень GSM</source>
+        <translation>GSM level</translation>
+    </message>
+    <message id="tmio_050">
+        <source>Температура 1</source>
+        <translation>Temperature 1</translation>
+    </message>
+    <message id="tmio_051">
+        <source>Температура 2</source>
+        <translation>Temperature 2</translation>
+    </message>
+    <message id="tmio_052">
+        <source>Температура (точная) 1</source>
+        <translation>Temperature (precise) 1</translation>
+    </message>
+    <message id="tmio_040">
+        <source>Проверка на производстве</source>
+        <translation>Production check</translation>
+    </message>
+    <message id="tmio_053">
+        <source>ВКЛ</source>
+        <translation>ON</translation>
+    </message>
+    <message id="tmio_054">
+        <source>выкл</source>
+        <translation>off</translation>
+    </message>
+    <message id="tmiw_043">
+        <source>%1: мин. %2, макс. %3</source>
+        <translation>%1: min %2, max %3</translation>
+    </message>
+    <message id="tmiw_044">
+        <source>%1: нет данных</source>
+        <translation>%1: no data</translation>
+    </message>
+    <message id="tmiw_040">
+        <source>расширенная</source>
+        <translation>extended</translation>
+    </message>
+    <message id="tmiw_041">
+        <source>неизвестная</source>
+        <translation>unknown</translation>
+    </message>
+    <message id="tmiw_042">
+        <source>история</source>
+        <translation>history</translation>
+    </message>
+    <message id="tmiw_001">
+        <source>Текущая запись</source>
+        <translation>Current record</translation>
+    </message>
+    <message id="tmiw_002">
+        <source>◀ Предыдущая</source>
+        <translation>◀ Previous</translation>
+    </message>
+    <message id="tmiw_003">
+        <source>Следующая ▶</source>
+        <translation>Next ▶</translation>
+    </message>
+    <message id="tmiw_004">
+        <source>Показать</source>
+        <translation>Show</translation>
+    </message>
+    <message id="tmiw_005">
+        <source>Смещение от UTC:</source>
+        <translation>UTC offset:</translation>
+    </message>
+    <message id="tmiw_006">
+        <source>Автозапрос</source>
+        <translation>Auto-request</translation>
+    </message>
+    <message id="tmiw_007">
+        <source>Период автозапроса, 1..60 с</source>
+        <translation>Auto-request period, 1..60 s</translation>
+    </message>
+    <message id="tmiw_008">
+        <source>Скрывать отсутствующие поля</source>
+        <translation>Hide absent fields</translation>
+    </message>
+    <message id="tmiw_009">
+        <source>Сохранить…</source>
+        <translation>Save…</translation>
+    </message>
+    <message id="tmiw_010">
+        <source>График</source>
+        <translation>Chart</translation>
+    </message>
+    <message id="tmiw_011">
+        <source>Команды</source>
+        <translation>Commands</translation>
+    </message>
+    <message id="tmiw_012">
+        <source>Журнал</source>
+        <translation>Log</translation>
+    </message>
+    <message id="tmiw_013">
+        <source>Добавить</source>
+        <translation>Add</translation>
+    </message>
+    <message id="tmiw_014">
+        <source>Очистить</source>
+        <translation>Clear</translation>
+    </message>
+    <message id="tmiw_015">
+        <source>Выход</source>
+        <translation>Output</translation>
+    </message>
+    <message id="tmiw_016">
+        <source>Включить</source>
+        <translation>Switch on</translation>
+    </message>
+    <message id="tmiw_017">
+        <source>Выключить</source>
+        <translation>Switch off</translation>
+    </message>
+    <message id="tmiw_018">
+        <source>Охрана</source>
+        <translation>Guard</translation>
+    </message>
+    <message id="tmiw_019">
+        <source>Поставить</source>
+        <translation>Arm</translation>
+    </message>
+    <message id="tmiw_020">
+        <source>Снять</source>
+        <translation>Disarm</translation>
+    </message>
+    <message id="tmiw_021">
+        <source>Очистка</source>
+        <translation>Clearing</translation>
+    </message>
+    <message id="tmiw_022">
+        <source>Очистить</source>
+        <translation>Clear</translation>
+    </message>
+    <message id="tmiw_023">
+        <source>Вывод GNSS/NMEA</source>
+        <translation>GNSS/NMEA output</translation>
+    </message>
+    <message id="tmiw_024">
+        <source>Параметр</source>
+        <translation>Parameter</translation>
+    </message>
+    <message id="tmiw_025">
+        <source>Установить</source>
+        <translation>Set</translation>
+    </message>
+    <message id="tmiw_026">
+        <source>Команда с числом</source>
+        <translation>Command with a number</translation>
+    </message>
+    <message id="tmiw_027">
+        <source>Выполнить</source>
+        <translation>Run</translation>
+    </message>
+    <message id="tmiw_028">
+        <source>Ключ / карта</source>
+        <translation>Key / card</translation>
+    </message>
+    <message id="tmiw_029">
+        <source>Прочитать ключ ТМ</source>
+        <translation>Read touch-memory key</translation>
+    </message>
+    <message id="tmiw_030">
+        <source>Прочитать RFID-карту</source>
+        <translation>Read RFID card</translation>
+    </message>
+    <message id="tmiw_031">
+        <source>Код ключа ТМ</source>
+        <translation>Touch-memory key code</translation>
+    </message>
+    <message id="tmiw_032">
+        <source>Код RFID</source>
+        <translation>RFID code</translation>
+    </message>
+    <message id="tmiw_033">
+        <source>ДУТ: команда</source>
+        <translation>Fuel sensor: command</translation>
+    </message>
+    <message id="tmiw_034">
+        <source>Отправить</source>
+        <translation>Send</translation>
+    </message>
+    <message id="tmiw_035">
+        <source>Прошивка датчика</source>
+        <translation>Sensor firmware</translation>
+    </message>
+    <message id="tmiw_036">
+        <source>Выбрать файл…</source>
+        <translation>Choose file…</translation>
+    </message>
+    <message id="tmiw_037">
+        <source>Тахограф: запрос</source>
+        <translation>Tachograph: query</translation>
+    </message>
+    <message id="tmiw_038">
+        <source>Запросить</source>
+        <translation>Request</translation>
+    </message>
+    <message id="tmiw_039">
+        <source>Тахограф: файл</source>
+        <translation>Tachograph: file</translation>
+    </message>
+    <message id="tmiw_045">
+        <source>Тахограф: чтение файла</source>
+        <translation>Tachograph: read file</translation>
+    </message>
+    <message id="tmiw_046">
+        <source>Прочитать</source>
+        <translation>Read</translation>
+    </message>
+    <message id="tmiw_047">
+        <source>ДУТ: данные</source>
+        <translation>Fuel sensor: data</translation>
+    </message>
+    <message id="tmiw_048">
+        <source>ДУТ: файл данных</source>
+        <translation>Fuel sensor: data file</translation>
+    </message>
+    <message id="tmiw_049">
+        <source>Память записей</source>
+        <translation>Record memory</translation>
+    </message>
+    <message id="tmiw_050">
+        <source>Счётчики</source>
+        <translation>Counters</translation>
+    </message>
+    <message id="tmiw_051">
+        <source>Всё</source>
+        <translation>Everything</translation>
+    </message>
+    <message id="tmiw_052">
+        <source>Бортовое устройство</source>
+        <translation>Vehicle unit</translation>
+    </message>
+    <message id="tmiw_053">
+        <source>Карта водителя</source>
+        <translation>Driver card</translation>
+    </message>
+    <message id="tmiw_054">
+        <source>Номер выхода, 1..8</source>
+        <translation>Output number, 1..8</translation>
+    </message>
+    <message id="tmiw_055">
+        <source>Часы смещения от UTC, -12..14</source>
+        <translation>UTC offset hours, -12..14</translation>
+    </message>
+    <message id="tmiw_056">
+        <source>Минуты смещения, 0..45</source>
+        <translation>UTC offset minutes, 0..45</translation>
+    </message>
+    <message id="tmiw_057">
+        <source>Номер показанной записи</source>
+        <translation>Number of the shown record</translation>
+    </message>
+    <message id="tmiw_058">
+        <source>Число для команды</source>
+        <translation>Number for the command</translation>
+    </message>
+    <message id="tmiw_059">
+        <source>Момент: показать ближайшую запись до него</source>
+        <translation>Moment: show the nearest record before it</translation>
+    </message>
+    <message id="tmiw_060">
+        <source>Числовое поле для графика</source>
+        <translation>Numeric field to plot</translation>
+    </message>
+    <message id="tmiw_061">
+        <source>Текст параметра, например «имя=значение»</source>
+        <translation>Parameter text, e.g. &quot;name=value&quot;</translation>
+    </message>
+    <message id="tmiw_062">
+        <source>Команда датчику уровня топлива</source>
+        <translation>Command to the fuel-level sensor</translation>
+    </message>
+    <message id="tmiw_063">
+        <source>Вид запроса тахографа, 0..255</source>
+        <translation>Tachograph query kind, 0..255</translation>
+    </message>
+    <message id="tmiw_064">
+        <source>Начало периода</source>
+        <translation>Start of the period</translation>
+    </message>
+    <message id="tmiw_065">
+        <source>Конец периода</source>
+        <translation>End of the period</translation>
+    </message>
+    <message id="tmiw_066">
+        <source>Имя файла тахографа</source>
+        <translation>Tachograph file name</translation>
+    </message>
+    <message id="tmiw_067">
+        <source>Датчик</source>
+        <translation>Sensor</translation>
+    </message>
+    <message id="tmiw_068">
+        <source>Запрос</source>
+        <translation>Query</translation>
+    </message>
+    <message id="tmiw_069">
+        <source>Имя файла данных датчика</source>
+        <translation>Sensor data file name</translation>
+    </message>
+    <message id="tmiw_070">
+        <source>Запросите текущую запись</source>
+        <translation>Request the current record</translation>
+    </message>
+    <message id="tmiw_071">
+        <source>Записи этого сеанса; щелчок показывает запись</source>
+        <translation>Records of this session; click one to show it</translation>
+    </message>
+    <message id="tmiw_080">
+        <source>Удалённый сеанс с терминалом завершён</source>
+        <translation>Remote session with the terminal ended</translation>
+    </message>
+    <message id="tmiw_081">
+        <source>Терминал подключён</source>
+        <oldsource>Терминал подключёнТерминал не подключён</oldsource>
+        <translation>Terminal connected</translation>
+    </message>
+    <message id="tmiw_082">
+        <source>Терминал не подключён</source>
+        <translation>Terminal not connected</translation>
+    </message>
+    <message id="tmiw_083">
+        <source>Параметры конфигурации: %1</source>
+        <translation>Configuration parameters: %1</translation>
+    </message>
+    <message id="tmiw_084">
+        <source>Запрос режима проверки</source>
+        <translation>Test mode query</translation>
+    </message>
+    <message id="tmiw_223">
+        <source>Неизвестный тип записи</source>
+        <translation>Unknown record type</translation>
+    </message>
+    <message id="tmiw_085">
+        <source>Получена: %1</source>
+        <translation>Received: %1</translation>
+    </message>
+    <message id="tmiw_086">
+        <source>время записи: %1</source>
+        <translation>record time: %1</translation>
+    </message>
+    <message id="tmiw_087">
+        <source>возраст координат: %1 %2</source>
+        <translation>position age: %1 %2</translation>
+    </message>
+    <message id="abbr_003">
+        <source>с</source>
+        <translation>s</translation>
+    </message>
+    <message id="tmiw_088">
+        <source>координат нет</source>
+        <translation>no position</translation>
+    </message>
+    <message id="tmiw_089">
+        <source>ИЗ ИСТОРИИ (по номеру)</source>
+        <translation>FROM HISTORY (by number)</translation>
+    </message>
+    <message id="tmiw_090">
+        <source>ИЗ ИСТОРИИ (по времени)</source>
+        <translation>FROM HISTORY (by time)</translation>
+    </message>
+    <message id="tmiw_091">
+        <source>Команда терминалу</source>
+        <translation>Command to the terminal</translation>
+    </message>
+    <message id="tmiw_092">
+        <source>Включить выход %1?</source>
+        <translation>Switch output %1 on?</translation>
+    </message>
+    <message id="tmiw_093">
+        <source>Выключить выход %1?</source>
+        <translation>Switch output %1 off?</translation>
+    </message>
+    <message id="tmiw_094">
+        <source>Поставить терминал на охрану?</source>
+        <translation>Arm the terminal&apos;s guard mode?</translation>
+    </message>
+    <message id="tmiw_095">
+        <source>Снять терминал с охраны?</source>
+        <translation>Disarm the terminal&apos;s guard mode?</translation>
+    </message>
+    <message id="tmiw_096">
+        <source>Выполнить «%1»? Данные терминала будут удалены.</source>
+        <translation>Run &quot;%1&quot;? The terminal&apos;s data will be deleted.</translation>
+    </message>
+    <message id="tmiw_097">
+        <source>Файл прошивки датчика</source>
+        <translation>Sensor firmware file</translation>
+    </message>
+    <message id="tmiw_098">
+        <source>Записать прошивку %1 в датчик? Датчик будет недоступен до конца записи.</source>
+        <translation>Write firmware %1 to the sensor? The sensor is unavailable until it is written.</translation>
+    </message>
+    <message id="tmiw_099">
+        <source>Значение параметра</source>
+        <translation>Parameter value</translation>
+    </message>
+    <message id="tmiw_100">
+        <source>Ответ на команду</source>
+        <translation>Command reply</translation>
+    </message>
+    <message id="tmiw_101">
+        <source>Ответ датчика топлива</source>
+        <translation>Fuel sensor reply</translation>
+    </message>
+    <message id="tmiw_102">
+        <source>Параметры прошивки датчика</source>
+        <translation>Sensor firmware parameters</translation>
+    </message>
+    <message id="tmiw_103">
+        <source>Ключ ТМ: %1</source>
+        <translation>Touch-memory key: %1</translation>
+    </message>
+    <message id="tmiw_104">
+        <source>Получены значения АЦП универсальных входов</source>
+        <translation>Universal input A/D values received</translation>
+    </message>
+    <message id="tmiw_105">
+        <source>Текущее значение дисплея: %1</source>
+        <translation>Current display value: %1</translation>
+    </message>
+    <message id="tmiw_106">
+        <source>RFID-карта: %1 (%2)</source>
+        <translation>RFID card: %1 (%2)</translation>
+    </message>
+    <message id="tmiw_107">
+        <source>Ответ тахографа</source>
+        <translation>Tachograph reply</translation>
+    </message>
+    <message id="tmiw_108">
+        <source>Файл тахографа прочитан</source>
+        <oldsource>Файл тахографа прочитанФайл тахографа не прочитан</oldsource>
+        <translation>Tachograph file read</translation>
+    </message>
+    <message id="tmiw_109">
+        <source>Файл тахографа не прочитан</source>
+        <translation>Tachograph file not read</translation>
+    </message>
+    <message id="tmiw_110">
+        <source>Ответ на запрос файла данных датчика</source>
+        <translation>Sensor data file query reply</translation>
+    </message>
+    <message id="tmiw_111">
+        <source>Файл данных датчика прочитан</source>
+        <oldsource>Файл данных датчика прочитанФайл данных датчика не прочитан</oldsource>
+        <translation>Sensor data file read</translation>
+    </message>
+    <message id="tmiw_112">
+        <source>Файл данных датчика не прочитан</source>
+        <translation>Sensor data file not read</translation>
+    </message>
+    <message id="tmiw_114">
+        <source>Сохранить записи телеметрии</source>
+        <oldsource>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</oldsource>
+        <translation>Save telemetry records</translation>
+    </message>
+    <message id="tmiw_115">
+        <source>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
+        <translation>Telemetry (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
+    </message>
+    <message id="abou_001">
+        <source></source>
+        <translation>Parameter information</translation>
+    </message>
+    <message id="abou_002">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="iopr_001">
+        <source></source>
+        <translation>Please wait</translation>
+    </message>
+    <message id="iopr_003">
+        <source></source>
+        <translation>Done:</translation>
+    </message>
+    <message id="iopr_004">
+        <source></source>
+        <translation>Total:</translation>
+    </message>
+    <message id="iopr_005">
+        <source></source>
+        <translation>Time:</translation>
+    </message>
+    <message id="iopr_006">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="cfgo_001">
+        <source>Основные</source>
+        <translation>Main</translation>
+    </message>
+    <message id="cfgo_002">
+        <source>Навигация</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="cfgo_003">
+        <source>Датчики RS</source>
+        <translation>RS sensors</translation>
+    </message>
+    <message id="cfgo_004">
+        <source>Шина CAN</source>
+        <translation>CAN</translation>
+    </message>
+    <message id="cfgo_005">
+        <source>Тахограф</source>
+        <translation>Tachograph</translation>
+    </message>
+    <message id="cfgo_006">
+        <source>Дополнительно</source>
+        <translation>More</translation>
+    </message>
+    <message id="cfgo_007">
+        <source>Акселерометр</source>
+        <translation>Accelerometer</translation>
+    </message>
+    <message id="cfgo_008">
+        <source>Расходомер</source>
+        <translation>Flow meter</translation>
+    </message>
+    <message id="cfgo_009">
+        <source>Рефрижератор</source>
+        <translation>Refrigerator</translation>
+    </message>
+    <message id="cfgo_010">
+        <source>Пользовательские</source>
+        <translation>User</translation>
+    </message>
+    <message id="cfgo_015">
+        <source>Поле %1, размер в записи: %2 байт</source>
+        <translation>Field %1, %2 byte(s) in the record</translation>
+    </message>
+    <message id="cfgo_050">
+        <source>Запись и состояние терминала</source>
+        <translation>Record and terminal state</translation>
+    </message>
+    <message id="cfgo_051">
+        <source>Питание</source>
+        <translation>Power</translation>
+    </message>
+    <message id="cfgo_052">
+        <source>Аналоговые входы</source>
+        <translation>Analogue inputs</translation>
+    </message>
+    <message id="cfgo_053">
+        <source>Дискретные входы и выходы</source>
+        <translation>Discrete inputs and outputs</translation>
+    </message>
+    <message id="cfgo_054">
+        <source>Счётчики импульсов и частота</source>
+        <translation>Pulse counters and frequency</translation>
+    </message>
+    <message id="cfgo_055">
+        <source>Моточасы</source>
+        <translation>Engine hours</translation>
+    </message>
+    <message id="cfgo_056">
+        <source>Температура</source>
+        <translation>Temperature</translation>
+    </message>
+    <message id="cfgo_057">
+        <source>Координаты и движение</source>
+        <translation>Position and motion</translation>
+    </message>
+    <message id="cfgo_058">
+        <source>Навигационный приёмник</source>
+        <translation>Navigation receiver</translation>
+    </message>
+    <message id="cfgo_059">
+        <source>Базовые станции</source>
+        <translation>Mobile cells</translation>
+    </message>
+    <message id="cfgo_060">
+        <source>ДУТ RS-485 1–6 и RS-232</source>
+        <translation>RS-485 fuel sensors 1–6 and RS-232</translation>
+    </message>
+    <message id="cfgo_061">
+        <source>Температура ДУТ RS-485</source>
+        <translation>RS-485 fuel sensor temperature</translation>
+    </message>
+    <message id="cfgo_062">
+        <source>ДУТ RS-485 7–16</source>
+        <translation>RS-485 fuel sensors 7–16</translation>
+    </message>
+    <message id="cfgo_063">
+        <source>Частота ДУТ RS-485</source>
+        <translation>RS-485 fuel sensor frequency</translation>
+    </message>
+    <message id="cfgo_064">
+        <source>Данные шины CAN</source>
+        <translation>CAN bus data</translation>
+    </message>
+    <message id="cfgo_065">
+        <source>Состояние систем ТС по CAN</source>
+        <translation>Vehicle systems over CAN</translation>
+    </message>
+    <message id="cfgo_066">
+        <source>Данные тахографа</source>
+        <translation>Tachograph data</translation>
+    </message>
+    <message id="cfgo_021">
+        <source>Датчики давления в шинах</source>
+        <translation>Tyre pressure sensors</translation>
+    </message>
+    <message id="cfgo_067">
+        <source>Диспетчерские сообщения</source>
+        <translation>Dispatcher messages</translation>
+    </message>
+    <message id="cfgo_068">
+        <source>Пассажиропоток</source>
+        <translation>Passenger counters</translation>
+    </message>
+    <message id="cfgo_069">
+        <source>Автоинформатор</source>
+        <translation>Route announcer</translation>
+    </message>
+    <message id="cfgo_070">
+        <source>Камера и акселерометр ТС</source>
+        <translation>Camera and vehicle accelerometer</translation>
+    </message>
+    <message id="cfgo_071">
+        <source>Точная температура</source>
+        <translation>High-precision temperature</translation>
+    </message>
+    <message id="cfgo_072">
+        <source>Влажность</source>
+        <translation>Humidity</translation>
+    </message>
+    <message id="cfgo_022">
+        <source>Нет</source>
+        <translation>None</translation>
+    </message>
+    <message id="cfgo_028">
+        <source>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</source>
+        <translation>Fields 94–97: tyres 1–2, 3–6, 7–14 and 15–30</translation>
+    </message>
+    <message id="cfgo_073">
+        <source>Акселерометр терминала</source>
+        <translation>Terminal accelerometer</translation>
+    </message>
+    <message id="cfgo_074">
+        <source>Акселерометр ТС и эко-вождение</source>
+        <translation>Vehicle accelerometer and eco-driving</translation>
+    </message>
+    <message id="cfgo_075">
+        <source>Расходомер топлива</source>
+        <translation>Fuel flow meter</translation>
+    </message>
+    <message id="cfgo_076">
+        <source>Рефрижераторная установка</source>
+        <translation>Refrigerator unit</translation>
+    </message>
+    <message id="cfgo_077">
+        <source>Параметры 1 байт</source>
+        <translation>1-byte parameters</translation>
+    </message>
+    <message id="cfgo_078">
+        <source>Параметры 2 байта</source>
+        <translation>2-byte parameters</translation>
+    </message>
+    <message id="cfgo_079">
+        <source>Параметры 4 байта</source>
+        <translation>4-byte parameters</translation>
+    </message>
+    <message id="cfgo_080">
+        <source>Параметры 8 байт</source>
+        <translation>8-byte parameters</translation>
+    </message>
+    <message id="cfgo_023">
+        <source>Целое без знака</source>
+        <translation>Unsigned integer</translation>
+    </message>
+    <message id="cfgo_024">
+        <source>Целое со знаком</source>
+        <translation>Signed integer</translation>
+    </message>
+    <message id="cfgo_025">
+        <source>Шестнадцатеричное</source>
+        <translation>Hexadecimal</translation>
+    </message>
+    <message id="cfgo_026">
+        <source>С плавающей точкой</source>
+        <translation>Floating point</translation>
+    </message>
+    <message id="cfgo_027">
+        <source>Название параметра</source>
+        <translation>Parameter name</translation>
+    </message>
+    <message id="cfgo_014">
+        <source>Запись</source>
+        <translation>Record</translation>
+    </message>
+    <message id="cfgo_011">
+        <source>ORBA 1 (поля 1–69)</source>
+        <translation>ORBA 1 (fields 1–69)</translation>
+    </message>
+    <message id="cfgo_012">
+        <source>ORBA 2 (поля 1–122)</source>
+        <translation>ORBA 2 (fields 1–122)</translation>
+    </message>
+    <message id="cfgo_013">
+        <source>ORBA 3 (поля 1–255)</source>
+        <translation>ORBA 3 (fields 1–255)</translation>
+    </message>
+    <message id="cfgo_017">
+        <source>По вкладкам, байт: %1</source>
+        <translation>By tab, bytes: %1</translation>
+    </message>
+    <message id="cfgo_016">
+        <source>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</source>
+        <translation>The record takes %1 bytes, more than the %2 allowed: the terminal would not keep such records. Untick some fields.</translation>
+    </message>
+    <message id="cfgo_019">
+        <source>Файл %1 не является конфигурацией с набором полей записи.</source>
+        <translation>The file %1 is not a configuration with a record field set.</translation>
+    </message>
+    <message id="cfgo_018">
+        <source>Набор полей из файла конфигурации</source>
+        <translation>Record field set from a configuration file</translation>
+    </message>
+    <message id="cfgo_020">
+        <source>Файлы конфигурации (*.xml);;Все файлы (*)</source>
+        <translation>Configuration files (*.xml);;All files (*)</translation>
+    </message>
+    <message id="cfgo_029">
+        <source>Ошибка</source>
+        <translation>Error</translation>
+    </message>
+    <message id="cfgo_030">
+        <source></source>
+        <translation>Protocol generation:</translation>
+    </message>
+    <message id="cfgo_031">
+        <source></source>
+        <translation>Which fields the terminal can record: ORBA 1 fields 1–69, ORBA 2 1–122, ORBA 3 1–255</translation>
+    </message>
+    <message id="cfgo_032">
+        <source></source>
+        <translation>Record size, bytes:</translation>
+    </message>
+    <message id="cfgo_033">
+        <source></source>
+        <translation>Sum of the ticked fields' sizes; at most 512 bytes</translation>
+    </message>
+    <message id="cfgo_034">
+        <source></source>
+        <translation>Find a field by name on all tabs</translation>
+    </message>
+    <message id="cfgo_035">
+        <source></source>
+        <translation>Find a field…</translation>
+    </message>
+    <message id="cfgo_036">
+        <source></source>
+        <translation>Ticked only</translation>
+    </message>
+    <message id="cfgo_037">
+        <source></source>
+        <translation>Field sets:</translation>
+    </message>
+    <message id="cfgo_038">
+        <source></source>
+        <translation>Default</translation>
+    </message>
+    <message id="cfgo_039">
+        <source></source>
+        <translation>The fields the terminal records by default</translation>
+    </message>
+    <message id="cfgo_040">
+        <source></source>
+        <translation>Navigation only</translation>
+    </message>
+    <message id="cfgo_041">
+        <source></source>
+        <translation>Number, event, time, position, altitude, speed, course and mileage</translation>
+    </message>
+    <message id="cfgo_042">
+        <source></source>
+        <translation>From a file…</translation>
+    </message>
+    <message id="cfgo_043">
+        <source></source>
+        <translation>Take the field set from another configuration file</translation>
+    </message>
+    <message id="tmif_017">
+        <source>№ в файле</source>
+        <translation>No. in file</translation>
+    </message>
+    <message id="tmif_020">
+        <source>Первая</source>
+        <translation>First</translation>
+    </message>
+    <message id="tmif_021">
+        <source>Предыдущая</source>
+        <translation>Previous</translation>
+    </message>
+    <message id="tmif_022">
+        <source>Следующая</source>
+        <translation>Next</translation>
+    </message>
+    <message id="tmif_023">
+        <source>Последняя</source>
+        <translation>Last</translation>
+    </message>
+    <message id="tmif_024">
+        <source>Номер:</source>
+        <translation>Number:</translation>
+    </message>
+    <message id="tmif_025">
+        <source>Перейти</source>
+        <translation>Go</translation>
+    </message>
+    <message id="tmif_026">
+        <source>Найти по времени</source>
+        <translation>Find by time</translation>
+    </message>
+    <message id="tmif_030">
+        <source>Номер записи в файле, от 1 до числа записей</source>
+        <translation>Record number in the file, 1 to the number of records</translation>
+    </message>
+    <message id="tmif_031">
+        <source>Первая запись, время которой не раньше заданного</source>
+        <translation>The first record whose time is not earlier than this</translation>
+    </message>
+    <message id="tmif_040">
+        <source>Коды событий:</source>
+        <translation>Event codes:</translation>
+    </message>
+    <message id="tmif_041">
+        <source>Коды событий через запятую или пробел, от 0 до 65535; пусто — любые</source>
+        <translation>Event codes separated by commas or spaces, 0 to 65535; empty: any</translation>
+    </message>
+    <message id="tmif_042">
+        <source>Время с</source>
+        <translation>Time from</translation>
+    </message>
+    <message id="tmif_043">
+        <source>по</source>
+        <translation>to</translation>
+    </message>
+    <message id="tmif_044">
+        <source>Применить</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="tmif_045">
+        <source>Сбросить</source>
+        <translation>Reset</translation>
+    </message>
+    <message id="tmif_046">
+        <source>Столбцы…</source>
+        <translation>Columns…</translation>
+    </message>
+    <message id="tmif_047">
+        <source>Экспорт CSV…</source>
+        <translation>Export CSV…</translation>
+    </message>
+    <message id="tmif_048">
+        <source>Экспорт KML…</source>
+        <translation>Export KML…</translation>
+    </message>
+    <message id="tmif_053">
+        <source>Время записи (местное), границы включены</source>
+        <translation>Record time (local), bounds included</translation>
+    </message>
+    <message id="tmif_054">
+        <source>Какие поля показывать столбцами</source>
+        <translation>Which fields to show as columns</translation>
+    </message>
+    <message id="tmif_055">
+        <source>Сохранить показанные записи в CSV</source>
+        <translation>Save the shown records as CSV</translation>
+    </message>
+    <message id="tmif_056">
+        <source>Сохранить трек показанных записей в KML</source>
+        <translation>Save the track of the shown records as KML</translation>
+    </message>
+    <message id="tmif_060">
+        <source>Файл телеметрии</source>
+        <translation>Telemetry file</translation>
+    </message>
+    <message id="tmif_061">
+        <source>%1
+
+До ошибки прочитано записей: %2. Показать их?</source>
+        <translation>%1
+
+Records read before the fault: %2. Show them?</translation>
+    </message>
+    <message id="tmif_028">
+        <source>Поле</source>
+        <translation>Field</translation>
+    </message>
+    <message id="tmif_029">
+        <source>Значение</source>
+        <translation>Value</translation>
+    </message>
+    <message id="tmif_032">
+        <source>Неизвестная запись</source>
+        <translation>Unknown record</translation>
+    </message>
+    <message id="tmif_027">
+        <source>Запись %1 из %2</source>
+        <translation>Record %1 of %2</translation>
+    </message>
+    <message id="tmif_033">
+        <source>Нет записей с временем не раньше %1.</source>
+        <translation>No records at or after %1.</translation>
+    </message>
+    <message id="tmif_034">
+        <source>«%1» — не код события (от 0 до 65535)</source>
+        <translation>“%1” is not an event code (0 to 65535)</translation>
+    </message>
+    <message id="tmif_035">
+        <source>Начало интервала позже его конца</source>
+        <translation>The start of the interval is after its end</translation>
+    </message>
+    <message id="tmif_036">
+        <source>Не удаётся записать файл «%1»: %2</source>
+        <translation>Cannot write file “%1”: %2</translation>
+    </message>
+    <message id="tmif_037">
+        <source>Сохранить записи</source>
+        <translation>Save records</translation>
+    </message>
+    <message id="tmif_049">
+        <source>Показано записей: %1 из %2</source>
+        <translation>Records shown: %1 of %2</translation>
+    </message>
 </context>
 </TS>

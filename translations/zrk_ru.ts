@@ -1115,5 +1115,1631 @@
         <source>Параметр пользователя 8 байт, №3</source>
         <translation>Параметр пользователя 8 байт, №3</translation>
     </message>
+    <message id="abou_003">
+        <source>Модуль терминала %1
+Версия %2.%3.%4, сборка %5
+Версия библиотеки %6
+Собран %7</source>
+        <translation>Модуль терминала %1
+Версия %2.%3.%4, сборка %5
+Версия библиотеки %6
+Собран %7</translation>
+    </message>
+    <message id="geod_001">
+        <source>Слишком много геозон: %1 (терминал хранит не более %2).</source>
+        <translation>Слишком много геозон: %1 (терминал хранит не более %2).</translation>
+    </message>
+    <message id="geod_002">
+        <source>Слишком много маршрутов: %1 (терминал хранит не более %2).</source>
+        <translation>Слишком много маршрутов: %1 (терминал хранит не более %2).</translation>
+    </message>
+    <message id="geod_003">
+        <source>В маршруте %1 остановок: %2 (не более %3 на маршрут).</source>
+        <translation>В маршруте %1 остановок: %2 (не более %3 на маршрут).</translation>
+    </message>
+    <message id="geod_004">
+        <source>Слишком много скоростных зон: %1 (терминал хранит не более %2).</source>
+        <translation>Слишком много скоростных зон: %1 (терминал хранит не более %2).</translation>
+    </message>
+    <message id="geod_005">
+        <source>Слишком много звуковых файлов: %1 (не более %2).</source>
+        <translation>Слишком много звуковых файлов: %1 (не более %2).</translation>
+    </message>
+    <message id="geod_006">
+        <source>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</source>
+        <translation>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</translation>
+    </message>
+    <message id="geod_007">
+        <source>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</source>
+        <translation>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</translation>
+    </message>
+    <message id="geod_008">
+        <source>Геозона %1: координаты %2, %3 вне земного шара.</source>
+        <translation>Геозона %1: координаты %2, %3 вне земного шара.</translation>
+    </message>
+    <message id="geod_009">
+        <source>Номер геозоны %1 встречается дважды.</source>
+        <translation>Номер геозоны %1 встречается дважды.</translation>
+    </message>
+    <message id="geod_010">
+        <source>Маршрут %1: остановка ссылается на несуществующую геозону %2.</source>
+        <translation>Маршрут %1: остановка ссылается на несуществующую геозону %2.</translation>
+    </message>
+    <message id="geod_020">
+        <source>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</source>
+        <translation>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</translation>
+    </message>
+    <message id="geod_021">
+        <source>геозона %1: &quot;%2&quot; не является координатой</source>
+        <translation>геозона %1: &quot;%2&quot; не является координатой</translation>
+    </message>
+    <message id="geod_022">
+        <source>версия файла %1 новее, чем читает эта программа (%2)</source>
+        <translation>версия файла %1 новее, чем читает эта программа (%2)</translation>
+    </message>
+    <message id="geod_023">
+        <source>маршрут %1 объявляет остановок: %2, а содержит: %3</source>
+        <translation>маршрут %1 объявляет остановок: %2, а содержит: %3</translation>
+    </message>
+    <message id="geod_024">
+        <source>Не удалось открыть файл геоинформации &quot;%1&quot;: %2.</source>
+        <translation>Не удалось открыть файл геоинформации &quot;%1&quot;: %2.</translation>
+    </message>
+    <message id="geod_025">
+        <source>Не удалось записать файл &quot;%1&quot;: %2.</source>
+        <translation>Не удалось записать файл &quot;%1&quot;: %2.</translation>
+    </message>
+    <message id="geod_026">
+        <source>файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, но не читает; сохраните данные заново в новом формате</source>
+        <translation>файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, но не читает; сохраните данные заново в новом формате</translation>
+    </message>
+    <message id="geod_027">
+        <source>это не файл геоинформации (нет корня &quot;AINF&quot;)</source>
+        <translation>это не файл геоинформации (нет корня &quot;AINF&quot;)</translation>
+    </message>
+    <message id="geod_028">
+        <source>файл больше %1 МБ</source>
+        <translation>файл больше %1 МБ</translation>
+    </message>
+    <message id="geod_029">
+        <source>текст не является правильным XML (%1)</source>
+        <translation>текст не является правильным XML (%1)</translation>
+    </message>
+    <message id="geod_030">
+        <source>Не удалось создать папку &quot;%1&quot;.</source>
+        <translation>Не удалось создать папку &quot;%1&quot;.</translation>
+    </message>
+    <message id="geod_040">
+        <source>Не удалось прочитать файл KML &quot;%1&quot;: %2.</source>
+        <translation>Не удалось прочитать файл KML &quot;%1&quot;: %2.</translation>
+    </message>
+    <message id="geod_041">
+        <source>файл больше %1 МБ</source>
+        <translation>файл больше %1 МБ</translation>
+    </message>
+    <message id="geod_042">
+        <source>файл объявляет DTD или сущности, которые в KML не используются</source>
+        <translation>файл объявляет DTD или сущности, которые в KML не используются</translation>
+    </message>
+    <message id="geod_043">
+        <source>вложенность элементов глубже %1 уровней</source>
+        <translation>вложенность элементов глубже %1 уровней</translation>
+    </message>
+    <message id="geod_044">
+        <source>корневой элемент &quot;%1&quot;, а не &quot;kml&quot;</source>
+        <translation>корневой элемент &quot;%1&quot;, а не &quot;kml&quot;</translation>
+    </message>
+    <message id="geod_045">
+        <source>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</source>
+        <translation>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</translation>
+    </message>
+    <message id="geod_046">
+        <source>строка %1: %2</source>
+        <translation>строка %1: %2</translation>
+    </message>
+    <message id="geod_047">
+        <source>файл пуст</source>
+        <translation>файл пуст</translation>
+    </message>
+    <message id="geod_048">
+        <source>В файле &quot;%1&quot; точек: %2; вместе с %3 геозонами списка это больше %4, которые хранит терминал. Ничего не добавлено.</source>
+        <translation>В файле &quot;%1&quot; точек: %2; вместе с %3 геозонами списка это больше %4, которые хранит терминал. Ничего не добавлено.</translation>
+    </message>
+    <message id="geod_049">
+        <source>Номера геозон 1..%1 все заняты. Ничего не добавлено.</source>
+        <translation>Номера геозон 1..%1 все заняты. Ничего не добавлено.</translation>
+    </message>
+    <message id="geod_050">
+        <source>Геозоны</source>
+        <translation>Геозоны</translation>
+    </message>
+    <message id="geod_051">
+        <source>Геозона %1, радиус %2 м</source>
+        <translation>Геозона %1, радиус %2 м</translation>
+    </message>
+    <message id="geod_052">
+        <source>Маршруты</source>
+        <translation>Маршруты</translation>
+    </message>
+    <message id="cfgt3_007">
+        <source>Ставить точки только в движении (правило старт/стоп)</source>
+        <translation>Ставить точки только в движении (правило старт/стоп)</translation>
+    </message>
+    <message id="cfgt3_008">
+        <source>Ставить точку при превышении скорости</source>
+        <translation>Ставить точку при превышении скорости</translation>
+    </message>
+    <message id="cfgt3_009">
+        <source>Порог скорости, км/ч</source>
+        <translation>Порог скорости, км/ч</translation>
+    </message>
+    <message id="cfgt3_010">
+        <source>Правило поворота</source>
+        <translation>Правило поворота</translation>
+    </message>
+    <message id="cfgt3_013">
+        <source>Угол поворота, °</source>
+        <translation>Угол поворота, °</translation>
+    </message>
+    <message id="cfgt3_014">
+        <source>Ставить точку по расстоянию, м</source>
+        <translation>Ставить точку по расстоянию, м</translation>
+    </message>
+    <message id="cfgt3_015">
+        <source>Расстояние, м</source>
+        <translation>Расстояние, м</translation>
+    </message>
+    <message id="cfgt3_016">
+        <source>Ставить точку по таймеру в движении, с</source>
+        <translation>Ставить точку по таймеру в движении, с</translation>
+    </message>
+    <message id="cfgt3_017">
+        <source>Таймер в движении, с</source>
+        <translation>Таймер в движении, с</translation>
+    </message>
+    <message id="cfgt3_018">
+        <source>Признаки движения для таймера</source>
+        <translation>Признаки движения для таймера</translation>
+    </message>
+    <message id="cfgt3_023">
+        <source>Таймер на стоянке, с</source>
+        <translation>Таймер на стоянке, с</translation>
+    </message>
+    <message id="cfgt3_025">
+        <source>Не ставить точки ближе, м</source>
+        <translation>Не ставить точки ближе, м</translation>
+    </message>
+    <message id="cfgt3_026">
+        <source>Минимальное расстояние между точками, м</source>
+        <translation>Минимальное расстояние между точками, м</translation>
+    </message>
+    <message id="cfgt3_027">
+        <source>Не ставить точки чаще, с</source>
+        <translation>Не ставить точки чаще, с</translation>
+    </message>
+    <message id="cfgt3_028">
+        <source>Минимальный интервал между точками, с</source>
+        <translation>Минимальный интервал между точками, с</translation>
+    </message>
+    <message id="cfgt3_029">
+        <source>Фильтр координат</source>
+        <translation>Фильтр координат</translation>
+    </message>
+    <message id="cfgt3_031">
+        <source>Минимум спутников</source>
+        <translation>Минимум спутников</translation>
+    </message>
+    <message id="cfgt3_032">
+        <source>Максимальный HDOP</source>
+        <translation>Максимальный HDOP</translation>
+    </message>
+    <message id="cfgt3_033">
+        <source>Максимальная скорость, км/ч</source>
+        <translation>Максимальная скорость, км/ч</translation>
+    </message>
+    <message id="cfgt3_034">
+        <source>Максимальное ускорение</source>
+        <translation>Максимальное ускорение</translation>
+    </message>
+    <message id="cfgt3_035">
+        <source>Максимальный скачок, м</source>
+        <translation>Максимальный скачок, м</translation>
+    </message>
+    <message id="cfgt3_036">
+        <source>Отбраковок подряд, не более</source>
+        <translation>Отбраковок подряд, не более</translation>
+    </message>
+    <message id="cfgt3_037">
+        <source>Минимальная высота, м</source>
+        <translation>Минимальная высота, м</translation>
+    </message>
+    <message id="cfgt3_038">
+        <source>Максимальная высота, м</source>
+        <translation>Максимальная высота, м</translation>
+    </message>
+    <message id="cfgt3_039">
+        <source>Расхождение с временем сети, с</source>
+        <translation>Расхождение с временем сети, с</translation>
+    </message>
+    <message id="cfgt3_040">
+        <source>Координаты на стоянке</source>
+        <translation>Координаты на стоянке</translation>
+    </message>
+    <message id="cfgt3_044">
+        <source>Признаки стоянки</source>
+        <translation>Признаки стоянки</translation>
+    </message>
+    <message id="cfgt3_051">
+        <source>Режим стоянки</source>
+        <translation>Режим стоянки</translation>
+    </message>
+    <message id="cfgt3_056">
+        <source>Время до стоянки, с</source>
+        <translation>Время до стоянки, с</translation>
+    </message>
+    <message id="cfgt3_057">
+        <source>Спутниковые системы</source>
+        <translation>Спутниковые системы</translation>
+    </message>
+    <message id="cfgt3_058">
+        <source>Помощь A-GPS</source>
+        <translation>Помощь A-GPS</translation>
+    </message>
+    <message id="cfgt3_059">
+        <source>Прогноз орбит (EPO)</source>
+        <translation>Прогноз орбит (EPO)</translation>
+    </message>
+    <message id="cfgt3_060">
+        <source>Маска возвышения спутников, °</source>
+        <translation>Маска возвышения спутников, °</translation>
+    </message>
+    <message id="cfgt3_061">
+        <source>Система координат</source>
+        <translation>Система координат</translation>
+    </message>
+    <message id="cfgt3_064">
+        <source>Приёмник</source>
+        <translation>Приёмник</translation>
+    </message>
+    <message id="cfgt3_067">
+        <source>Таймер холодного рестарта приёмника</source>
+        <translation>Таймер холодного рестарта приёмника</translation>
+    </message>
+    <message id="cfgt3_071">
+        <source>Период в движении, с</source>
+        <translation>Период в движении, с</translation>
+    </message>
+    <message id="cfgt3_072">
+        <source>Признаки движения</source>
+        <translation>Признаки движения</translation>
+    </message>
+    <message id="cfgt3_073">
+        <source>Период на стоянке, с (0 — выключено)</source>
+        <translation>Период на стоянке, с (0 — выключено)</translation>
+    </message>
+    <message id="cfgt3_070">
+        <source>Источники</source>
+        <translation>Источники</translation>
+    </message>
+    <message id="cfgt3_069">
+        <source>Позиционирование для телеметрии</source>
+        <translation>Позиционирование для телеметрии</translation>
+    </message>
+    <message id="cfgt3_074">
+        <source>Сервис локации</source>
+        <translation>Сервис локации</translation>
+    </message>
+    <message id="cfgt3_075">
+        <source>Ключ доступа</source>
+        <translation>Ключ доступа</translation>
+    </message>
+    <message id="cfgt3_076">
+        <source>Условие</source>
+        <translation>Условие</translation>
+    </message>
+    <message id="cfgt3_077">
+        <source>Добавлять в телеметрию</source>
+        <translation>Добавлять в телеметрию</translation>
+    </message>
+    <message id="cfgt3_078">
+        <source>Фильтр координат локатора</source>
+        <translation>Фильтр координат локатора</translation>
+    </message>
+    <message id="cfgt3_079">
+        <source>Предельная скорость, км/ч</source>
+        <translation>Предельная скорость, км/ч</translation>
+    </message>
+    <message id="cfgt3_080">
+        <source>Отбраковок подряд до принятия</source>
+        <translation>Отбраковок подряд до принятия</translation>
+    </message>
+    <message id="cfgt3_081">
+        <source>Записывать отбракованные координаты</source>
+        <translation>Записывать отбракованные координаты</translation>
+    </message>
+    <message id="cfgt3_082">
+        <source>Перепроверять по Wi-Fi</source>
+        <translation>Перепроверять по Wi-Fi</translation>
+    </message>
+    <message id="cfgt3_083">
+        <source>Перепроверять по GNSS</source>
+        <translation>Перепроверять по GNSS</translation>
+    </message>
+    <message id="cfgt3_084">
+        <source>Фильтр точек доступа</source>
+        <translation>Фильтр точек доступа</translation>
+    </message>
+    <message id="cfgt3_085">
+        <source>Минимальный уровень точки доступа, дБм</source>
+        <translation>Минимальный уровень точки доступа, дБм</translation>
+    </message>
+    <message id="cfgt3_087">
+        <source>Чёрный список, строка %1</source>
+        <translation>Чёрный список, строка %1</translation>
+    </message>
+    <message id="cfgt3_065">
+        <source>При отсутствии координат GNSS</source>
+        <translation>При отсутствии координат GNSS</translation>
+    </message>
+    <message id="cfgt3_066">
+        <source>Всегда</source>
+        <translation>Всегда</translation>
+    </message>
+    <message id="cfgt3_001">
+        <source>Трек</source>
+        <translation>Трек</translation>
+    </message>
+    <message id="cfgt3_100">
+        <source>Диапазон: %1..%2</source>
+        <translation>Диапазон: %1..%2</translation>
+    </message>
+    <message id="cfgt3_102">
+        <source>Диапазон: %1..%2; 0 — выключено</source>
+        <translation>Диапазон: %1..%2; 0 — выключено</translation>
+    </message>
+    <message id="cfgt3_101">
+        <source></source>
+        <translation>Когда ставить точку</translation>
+    </message>
+    <message id="cfgt3_011">
+        <source></source>
+        <translation>По углу поворота, °</translation>
+    </message>
+    <message id="cfgt3_012">
+        <source></source>
+        <translation>По изменению направления</translation>
+    </message>
+    <message id="cfgt3_019">
+        <source></source>
+        <translation>Вход 1</translation>
+    </message>
+    <message id="cfgt3_020">
+        <source></source>
+        <translation>Зажигание</translation>
+    </message>
+    <message id="cfgt3_021">
+        <source></source>
+        <translation>Тахометр</translation>
+    </message>
+    <message id="cfgt3_022">
+        <source></source>
+        <translation>Датчик вибрации</translation>
+    </message>
+    <message id="cfgt3_024">
+        <source></source>
+        <translation>Ограничение частоты точек</translation>
+    </message>
+    <message id="cfgt3_002">
+        <source></source>
+        <translation>Точки трека</translation>
+    </message>
+    <message id="cfgt3_030">
+        <source></source>
+        <translation>Отбраковка координат</translation>
+    </message>
+    <message id="cfgt3_041">
+        <source></source>
+        <translation>Не усреднять</translation>
+    </message>
+    <message id="cfgt3_042">
+        <source></source>
+        <translation>Усреднять</translation>
+    </message>
+    <message id="cfgt3_043">
+        <source></source>
+        <translation>Фиксировать точку</translation>
+    </message>
+    <message id="cfgt3_049">
+        <source></source>
+        <translation>Акселерометр</translation>
+    </message>
+    <message id="cfgt3_050">
+        <source></source>
+        <translation>Акселерометр (SH5)</translation>
+    </message>
+    <message id="cfgt3_003">
+        <source></source>
+        <translation>Фильтрация</translation>
+    </message>
+    <message id="cfgt3_104">
+        <source></source>
+        <translation>Стоянка</translation>
+    </message>
+    <message id="cfgt3_052">
+        <source></source>
+        <translation>По датчику движения</translation>
+    </message>
+    <message id="cfgt3_053">
+        <source></source>
+        <translation>По настройкам акселерометра</translation>
+    </message>
+    <message id="cfgt3_054">
+        <source></source>
+        <translation>Акселерометр…</translation>
+    </message>
+    <message id="cfgt3_055">
+        <source></source>
+        <translation>Стоянка определяется акселерометром</translation>
+    </message>
+    <message id="cfgt3_103">
+        <source></source>
+        <translation>Приёмник GNSS</translation>
+    </message>
+    <message id="cfgt3_062">
+        <source></source>
+        <translation>WGS-84 (мировая)</translation>
+    </message>
+    <message id="cfgt3_063">
+        <source></source>
+        <translation>ПЗ-90</translation>
+    </message>
+    <message id="cfgt3_068">
+        <source></source>
+        <translation>Помощь приёмнику</translation>
+    </message>
+    <message id="cfgt3_098">
+        <source></source>
+        <translation>Встроенный</translation>
+    </message>
+    <message id="cfgt3_099">
+        <source></source>
+        <translation>Внешний</translation>
+    </message>
+    <message id="cfgt3_004">
+        <source></source>
+        <translation>Приёмник и стоянка</translation>
+    </message>
+    <message id="cfgt3_107">
+        <source></source>
+        <translation>Использовать</translation>
+    </message>
+    <message id="cfgt3_095">
+        <source></source>
+        <translation>Нет</translation>
+    </message>
+    <message id="cfgt3_096">
+        <source></source>
+        <translation>Координаты</translation>
+    </message>
+    <message id="cfgt3_097">
+        <source></source>
+        <translation>Координаты и точки доступа</translation>
+    </message>
+    <message id="cfgt3_086">
+        <source></source>
+        <translation>Чёрный список…</translation>
+    </message>
+    <message id="cfgt3_005">
+        <source></source>
+        <translation>Локатор</translation>
+    </message>
+    <message id="cfgt3_088">
+        <source></source>
+        <translation>Точки доступа Wi-Fi</translation>
+    </message>
+    <message id="cfgt3_090">
+        <source></source>
+        <translation>Модуль Wi-Fi…</translation>
+    </message>
+    <message id="cfgt3_089">
+        <source></source>
+        <translation>Сотовые станции (LBS)</translation>
+    </message>
+    <message id="cfgt3_093">
+        <source></source>
+        <translation>Чёрный список точек доступа</translation>
+    </message>
+    <message id="cfgt3_094">
+        <source></source>
+        <translation>Имя точки доступа</translation>
+    </message>
+    <message id="cfgt3_106">
+        <source></source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message id="cfgt3_105">
+        <source></source>
+        <translation>Закрыть</translation>
+    </message>
+    <message id="cfgt3_091">
+        <source></source>
+        <translation>На стоянке</translation>
+    </message>
+    <message id="cfgt3_047">
+        <source>GPS + ГЛОНАСС</source>
+        <translation>GPS + ГЛОНАСС</translation>
+    </message>
+    <message id="cfgt3_048">
+        <source>GPS и BeiDou</source>
+        <translation>GPS и BeiDou</translation>
+    </message>
+    <message id="cfgt3_045">
+        <source>Только GPS</source>
+        <translation>Только GPS</translation>
+    </message>
+    <message id="cfgt3_046">
+        <source>ГЛОНАСС</source>
+        <translation>ГЛОНАСС</translation>
+    </message>
+    <message id="tmio_030">
+        <source>Расширенная запись</source>
+        <translation>Расширенная запись</translation>
+    </message>
+    <message id="tmio_031">
+        <source>Поле</source>
+        <translation>Поле</translation>
+    </message>
+    <message id="tmio_032">
+        <source>Значение</source>
+        <translation>Значение</translation>
+    </message>
+    <message id="tmio_033">
+        <source>Тип</source>
+        <translation>Тип</translation>
+    </message>
+    <message id="tmio_034">
+        <source>Размер</source>
+        <translation>Размер</translation>
+    </message>
+    <message id="tmio_001">
+        <source>Основное</source>
+        <translation>Основное</translation>
+    </message>
+    <message id="tmio_002">
+        <source>Навигация</source>
+        <translation>Навигация</translation>
+    </message>
+    <message id="tmio_003">
+        <source>Питание, входы и выходы</source>
+        <translation>Питание, входы и выходы</translation>
+    </message>
+    <message id="tmio_004">
+        <source>Датчики</source>
+        <translation>Датчики</translation>
+    </message>
+    <message id="tmio_005">
+        <source>Шина CAN</source>
+        <translation>Шина CAN</translation>
+    </message>
+    <message id="tmio_007">
+        <source>Тахограф</source>
+        <translation>Тахограф</translation>
+    </message>
+    <message id="tmio_008">
+        <source>Акселерометр и эко-вождение</source>
+        <translation>Акселерометр и эко-вождение</translation>
+    </message>
+    <message id="tmio_009">
+        <source>Пассажиры</source>
+        <translation>Пассажиры</translation>
+    </message>
+    <message id="tmio_010">
+        <source>Геоинформация</source>
+        <translation>Геоинформация</translation>
+    </message>
+    <message id="tmio_011">
+        <source>Датчики расхода топлива</source>
+        <translation>Датчики расхода топлива</translation>
+    </message>
+    <message id="tmio_012">
+        <source>Рефрижератор</source>
+        <translation>Рефрижератор</translation>
+    </message>
+    <message id="tmio_013">
+        <source>Пользовательские параметры</source>
+        <translation>Пользовательские параметры</translation>
+    </message>
+    <message id="tmio_006">
+        <source>Шины</source>
+        <translation>Шины</translation>
+    </message>
+    <message id="tmio_014">
+        <source>Исходные данные</source>
+        <translation>Исходные данные</translation>
+    </message>
+    <message id="tmio_020">
+        <source>Номер датчика</source>
+        <translation>Номер датчика</translation>
+    </message>
+    <message id="tmio_021">
+        <source>Давление</source>
+        <translation>Давление</translation>
+    </message>
+    <message id="tmio_022">
+        <source>Температура</source>
+        <translation>Температура</translation>
+    </message>
+    <message id="tmio_023">
+        <source>Версия %1, набор полей (%2): %3</source>
+        <translation>Версия %1, набор полей (%2): %3</translation>
+    </message>
+    <message id="tmio_024">
+        <source>Тело записи, %1 байт:</source>
+        <translation>Тело записи, %1 байт:</translation>
+    </message>
+    <message id="tmio_041">
+        <source>Питание</source>
+        <translation>Питание</translation>
+    </message>
+    <message id="tmio_042">
+        <source>Входы 1-8</source>
+        <translation>Входы 1-8</translation>
+    </message>
+    <message id="tmio_043">
+        <source>Аналоговый вход 1</source>
+        <translation>Аналоговый вход 1</translation>
+    </message>
+    <message id="tmio_044">
+        <source>Аналоговый вход 2</source>
+        <translation>Аналоговый вход 2</translation>
+    </message>
+    <message id="tmio_045">
+        <source>Выход 1</source>
+        <translation>Выход 1</translation>
+    </message>
+    <message id="tmio_046">
+        <source>Выход 2</source>
+        <translation>Выход 2</translation>
+    </message>
+    <message id="tmio_047">
+        <source>Спутники</source>
+        <translation>Спутники</translation>
+    </message>
+    <message id="tmio_048">
+        <source>Навигация (фиксация)</source>
+        <translation>Навигация (фиксация)</translation>
+    </message>
+    <message id="tmio_049">
+        <source>Уровень GSM</source>
+        <translation>Уровень GSM</translation>
+    </message>
+    <message id="tmio_050">
+        <source>Температура 1</source>
+        <translation>Температура 1</translation>
+    </message>
+    <message id="tmio_051">
+        <source>Температура 2</source>
+        <translation>Температура 2</translation>
+    </message>
+    <message id="tmio_052">
+        <source>Температура (точная) 1</source>
+        <translation>Температура (точная) 1</translation>
+    </message>
+    <message id="tmio_040">
+        <source>Проверка на производстве</source>
+        <translation>Проверка на производстве</translation>
+    </message>
+    <message id="tmio_053">
+        <source>ВКЛ</source>
+        <translation>ВКЛ</translation>
+    </message>
+    <message id="tmio_054">
+        <source>выкл</source>
+        <translation>выкл</translation>
+    </message>
+    <message id="tmiw_043">
+        <source>%1: мин. %2, макс. %3</source>
+        <translation>%1: мин. %2, макс. %3</translation>
+    </message>
+    <message id="tmiw_044">
+        <source>%1: нет данных</source>
+        <translation>%1: нет данных</translation>
+    </message>
+    <message id="tmiw_040">
+        <source>расширенная</source>
+        <translation>расширенная</translation>
+    </message>
+    <message id="tmiw_041">
+        <source>неизвестная</source>
+        <translation>неизвестная</translation>
+    </message>
+    <message id="tmiw_042">
+        <source>история</source>
+        <translation>история</translation>
+    </message>
+    <message id="tmiw_001">
+        <source>Текущая запись</source>
+        <translation>Текущая запись</translation>
+    </message>
+    <message id="tmiw_002">
+        <source>◀ Предыдущая</source>
+        <translation>◀ Предыдущая</translation>
+    </message>
+    <message id="tmiw_003">
+        <source>Следующая ▶</source>
+        <translation>Следующая ▶</translation>
+    </message>
+    <message id="tmiw_004">
+        <source>Показать</source>
+        <translation>Показать</translation>
+    </message>
+    <message id="tmiw_005">
+        <source>Смещение от UTC:</source>
+        <translation>Смещение от UTC:</translation>
+    </message>
+    <message id="tmiw_006">
+        <source>Автозапрос</source>
+        <translation>Автозапрос</translation>
+    </message>
+    <message id="tmiw_007">
+        <source>Период автозапроса, 1..60 с</source>
+        <translation>Период автозапроса, 1..60 с</translation>
+    </message>
+    <message id="tmiw_008">
+        <source>Скрывать отсутствующие поля</source>
+        <translation>Скрывать отсутствующие поля</translation>
+    </message>
+    <message id="tmiw_009">
+        <source>Сохранить…</source>
+        <translation>Сохранить…</translation>
+    </message>
+    <message id="tmiw_010">
+        <source>График</source>
+        <translation>График</translation>
+    </message>
+    <message id="tmiw_011">
+        <source>Команды</source>
+        <translation>Команды</translation>
+    </message>
+    <message id="tmiw_012">
+        <source>Журнал</source>
+        <translation>Журнал</translation>
+    </message>
+    <message id="tmiw_013">
+        <source>Добавить</source>
+        <translation>Добавить</translation>
+    </message>
+    <message id="tmiw_014">
+        <source>Очистить</source>
+        <translation>Очистить</translation>
+    </message>
+    <message id="tmiw_015">
+        <source>Выход</source>
+        <translation>Выход</translation>
+    </message>
+    <message id="tmiw_016">
+        <source>Включить</source>
+        <translation>Включить</translation>
+    </message>
+    <message id="tmiw_017">
+        <source>Выключить</source>
+        <translation>Выключить</translation>
+    </message>
+    <message id="tmiw_018">
+        <source>Охрана</source>
+        <translation>Охрана</translation>
+    </message>
+    <message id="tmiw_019">
+        <source>Поставить</source>
+        <translation>Поставить</translation>
+    </message>
+    <message id="tmiw_020">
+        <source>Снять</source>
+        <translation>Снять</translation>
+    </message>
+    <message id="tmiw_021">
+        <source>Очистка</source>
+        <translation>Очистка</translation>
+    </message>
+    <message id="tmiw_022">
+        <source>Очистить</source>
+        <translation>Очистить</translation>
+    </message>
+    <message id="tmiw_023">
+        <source>Вывод GNSS/NMEA</source>
+        <translation>Вывод GNSS/NMEA</translation>
+    </message>
+    <message id="tmiw_024">
+        <source>Параметр</source>
+        <translation>Параметр</translation>
+    </message>
+    <message id="tmiw_025">
+        <source>Установить</source>
+        <translation>Установить</translation>
+    </message>
+    <message id="tmiw_026">
+        <source>Команда с числом</source>
+        <translation>Команда с числом</translation>
+    </message>
+    <message id="tmiw_027">
+        <source>Выполнить</source>
+        <translation>Выполнить</translation>
+    </message>
+    <message id="tmiw_028">
+        <source>Ключ / карта</source>
+        <translation>Ключ / карта</translation>
+    </message>
+    <message id="tmiw_029">
+        <source>Прочитать ключ ТМ</source>
+        <translation>Прочитать ключ ТМ</translation>
+    </message>
+    <message id="tmiw_030">
+        <source>Прочитать RFID-карту</source>
+        <translation>Прочитать RFID-карту</translation>
+    </message>
+    <message id="tmiw_031">
+        <source>Код ключа ТМ</source>
+        <translation>Код ключа ТМ</translation>
+    </message>
+    <message id="tmiw_032">
+        <source>Код RFID</source>
+        <translation>Код RFID</translation>
+    </message>
+    <message id="tmiw_033">
+        <source>ДУТ: команда</source>
+        <translation>ДУТ: команда</translation>
+    </message>
+    <message id="tmiw_034">
+        <source>Отправить</source>
+        <translation>Отправить</translation>
+    </message>
+    <message id="tmiw_035">
+        <source>Прошивка датчика</source>
+        <translation>Прошивка датчика</translation>
+    </message>
+    <message id="tmiw_036">
+        <source>Выбрать файл…</source>
+        <translation>Выбрать файл…</translation>
+    </message>
+    <message id="tmiw_037">
+        <source>Тахограф: запрос</source>
+        <translation>Тахограф: запрос</translation>
+    </message>
+    <message id="tmiw_038">
+        <source>Запросить</source>
+        <translation>Запросить</translation>
+    </message>
+    <message id="tmiw_039">
+        <source>Тахограф: файл</source>
+        <translation>Тахограф: файл</translation>
+    </message>
+    <message id="tmiw_045">
+        <source>Тахограф: чтение файла</source>
+        <translation>Тахограф: чтение файла</translation>
+    </message>
+    <message id="tmiw_046">
+        <source>Прочитать</source>
+        <translation>Прочитать</translation>
+    </message>
+    <message id="tmiw_047">
+        <source>ДУТ: данные</source>
+        <translation>ДУТ: данные</translation>
+    </message>
+    <message id="tmiw_048">
+        <source>ДУТ: файл данных</source>
+        <translation>ДУТ: файл данных</translation>
+    </message>
+    <message id="tmiw_049">
+        <source>Память записей</source>
+        <translation>Память записей</translation>
+    </message>
+    <message id="tmiw_050">
+        <source>Счётчики</source>
+        <translation>Счётчики</translation>
+    </message>
+    <message id="tmiw_051">
+        <source>Всё</source>
+        <translation>Всё</translation>
+    </message>
+    <message id="tmiw_052">
+        <source>Бортовое устройство</source>
+        <translation>Бортовое устройство</translation>
+    </message>
+    <message id="tmiw_053">
+        <source>Карта водителя</source>
+        <translation>Карта водителя</translation>
+    </message>
+    <message id="tmiw_054">
+        <source>Номер выхода, 1..8</source>
+        <translation>Номер выхода, 1..8</translation>
+    </message>
+    <message id="tmiw_055">
+        <source>Часы смещения от UTC, -12..14</source>
+        <translation>Часы смещения от UTC, -12..14</translation>
+    </message>
+    <message id="tmiw_056">
+        <source>Минуты смещения, 0..45</source>
+        <translation>Минуты смещения, 0..45</translation>
+    </message>
+    <message id="tmiw_057">
+        <source>Номер показанной записи</source>
+        <translation>Номер показанной записи</translation>
+    </message>
+    <message id="tmiw_058">
+        <source>Число для команды</source>
+        <translation>Число для команды</translation>
+    </message>
+    <message id="tmiw_059">
+        <source>Момент: показать ближайшую запись до него</source>
+        <translation>Момент: показать ближайшую запись до него</translation>
+    </message>
+    <message id="tmiw_060">
+        <source>Числовое поле для графика</source>
+        <translation>Числовое поле для графика</translation>
+    </message>
+    <message id="tmiw_061">
+        <source>Текст параметра, например «имя=значение»</source>
+        <translation>Текст параметра, например «имя=значение»</translation>
+    </message>
+    <message id="tmiw_062">
+        <source>Команда датчику уровня топлива</source>
+        <translation>Команда датчику уровня топлива</translation>
+    </message>
+    <message id="tmiw_063">
+        <source>Вид запроса тахографа, 0..255</source>
+        <translation>Вид запроса тахографа, 0..255</translation>
+    </message>
+    <message id="tmiw_064">
+        <source>Начало периода</source>
+        <translation>Начало периода</translation>
+    </message>
+    <message id="tmiw_065">
+        <source>Конец периода</source>
+        <translation>Конец периода</translation>
+    </message>
+    <message id="tmiw_066">
+        <source>Имя файла тахографа</source>
+        <translation>Имя файла тахографа</translation>
+    </message>
+    <message id="tmiw_067">
+        <source>Датчик</source>
+        <translation>Датчик</translation>
+    </message>
+    <message id="tmiw_068">
+        <source>Запрос</source>
+        <translation>Запрос</translation>
+    </message>
+    <message id="tmiw_069">
+        <source>Имя файла данных датчика</source>
+        <translation>Имя файла данных датчика</translation>
+    </message>
+    <message id="tmiw_070">
+        <source>Запросите текущую запись</source>
+        <translation>Запросите текущую запись</translation>
+    </message>
+    <message id="tmiw_071">
+        <source>Записи этого сеанса; щелчок показывает запись</source>
+        <translation>Записи этого сеанса; щелчок показывает запись</translation>
+    </message>
+    <message id="tmiw_080">
+        <source>Удалённый сеанс с терминалом завершён</source>
+        <translation>Удалённый сеанс с терминалом завершён</translation>
+    </message>
+    <message id="tmiw_081">
+        <source>Терминал подключён</source>
+        <oldsource>Терминал подключёнТерминал не подключён</oldsource>
+        <translation>Терминал подключёнТерминал не подключён</translation>
+    </message>
+    <message id="tmiw_082">
+        <source>Терминал не подключён</source>
+        <translation>Терминал не подключён</translation>
+    </message>
+    <message id="tmiw_083">
+        <source>Параметры конфигурации: %1</source>
+        <translation>Параметры конфигурации: %1</translation>
+    </message>
+    <message id="tmiw_084">
+        <source>Запрос режима проверки</source>
+        <translation>Запрос режима проверки</translation>
+    </message>
+    <message id="tmiw_223">
+        <source>Неизвестный тип записи</source>
+        <translation>Неизвестный тип записи</translation>
+    </message>
+    <message id="tmiw_085">
+        <source>Получена: %1</source>
+        <translation>Получена: %1</translation>
+    </message>
+    <message id="tmiw_086">
+        <source>время записи: %1</source>
+        <translation>время записи: %1</translation>
+    </message>
+    <message id="tmiw_087">
+        <source>возраст координат: %1 %2</source>
+        <translation>возраст координат: %1 %2</translation>
+    </message>
+    <message id="abbr_003">
+        <source>с</source>
+        <translation>с</translation>
+    </message>
+    <message id="tmiw_088">
+        <source>координат нет</source>
+        <translation>координат нет</translation>
+    </message>
+    <message id="tmiw_089">
+        <source>ИЗ ИСТОРИИ (по номеру)</source>
+        <translation>ИЗ ИСТОРИИ (по номеру)</translation>
+    </message>
+    <message id="tmiw_090">
+        <source>ИЗ ИСТОРИИ (по времени)</source>
+        <translation>ИЗ ИСТОРИИ (по времени)</translation>
+    </message>
+    <message id="tmiw_091">
+        <source>Команда терминалу</source>
+        <translation>Команда терминалу</translation>
+    </message>
+    <message id="tmiw_092">
+        <source>Включить выход %1?</source>
+        <translation>Включить выход %1?</translation>
+    </message>
+    <message id="tmiw_093">
+        <source>Выключить выход %1?</source>
+        <translation>Выключить выход %1?</translation>
+    </message>
+    <message id="tmiw_094">
+        <source>Поставить терминал на охрану?</source>
+        <translation>Поставить терминал на охрану?</translation>
+    </message>
+    <message id="tmiw_095">
+        <source>Снять терминал с охраны?</source>
+        <translation>Снять терминал с охраны?</translation>
+    </message>
+    <message id="tmiw_096">
+        <source>Выполнить «%1»? Данные терминала будут удалены.</source>
+        <translation>Выполнить «%1»? Данные терминала будут удалены.</translation>
+    </message>
+    <message id="tmiw_097">
+        <source>Файл прошивки датчика</source>
+        <translation>Файл прошивки датчика</translation>
+    </message>
+    <message id="tmiw_098">
+        <source>Записать прошивку %1 в датчик? Датчик будет недоступен до конца записи.</source>
+        <translation>Записать прошивку %1 в датчик? Датчик будет недоступен до конца записи.</translation>
+    </message>
+    <message id="tmiw_099">
+        <source>Значение параметра</source>
+        <translation>Значение параметра</translation>
+    </message>
+    <message id="tmiw_100">
+        <source>Ответ на команду</source>
+        <translation>Ответ на команду</translation>
+    </message>
+    <message id="tmiw_101">
+        <source>Ответ датчика топлива</source>
+        <translation>Ответ датчика топлива</translation>
+    </message>
+    <message id="tmiw_102">
+        <source>Параметры прошивки датчика</source>
+        <translation>Параметры прошивки датчика</translation>
+    </message>
+    <message id="tmiw_103">
+        <source>Ключ ТМ: %1</source>
+        <translation>Ключ ТМ: %1</translation>
+    </message>
+    <message id="tmiw_104">
+        <source>Получены значения АЦП универсальных входов</source>
+        <translation>Получены значения АЦП универсальных входов</translation>
+    </message>
+    <message id="tmiw_105">
+        <source>Текущее значение дисплея: %1</source>
+        <translation>Текущее значение дисплея: %1</translation>
+    </message>
+    <message id="tmiw_106">
+        <source>RFID-карта: %1 (%2)</source>
+        <translation>RFID-карта: %1 (%2)</translation>
+    </message>
+    <message id="tmiw_107">
+        <source>Ответ тахографа</source>
+        <translation>Ответ тахографа</translation>
+    </message>
+    <message id="tmiw_108">
+        <source>Файл тахографа прочитан</source>
+        <oldsource>Файл тахографа прочитанФайл тахографа не прочитан</oldsource>
+        <translation>Файл тахографа прочитанФайл тахографа не прочитан</translation>
+    </message>
+    <message id="tmiw_109">
+        <source>Файл тахографа не прочитан</source>
+        <translation>Файл тахографа не прочитан</translation>
+    </message>
+    <message id="tmiw_110">
+        <source>Ответ на запрос файла данных датчика</source>
+        <translation>Ответ на запрос файла данных датчика</translation>
+    </message>
+    <message id="tmiw_111">
+        <source>Файл данных датчика прочитан</source>
+        <oldsource>Файл данных датчика прочитанФайл данных датчика не прочитан</oldsource>
+        <translation>Файл данных датчика прочитанФайл данных датчика не прочитан</translation>
+    </message>
+    <message id="tmiw_112">
+        <source>Файл данных датчика не прочитан</source>
+        <translation>Файл данных датчика не прочитан</translation>
+    </message>
+    <message id="tmiw_114">
+        <source>Сохранить записи телеметрии</source>
+        <oldsource>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</oldsource>
+        <translation>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
+    </message>
+    <message id="tmiw_115">
+        <source>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
+        <translation>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
+    </message>
+    <message id="abou_001">
+        <source></source>
+        <translation>Справка о параметре</translation>
+    </message>
+    <message id="abou_002">
+        <source></source>
+        <translation>Закрыть</translation>
+    </message>
+    <message id="iopr_001">
+        <source></source>
+        <translation>Ожидание</translation>
+    </message>
+    <message id="iopr_003">
+        <source></source>
+        <translation>Выполнено:</translation>
+    </message>
+    <message id="iopr_004">
+        <source></source>
+        <translation>Всего:</translation>
+    </message>
+    <message id="iopr_005">
+        <source></source>
+        <translation>Время:</translation>
+    </message>
+    <message id="iopr_006">
+        <source></source>
+        <translation>Отмена</translation>
+    </message>
+    <message id="cfgo_001">
+        <source>Основные</source>
+        <translation>Основные</translation>
+    </message>
+    <message id="cfgo_002">
+        <source>Навигация</source>
+        <translation>Навигация</translation>
+    </message>
+    <message id="cfgo_003">
+        <source>Датчики RS</source>
+        <translation>Датчики RS</translation>
+    </message>
+    <message id="cfgo_004">
+        <source>Шина CAN</source>
+        <translation>Шина CAN</translation>
+    </message>
+    <message id="cfgo_005">
+        <source>Тахограф</source>
+        <translation>Тахограф</translation>
+    </message>
+    <message id="cfgo_006">
+        <source>Дополнительно</source>
+        <translation>Дополнительно</translation>
+    </message>
+    <message id="cfgo_007">
+        <source>Акселерометр</source>
+        <translation>Акселерометр</translation>
+    </message>
+    <message id="cfgo_008">
+        <source>Расходомер</source>
+        <translation>Расходомер</translation>
+    </message>
+    <message id="cfgo_009">
+        <source>Рефрижератор</source>
+        <translation>Рефрижератор</translation>
+    </message>
+    <message id="cfgo_010">
+        <source>Пользовательские</source>
+        <translation>Пользовательские</translation>
+    </message>
+    <message id="cfgo_015">
+        <source>Поле %1, размер в записи: %2 байт</source>
+        <translation>Поле %1, размер в записи: %2 байт</translation>
+    </message>
+    <message id="cfgo_050">
+        <source>Запись и состояние терминала</source>
+        <translation>Запись и состояние терминала</translation>
+    </message>
+    <message id="cfgo_051">
+        <source>Питание</source>
+        <translation>Питание</translation>
+    </message>
+    <message id="cfgo_052">
+        <source>Аналоговые входы</source>
+        <translation>Аналоговые входы</translation>
+    </message>
+    <message id="cfgo_053">
+        <source>Дискретные входы и выходы</source>
+        <translation>Дискретные входы и выходы</translation>
+    </message>
+    <message id="cfgo_054">
+        <source>Счётчики импульсов и частота</source>
+        <translation>Счётчики импульсов и частота</translation>
+    </message>
+    <message id="cfgo_055">
+        <source>Моточасы</source>
+        <translation>Моточасы</translation>
+    </message>
+    <message id="cfgo_056">
+        <source>Температура</source>
+        <translation>Температура</translation>
+    </message>
+    <message id="cfgo_057">
+        <source>Координаты и движение</source>
+        <translation>Координаты и движение</translation>
+    </message>
+    <message id="cfgo_058">
+        <source>Навигационный приёмник</source>
+        <translation>Навигационный приёмник</translation>
+    </message>
+    <message id="cfgo_059">
+        <source>Базовые станции</source>
+        <translation>Базовые станции</translation>
+    </message>
+    <message id="cfgo_060">
+        <source>ДУТ RS-485 1–6 и RS-232</source>
+        <translation>ДУТ RS-485 1–6 и RS-232</translation>
+    </message>
+    <message id="cfgo_061">
+        <source>Температура ДУТ RS-485</source>
+        <translation>Температура ДУТ RS-485</translation>
+    </message>
+    <message id="cfgo_062">
+        <source>ДУТ RS-485 7–16</source>
+        <translation>ДУТ RS-485 7–16</translation>
+    </message>
+    <message id="cfgo_063">
+        <source>Частота ДУТ RS-485</source>
+        <translation>Частота ДУТ RS-485</translation>
+    </message>
+    <message id="cfgo_064">
+        <source>Данные шины CAN</source>
+        <translation>Данные шины CAN</translation>
+    </message>
+    <message id="cfgo_065">
+        <source>Состояние систем ТС по CAN</source>
+        <translation>Состояние систем ТС по CAN</translation>
+    </message>
+    <message id="cfgo_066">
+        <source>Данные тахографа</source>
+        <translation>Данные тахографа</translation>
+    </message>
+    <message id="cfgo_021">
+        <source>Датчики давления в шинах</source>
+        <translation>Датчики давления в шинах</translation>
+    </message>
+    <message id="cfgo_067">
+        <source>Диспетчерские сообщения</source>
+        <translation>Диспетчерские сообщения</translation>
+    </message>
+    <message id="cfgo_068">
+        <source>Пассажиропоток</source>
+        <translation>Пассажиропоток</translation>
+    </message>
+    <message id="cfgo_069">
+        <source>Автоинформатор</source>
+        <translation>Автоинформатор</translation>
+    </message>
+    <message id="cfgo_070">
+        <source>Камера и акселерометр ТС</source>
+        <translation>Камера и акселерометр ТС</translation>
+    </message>
+    <message id="cfgo_071">
+        <source>Точная температура</source>
+        <translation>Точная температура</translation>
+    </message>
+    <message id="cfgo_072">
+        <source>Влажность</source>
+        <translation>Влажность</translation>
+    </message>
+    <message id="cfgo_022">
+        <source>Нет</source>
+        <translation>Нет</translation>
+    </message>
+    <message id="cfgo_028">
+        <source>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</source>
+        <translation>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</translation>
+    </message>
+    <message id="cfgo_073">
+        <source>Акселерометр терминала</source>
+        <translation>Акселерометр терминала</translation>
+    </message>
+    <message id="cfgo_074">
+        <source>Акселерометр ТС и эко-вождение</source>
+        <translation>Акселерометр ТС и эко-вождение</translation>
+    </message>
+    <message id="cfgo_075">
+        <source>Расходомер топлива</source>
+        <translation>Расходомер топлива</translation>
+    </message>
+    <message id="cfgo_076">
+        <source>Рефрижераторная установка</source>
+        <translation>Рефрижераторная установка</translation>
+    </message>
+    <message id="cfgo_077">
+        <source>Параметры 1 байт</source>
+        <translation>Параметры 1 байт</translation>
+    </message>
+    <message id="cfgo_078">
+        <source>Параметры 2 байта</source>
+        <translation>Параметры 2 байта</translation>
+    </message>
+    <message id="cfgo_079">
+        <source>Параметры 4 байта</source>
+        <translation>Параметры 4 байта</translation>
+    </message>
+    <message id="cfgo_080">
+        <source>Параметры 8 байт</source>
+        <translation>Параметры 8 байт</translation>
+    </message>
+    <message id="cfgo_023">
+        <source>Целое без знака</source>
+        <translation>Целое без знака</translation>
+    </message>
+    <message id="cfgo_024">
+        <source>Целое со знаком</source>
+        <translation>Целое со знаком</translation>
+    </message>
+    <message id="cfgo_025">
+        <source>Шестнадцатеричное</source>
+        <translation>Шестнадцатеричное</translation>
+    </message>
+    <message id="cfgo_026">
+        <source>С плавающей точкой</source>
+        <translation>С плавающей точкой</translation>
+    </message>
+    <message id="cfgo_027">
+        <source>Название параметра</source>
+        <translation>Название параметра</translation>
+    </message>
+    <message id="cfgo_014">
+        <source>Запись</source>
+        <translation>Запись</translation>
+    </message>
+    <message id="cfgo_011">
+        <source>ORBA 1 (поля 1–69)</source>
+        <translation>ORBA 1 (поля 1–69)</translation>
+    </message>
+    <message id="cfgo_012">
+        <source>ORBA 2 (поля 1–122)</source>
+        <translation>ORBA 2 (поля 1–122)</translation>
+    </message>
+    <message id="cfgo_013">
+        <source>ORBA 3 (поля 1–255)</source>
+        <translation>ORBA 3 (поля 1–255)</translation>
+    </message>
+    <message id="cfgo_017">
+        <source>По вкладкам, байт: %1</source>
+        <translation>По вкладкам, байт: %1</translation>
+    </message>
+    <message id="cfgo_016">
+        <source>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</source>
+        <translation>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</translation>
+    </message>
+    <message id="cfgo_019">
+        <source>Файл %1 не является конфигурацией с набором полей записи.</source>
+        <translation>Файл %1 не является конфигурацией с набором полей записи.</translation>
+    </message>
+    <message id="cfgo_018">
+        <source>Набор полей из файла конфигурации</source>
+        <translation>Набор полей из файла конфигурации</translation>
+    </message>
+    <message id="cfgo_020">
+        <source>Файлы конфигурации (*.xml);;Все файлы (*)</source>
+        <translation>Файлы конфигурации (*.xml);;Все файлы (*)</translation>
+    </message>
+    <message id="cfgo_029">
+        <source>Ошибка</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message id="cfgo_030">
+        <source></source>
+        <translation>Поколение протокола:</translation>
+    </message>
+    <message id="cfgo_031">
+        <source></source>
+        <translation>Какие поля может записывать терминал: ORBA 1 — поля 1–69, ORBA 2 — 1–122, ORBA 3 — 1–255</translation>
+    </message>
+    <message id="cfgo_032">
+        <source></source>
+        <translation>Размер записи, байт:</translation>
+    </message>
+    <message id="cfgo_033">
+        <source></source>
+        <translation>Сумма размеров отмеченных полей; не более 512 байт</translation>
+    </message>
+    <message id="cfgo_034">
+        <source></source>
+        <translation>Поиск поля по названию на всех вкладках</translation>
+    </message>
+    <message id="cfgo_035">
+        <source></source>
+        <translation>Найти поле…</translation>
+    </message>
+    <message id="cfgo_036">
+        <source></source>
+        <translation>Только отмеченные</translation>
+    </message>
+    <message id="cfgo_037">
+        <source></source>
+        <translation>Наборы полей:</translation>
+    </message>
+    <message id="cfgo_038">
+        <source></source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message id="cfgo_039">
+        <source></source>
+        <translation>Поля, которые терминал записывает по умолчанию</translation>
+    </message>
+    <message id="cfgo_040">
+        <source></source>
+        <translation>Только навигация</translation>
+    </message>
+    <message id="cfgo_041">
+        <source></source>
+        <translation>Номер, событие, время, координаты, высота, скорость, курс и пробег</translation>
+    </message>
+    <message id="cfgo_042">
+        <source></source>
+        <translation>Из файла…</translation>
+    </message>
+    <message id="cfgo_043">
+        <source></source>
+        <translation>Взять набор полей из другого файла конфигурации</translation>
+    </message>
+    <message id="tmif_017">
+        <source>№ в файле</source>
+        <translation>№ в файле</translation>
+    </message>
+    <message id="tmif_020">
+        <source>Первая</source>
+        <translation>Первая</translation>
+    </message>
+    <message id="tmif_021">
+        <source>Предыдущая</source>
+        <translation>Предыдущая</translation>
+    </message>
+    <message id="tmif_022">
+        <source>Следующая</source>
+        <translation>Следующая</translation>
+    </message>
+    <message id="tmif_023">
+        <source>Последняя</source>
+        <translation>Последняя</translation>
+    </message>
+    <message id="tmif_024">
+        <source>Номер:</source>
+        <translation>Номер:</translation>
+    </message>
+    <message id="tmif_025">
+        <source>Перейти</source>
+        <translation>Перейти</translation>
+    </message>
+    <message id="tmif_026">
+        <source>Найти по времени</source>
+        <translation>Найти по времени</translation>
+    </message>
+    <message id="tmif_030">
+        <source>Номер записи в файле, от 1 до числа записей</source>
+        <translation>Номер записи в файле, от 1 до числа записей</translation>
+    </message>
+    <message id="tmif_031">
+        <source>Первая запись, время которой не раньше заданного</source>
+        <translation>Первая запись, время которой не раньше заданного</translation>
+    </message>
+    <message id="tmif_040">
+        <source>Коды событий:</source>
+        <translation>Коды событий:</translation>
+    </message>
+    <message id="tmif_041">
+        <source>Коды событий через запятую или пробел, от 0 до 65535; пусто — любые</source>
+        <translation>Коды событий через запятую или пробел, от 0 до 65535; пусто — любые</translation>
+    </message>
+    <message id="tmif_042">
+        <source>Время с</source>
+        <translation>Время с</translation>
+    </message>
+    <message id="tmif_043">
+        <source>по</source>
+        <translation>по</translation>
+    </message>
+    <message id="tmif_044">
+        <source>Применить</source>
+        <translation>Применить</translation>
+    </message>
+    <message id="tmif_045">
+        <source>Сбросить</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message id="tmif_046">
+        <source>Столбцы…</source>
+        <translation>Столбцы…</translation>
+    </message>
+    <message id="tmif_047">
+        <source>Экспорт CSV…</source>
+        <translation>Экспорт CSV…</translation>
+    </message>
+    <message id="tmif_048">
+        <source>Экспорт KML…</source>
+        <translation>Экспорт KML…</translation>
+    </message>
+    <message id="tmif_053">
+        <source>Время записи (местное), границы включены</source>
+        <translation>Время записи (местное), границы включены</translation>
+    </message>
+    <message id="tmif_054">
+        <source>Какие поля показывать столбцами</source>
+        <translation>Какие поля показывать столбцами</translation>
+    </message>
+    <message id="tmif_055">
+        <source>Сохранить показанные записи в CSV</source>
+        <translation>Сохранить показанные записи в CSV</translation>
+    </message>
+    <message id="tmif_056">
+        <source>Сохранить трек показанных записей в KML</source>
+        <translation>Сохранить трек показанных записей в KML</translation>
+    </message>
+    <message id="tmif_060">
+        <source>Файл телеметрии</source>
+        <translation>Файл телеметрии</translation>
+    </message>
+    <message id="tmif_061">
+        <source>%1
+
+До ошибки прочитано записей: %2. Показать их?</source>
+        <translation>%1
+
+До ошибки прочитано записей: %2. Показать их?</translation>
+    </message>
+    <message id="tmif_028">
+        <source>Поле</source>
+        <translation>Поле</translation>
+    </message>
+    <message id="tmif_029">
+        <source>Значение</source>
+        <translation>Значение</translation>
+    </message>
+    <message id="tmif_032">
+        <source>Неизвестная запись</source>
+        <translation>Неизвестная запись</translation>
+    </message>
+    <message id="tmif_027">
+        <source>Запись %1 из %2</source>
+        <translation>Запись %1 из %2</translation>
+    </message>
+    <message id="tmif_033">
+        <source>Нет записей с временем не раньше %1.</source>
+        <translation>Нет записей с временем не раньше %1.</translation>
+    </message>
+    <message id="tmif_034">
+        <source>«%1» — не код события (от 0 до 65535)</source>
+        <translation>«%1» — не код события (от 0 до 65535)</translation>
+    </message>
+    <message id="tmif_035">
+        <source>Начало интервала позже его конца</source>
+        <translation>Начало интервала позже его конца</translation>
+    </message>
+    <message id="tmif_036">
+        <source>Не удаётся записать файл «%1»: %2</source>
+        <translation>Не удаётся записать файл «%1»: %2</translation>
+    </message>
+    <message id="tmif_037">
+        <source>Сохранить записи</source>
+        <translation>Сохранить записи</translation>
+    </message>
+    <message id="tmif_049">
+        <source>Показано записей: %1 из %2</source>
+        <translation>Показано записей: %1 из %2</translation>
+    </message>
 </context>
 </TS>
