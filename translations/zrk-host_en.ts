@@ -327,18 +327,6 @@
         <source>%1 — %2 байт</source>
         <translation>%1 — %2 bytes</translation>
     </message>
-    <message id="host_076">
-        <source>Период записи трека</source>
-        <translation>Track recording period</translation>
-    </message>
-    <message id="host_077">
-        <source>Интервал в секундах, с которым терминал сохраняет точку трека во время движения. При остановке запись идёт с периодом стоянки.
-
-Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.</source>
-        <translation>The interval in seconds at which the terminal stores a track point while moving. When stopped, points are recorded at the parking period.
-
-Allowed values: 1 to 3600 s. Default: 30 s.</translation>
-    </message>
     <message id="host_301">
         <source>Запись по времени</source>
         <translation>Record by time</translation>

@@ -2555,7 +2555,7 @@ Built %7</translation>
     </message>
     <message id="cfgo_033">
         <source></source>
-        <translation>Sum of the ticked fields' sizes; at most 512 bytes</translation>
+        <translation>Sum of the ticked fields&apos; sizes; at most 512 bytes</translation>
     </message>
     <message id="cfgo_034">
         <source></source>
