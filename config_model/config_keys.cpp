@@ -313,9 +313,10 @@ BranchDecl protocolBranch(bool useState2, bool useReserv)
     b.groups = QStringList { QLatin1String(fs::kOrbaNode) };
     // A fresh form shows the first entry of the generation box.
     const QString firstGeneration = fs::generationText(0);
-    KeyDecl format = text(fs::kOrbaNode, fs::kFormatKey, QLatin1String(fs::kFormatReadDefault), firstGeneration,
-        //% "Поколение протокола ORBA"
-        QT_TRID_NOOP("cfgo_081"));
+    KeyDecl format
+        = text(fs::kOrbaNode, fs::kFormatKey, QLatin1String(fs::kFormatReadDefault), firstGeneration,
+            //% "Поколение протокола ORBA"
+            QT_TRID_NOOP("cfgo_081"));
     format.choices = { 10, 20, 30 };
     b.keys << format;
     KeyDecl mask = flags(fs::kOrbaNode, fs::kMaskKey, fs::kMaskLength, fs::defaultMask(useState2),

@@ -63,19 +63,18 @@ void tst_ConfigKeysTool::lint_data()
               "text\"/></TRACK></DEVICE>"
         << 1 << QByteArray("TRACK/COORDFLT maxHDOP=.5: expected a number with one decimal, 0.1..100.0\n");
     // The generation is one of three texts; the mask is reported once, by its own rule.
-    QTest::newRow("protocol")
-        << kDecl
+    QTest::newRow("protocol") << kDecl
             + "<DEVICE><PROTOCOL page=\"PROTOCOL\"><ORBA format=\"010\" mask=\"111\" x=\"1\"/><CAN/>"
               "</PROTOCOL></DEVICE>"
-        << 1
-        << QByteArray("PROTOCOL/ORBA format=010: expected one of 10, 20, 30\n"
-                      "PROTOCOL/ORBA x=1: expected a declared key\n"
-                      "PROTOCOL/CAN: expected a declared node\n"
-                      "PROTOCOL/ORBA mask=111: expected 255 characters (found 3)\n");
-    QTest::newRow("generation 40")
-        << kDecl
+                              << 1
+                              << QByteArray("PROTOCOL/ORBA format=010: expected one of 10, 20, 30\n"
+                                            "PROTOCOL/ORBA x=1: expected a declared key\n"
+                                            "PROTOCOL/CAN: expected a declared node\n"
+                                            "PROTOCOL/ORBA mask=111: expected 255 characters (found 3)\n");
+    QTest::newRow("generation 40") << kDecl
             + "<DEVICE><PROTOCOL page=\"PROTOCOL\"><ORBA format=\"40\"/></PROTOCOL></DEVICE>"
-        << 1 << QByteArray("PROTOCOL/ORBA format=40: expected one of 10, 20, 30\n");
+                                   << 1
+                                   << QByteArray("PROTOCOL/ORBA format=40: expected one of 10, 20, 30\n");
 }
 
 void tst_ConfigKeysTool::lint()

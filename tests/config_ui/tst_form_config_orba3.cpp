@@ -300,7 +300,8 @@ void tst_FormConfigOrba3::newConfigurationBranch()
         root.writeParameters();
         closeFile(root, true);
     }
-    QCOMPARE(readAll(path), readAll(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
+    QCOMPARE(
+        readAll(path), readAll(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
     QCOMPARE(readAll(path), zrk::cfg::renderNewConfiguration());
 
     // Read back into a page set otherwise: "format" and "mask" are what was written.
