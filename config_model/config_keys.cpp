@@ -2,6 +2,7 @@
 
 #include "config_model/orba_fieldset.h"
 #include "config_model/parameters.h"
+#include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
 #include "config_model/zrk_track_caps.h"
 
@@ -304,12 +305,36 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
     return b;
 }
 
+BranchDecl protocolBranch(bool useState2, bool useReserv)
+{
+    namespace fs = fieldset;
+    BranchDecl b;
+    b.top = QLatin1String(fs::kProtocolNode);
+    b.groups = QStringList { QLatin1String(fs::kOrbaNode) };
+    // A fresh form shows the first entry of the generation box.
+    const QString firstGeneration = fs::generationText(0);
+    KeyDecl format
+        = text(fs::kOrbaNode, fs::kFormatKey, QLatin1String(fs::kFormatReadDefault), firstGeneration,
+            //% "Поколение протокола ORBA"
+            QT_TRID_NOOP("cfgo_081"));
+    format.choices = { 10, 20, 30 };
+    b.keys << format;
+    KeyDecl mask = flags(fs::kOrbaNode, fs::kMaskKey, fs::kMaskLength, fs::defaultMask(useState2),
+        fs::defaultMask(useState2, useReserv),
+        //% "Поля записи (маска)"
+        QT_TRID_NOOP("cfgo_082"));
+    mask.checkedApart = true;
+    b.keys << mask;
+    return b;
+}
+
 const QVector<BranchDecl>& declaredBranches()
 {
     // Write order of the window: record field set ("PROTOCOL"), then track and locator.
     static const QVector<BranchDecl> branches = [] {
         const ZRK_Track_Caps caps = zrkTrackCaps();
         QVector<BranchDecl> list;
+        list << protocolBranch(fieldset::kProfileState2, fieldset::kProfileReserv);
         list << trackBranch(caps);
         const BranchDecl locator = locatorBranch(caps);
         if (!locator.keys.isEmpty())
@@ -378,6 +403,18 @@ QString normalizedValue(const KeyDecl& decl, const QString& value)
     return value;
 }
 
+QString readWholeValue(const CXMLWorkData* node, const QString& key, const QString& def)
+{
+    const CXmlTagV2* entry = node && node->tag() ? node->tag()->values.getTagFromName(key) : nullptr;
+    return entry ? entry->value : def;
+}
+
+void writeWholeValue(CXMLWorkData* node, const QString& key, const QString& value)
+{
+    if (CXmlTagV2* entry = node && node->tag() ? node->tag()->values.getTagFromName(key) : nullptr)
+        entry->value = value;
+}
+
 Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
 {
     Values values;
@@ -412,7 +449,7 @@ Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
             break;
         case T::Text:
         case T::Flags:
-            values << from->readString(key.constData(), d.readDefault);
+            values << readWholeValue(from, d.key, d.readDefault);
             break;
         }
     }
@@ -445,6 +482,18 @@ void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& val
             break;
         }
     };
+    // Committed lists hold at most kParamTextMax bytes of a value; longer texts go on whole.
+    auto commit = [&branch, &values](CXMLWorkData* node, const QString& group) {
+        node->writeParameters();
+        for (int i = 0; i < branch.keys.size(); ++i) {
+            const KeyDecl& d = branch.keys[i];
+            if (d.group != group || (d.type != T::Text && d.type != T::Flags))
+                continue;
+            const QString value = i < values.size() ? values[i] : d.resetValue;
+            if (value.toLocal8Bit().size() > kParamTextMax)
+                writeWholeValue(node, d.key, value);
+        }
+    };
     for (int i = 0; i < branch.keys.size(); ++i) {
         if (branch.keys[i].group.isEmpty())
             writeKey(top.get(), branch.keys[i], i);
@@ -458,9 +507,9 @@ void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& val
             if (branch.keys[i].group == group)
                 writeKey(node.get(), branch.keys[i], i);
         }
-        node->writeParameters();
+        commit(node.get(), group);
     }
-    top->writeParameters();
+    commit(top.get(), QString());
 }
 
 Values resetValues(const BranchDecl& branch)
@@ -494,6 +543,7 @@ QByteArray renderNewConfiguration(const QString& model, const QString& vendor)
         writeConfigHeader(&root, model, vendor);
         for (const BranchDecl& b : declaredBranches())
             writeBranch(&root, b, resetValues(b));
+        fieldset::writeUserParams(&root, fieldset::defaultUserParams());
         root.writeParameters();
     }
     zrk_GetSZMemo(&memo);
@@ -528,6 +578,12 @@ QString expectedText(const KeyDecl& d)
         return QStringLiteral("a number with one decimal, %1..%2")
             .arg(oneDecimal(d.min / 10.0), oneDecimal(d.max / 10.0));
     case T::Text:
+        if (!d.choices.isEmpty()) {
+            QStringList c;
+            for (int v : d.choices)
+                c << QString::number(v);
+            return QStringLiteral("one of ") + c.join(QStringLiteral(", "));
+        }
         break;
     }
     return QString();
@@ -557,7 +613,9 @@ bool valueFits(const KeyDecl& d, const QString& value)
         return decimal.match(value).hasMatch() && v >= d.min / 10.0 - 1e-9 && v <= d.max / 10.0 + 1e-9;
     }
     case T::Text:
-        break;
+        // Exactly the decimal text of a choice: " 10" or "010" is not what the page writes.
+        return d.choices.isEmpty()
+            || (d.choices.contains(value.toInt()) && QString::number(value.toInt()) == value);
     }
     return true;
 }
@@ -626,7 +684,7 @@ QVector<LintFinding> lintConfiguration(CXMLWorkData* root)
                 const int i = branch->indexOf(group, name);
                 if (i < 0)
                     findings.append({ path, name, value, QStringLiteral("a declared key") });
-                else if (!valueFits(branch->keys[i], value))
+                else if (!branch->keys[i].checkedApart && !valueFits(branch->keys[i], value))
                     findings.append({ path, name, value, expectedText(branch->keys[i]) });
             }
             // The altitude window keeps 100 m between its ends.

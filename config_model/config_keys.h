@@ -29,7 +29,7 @@ enum class KeyType
 {
     Integer, // "%d", checked against min..max
     Bool, // "1"/"0"
-    Text, // any string
+    Text, // any string; when `choices` is not empty, only their decimal texts
     Flags, // a string of "0"/"1", `length` characters
     Decimal, // text with exactly one decimal ("2.5"), at least min tenths
 };
@@ -47,7 +47,8 @@ struct KeyDecl
     const char* labelId = nullptr; // catalogue id of the key's display label
     bool keptOnReset = false; // reset leaves the current value (resetValue is that of a fresh form)
     bool zeroMeansOff = false; // Integer: 0 switches the setting off, else min..max
-    QVector<int> choices; // Integer: the only values allowed, when not empty
+    QVector<int> choices; // Integer, Text: the only values allowed, when not empty
+    bool checkedApart = false; // lint checks it by a rule of its own (the record mask)
 };
 
 // One branch a page owns: its top node under "DEVICE", its record nodes in write order and keys.
@@ -71,10 +72,19 @@ const QStringList& blackListDefaults();
 // The track page's two branches for a given capability record (the page and tests use others).
 BranchDecl trackBranch(const ZRK_Track_Caps& caps);
 BranchDecl locatorBranch(const ZRK_Track_Caps& caps);
+// The record field-set branch ("PROTOCOL"/"ORBA"): the default mask's position 122 follows the
+// device's second-state flag; reset also clears position 19 when the device has no backup battery.
+BranchDecl protocolBranch(bool useState2, bool useReserv = true);
 
 // node: a record node name ("POINTS") or a path ("TRACK/POINTS"); null when not declared.
 const KeyDecl* findDeclaredKey(const QString& node, const QString& key);
 QString declaredKeyLabel(const KeyDecl& decl);
+
+// The parameter list keeps at most 254 bytes of a value, one short of the record mask. Text values
+// are read whole from the element's own attribute, and a longer one is put there after the list
+// has been committed (writeParameters), so nothing is cut.
+QString readWholeValue(const CXMLWorkData* node, const QString& key, const QString& def);
+void writeWholeValue(CXMLWorkData* node, const QString& key, const QString& value);
 
 // Reads the branch under root (creating missing nodes, as every page does); missing keys yield
 // their read default. A null root yields the read defaults.
@@ -88,7 +98,8 @@ QString normalizedValue(const KeyDecl& decl, const QString& value);
 
 // "model", "version", "creator", "vendor" on the root, as the window writes them.
 void writeConfigHeader(CXMLWorkData* root, const QString& model, const QString& vendor);
-// The file that "new" followed by saving produces: header, then every declared branch at reset.
+// The file that "new" followed by saving produces: header, every declared branch at reset, then the
+// user parameters at their defaults (the window writes them last, after all pages).
 QByteArray renderNewConfiguration(const QString& model = QString::fromLatin1(kDefaultModel),
     const QString& vendor = QString::fromLatin1(kDefaultVendor));
 

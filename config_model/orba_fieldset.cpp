@@ -1,5 +1,6 @@
 #include "config_model/orba_fieldset.h"
 
+#include "config_model/config_keys.h"
 #include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
 #include "telemetry/orba_record.h"
@@ -29,20 +30,6 @@ std::unique_ptr<CXMLWorkData> child(CXMLWorkData* parent, const char* name, int 
     return std::unique_ptr<CXMLWorkData>(parent ? parent->createNode(name, mode) : nullptr);
 }
 
-// The parameter list keeps 254 bytes of a value, one short of the mask: the mask goes to and
-// comes from the element's own attribute entry, after the list has been committed.
-void writeWholeValue(CXMLWorkData* node, const char* key, const QString& value)
-{
-    if (CXmlTagV2* entry = node->tag() ? node->tag()->values.getTagFromName(QLatin1String(key)) : nullptr)
-        entry->value = value;
-}
-
-QString readWholeValue(const CXMLWorkData* node, const char* key, const QString& def)
-{
-    const CXmlTagV2* entry = node->tag() ? node->tag()->values.getTagFromName(QLatin1String(key)) : nullptr;
-    return entry ? entry->value : def;
-}
-
 } // namespace
 
 const QString const_qsDef_Orba1 = defaultMaskOf(kSpanEnd[1]);
@@ -61,15 +48,6 @@ int generationIndex(const QString& format)
 QString generationText(int index)
 {
     return QLatin1String(kFormatTexts[index >= 0 && index < 3 ? index : 1]);
-}
-
-const QVector<ProtocolKey>& protocolKeys()
-{
-    static const QVector<ProtocolKey> keys = {
-        { kOrbaNode, kFormatKey, 0 },
-        { kOrbaNode, kMaskKey, kMaskLength },
-    };
-    return keys;
 }
 
 QString defaultMask(bool useState2, bool useReserv)
@@ -141,31 +119,20 @@ QStringList checkMask(const QString& mask, int generation)
 
 FieldSetChoice readFieldSet(CXMLWorkData* root, bool useState2)
 {
-    FieldSetChoice choice { QLatin1String(kFormatReadDefault), defaultMask(useState2) };
-    auto protocol = child(root, kProtocolNode, NodeFindOrCreate);
-    auto orbaNode = child(protocol.get(), kOrbaNode, NodeFindOrCreate);
-    if (!orbaNode)
-        return choice;
-    choice.format = orbaNode->readString(kFormatKey, choice.format);
-    choice.mask = sanitizedMask(readWholeValue(orbaNode.get(), kMaskKey, choice.mask));
-    return choice;
+    const cfg::BranchDecl branch = cfg::protocolBranch(useState2);
+    const cfg::Values values = cfg::readBranch(root, branch);
+    const int format = branch.indexOf(QLatin1String(kOrbaNode), QLatin1String(kFormatKey));
+    const int mask = branch.indexOf(QLatin1String(kOrbaNode), QLatin1String(kMaskKey));
+    return { values.value(format), sanitizedMask(values.value(mask)) };
 }
 
 void writeFieldSet(CXMLWorkData* root, const FieldSetChoice& choice)
 {
-    auto top = child(root, kProtocolNode, NodeFindOrCreate);
-    if (!top)
-        return;
-    top->clearNode();
-    top->writeString(kPageKey, kProtocolNode);
-    if (auto orbaNode = child(top.get(), kOrbaNode, NodeRecord)) {
-        orbaNode->clearNode();
-        orbaNode->writeString(kFormatKey, choice.format);
-        orbaNode->writeString(kMaskKey, choice.mask);
-        orbaNode->writeParameters();
-        writeWholeValue(orbaNode.get(), kMaskKey, choice.mask);
-    }
-    top->writeParameters();
+    const cfg::BranchDecl branch = cfg::protocolBranch(kProfileState2);
+    cfg::Values values = cfg::resetValues(branch);
+    values[branch.indexOf(QLatin1String(kOrbaNode), QLatin1String(kFormatKey))] = choice.format;
+    values[branch.indexOf(QLatin1String(kOrbaNode), QLatin1String(kMaskKey))] = choice.mask;
+    cfg::writeBranch(root, branch, values);
 }
 
 bool readStoredFieldSet(CXMLWorkData* root, QString* mask, QString* format)
@@ -175,7 +142,7 @@ bool readStoredFieldSet(CXMLWorkData* root, QString* mask, QString* format)
     if (!orbaNode || !orbaNode->tag() || !orbaNode->tag()->values.exists(QLatin1String(kMaskKey)))
         return false;
     if (mask)
-        *mask = readWholeValue(orbaNode.get(), kMaskKey, QString());
+        *mask = cfg::readWholeValue(orbaNode.get(), QLatin1String(kMaskKey), QString());
     if (format)
         *format = orbaNode->readString(kFormatKey, QLatin1String(kFormatReadDefault));
     return true;
@@ -248,7 +215,7 @@ void writeUserParams(CXMLWorkData* root, const UserParams& params)
     if (!top)
         return;
     top->clearNode();
-    top->writeString(kPageKey, kUserNode);
+    top->writeString(cfg::kPageKey, kUserNode);
     for (int g = 0; g < 4; ++g) {
         auto node = child(top.get(), userGroupNode(g).toLatin1().constData(), NodeRecord);
         if (!node)

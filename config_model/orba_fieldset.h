@@ -23,22 +23,12 @@ constexpr char kProtocolNode[] = "PROTOCOL";
 constexpr char kOrbaNode[] = "ORBA";
 constexpr char kFormatKey[] = "format";
 constexpr char kMaskKey[] = "mask";
-constexpr char kPageKey[] = "page";
 
 // Generation texts as stored, by FlashFormat index; anything else reads as the second.
 constexpr const char* kFormatTexts[3] = { "10", "20", "30" };
 constexpr char kFormatReadDefault[] = "10";
 int generationIndex(const QString& format); // 0..2
 QString generationText(int index); // out of range: "20"
-
-// The branch's keys, kept as one small table until they join the declared configuration keys.
-struct ProtocolKey
-{
-    const char* node;
-    const char* key;
-    int length; // characters of a flag string, 0 for free text
-};
-const QVector<ProtocolKey>& protocolKeys();
 
 // The default masks: each generation's extends the previous one.
 extern const QString const_qsDef_Orba1; // 69 characters
@@ -48,6 +38,9 @@ extern const QString const_qsDef_Orba3; // 255
 constexpr int kPosState2 = 122;
 constexpr int kPosReserv = 19;
 QString defaultMask(bool useState2, bool useReserv = true);
+// This model's profile: the second terminal state is in the default mask, the backup battery shown.
+constexpr bool kProfileState2 = true;
+constexpr bool kProfileReserv = true;
 
 // A stored mask read as far as it is valid ("0"/"1"), the rest "0", exactly 255 characters.
 QString sanitizedMask(const QString& text);
@@ -61,7 +54,8 @@ int positionGeneration(int pos);
 // The mask faults a lint reports; empty when the mask is good.
 QStringList checkMask(const QString& mask, int generation = 2);
 
-// What a configuration tree holds for the page; missing keys give their read defaults.
+// What a configuration tree holds for the page; missing keys give their read defaults. Both walk
+// the declared "PROTOCOL" rows (zrk::cfg::protocolBranch), the mask whole.
 struct FieldSetChoice
 {
     QString format;

@@ -23,7 +23,7 @@ void ZRK_Form_Config_Orba3::setFormCreate()
     createTab_User();
 
     setDeviceUseState(true, true);
-    setUseDefState2(true);
+    setUseDefState2(zrk::fieldset::kProfileState2);
     setDeviceAlwaysUseState(false, true);
     setDeviceUseModule(true, true, true);
     setDeviceAlwaysUseModule(false, false, true);

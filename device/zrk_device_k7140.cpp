@@ -11,6 +11,8 @@
 
 #include <QApplication>
 #include <QByteArray>
+#include <QDate>
+#include <QLocale>
 
 #include <algorithm>
 #include <cstring>
@@ -456,6 +458,12 @@ void ZRK_Device_K7140::InitConfigurator(ZRK_SendMessageFn send)
     showAboutText();
 }
 
+// The compiler's date of this build ("Nov  2 2026"), as a date.
+static QDate buildDate()
+{
+    return QLocale::c().toDate(QString::fromLatin1(__DATE__).simplified(), QStringLiteral("MMM d yyyy"));
+}
+
 void ZRK_Device_K7140::showAboutText()
 {
     if (!m_formAbout)
@@ -469,7 +477,7 @@ void ZRK_Device_K7140::showAboutText()
                                        .arg(m_libraryInfo.hostValues[2])
                                        .arg(m_libraryInfo.hostValues[3])
                                        .arg(QString::fromLatin1(kLibraryVersion))
-                                       .arg(QStringLiteral(__DATE__)));
+                                       .arg(buildDate().toString(QStringLiteral("dd.MM.yyyy"))));
 }
 
 unsigned long ZRK_Device_K7140::SendMessage(void* handle, int msg, unsigned long w, unsigned long l)

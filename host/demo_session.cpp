@@ -151,5 +151,6 @@ int ZrkDemoSession::run()
     ok = grabScreen(QStringLiteral("screen")) && ok;
     about->hide();
     wait->hide();
+    runTelemetrySteps();
     return ok ? 0 : 1;
 }

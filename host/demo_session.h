@@ -26,6 +26,7 @@ public:
     QStringList writtenFiles() const { return m_written; }
 
 private:
+    void runTelemetrySteps(); // demo_telemetry.cpp
     void settle(int ms = 150);
     bool grab(QWidget* widget, const QString& name);
     bool grabScreen(const QString& name);

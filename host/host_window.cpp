@@ -306,6 +306,7 @@ QWidget* ZrkHostWindow::buildControls()
     termGrid->setColumnStretch(3, 1);
     layout->addWidget(termBox);
     m_pluginControls << connectButton << disconnectButton;
+    m_controlsLayout = layout;
 
     // The plug-in's windows.
     auto* winBox = new QGroupBox(
@@ -339,6 +340,13 @@ QWidget* ZrkHostWindow::buildControls()
     m_pluginControls << newConfig << tmiView << tmiFile;
     layout->addStretch();
     return panel;
+}
+
+void ZrkHostWindow::addSimulatorPanel(QWidget* panel)
+{
+    // Right under the terminal group, in the order the simulators come.
+    const int terminalAt = m_controlsLayout->indexOf(m_termState->parentWidget());
+    m_controlsLayout->insertWidget(terminalAt + 1 + m_simulatorPanels++, panel);
 }
 
 void ZrkHostWindow::setControlsEnabled(bool enabled)

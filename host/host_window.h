@@ -9,6 +9,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSpinBox;
+class QVBoxLayout;
 class ZrkHostDispatcher;
 class ZrkMessageLog;
 class ZrkPluginLoader;
@@ -23,6 +24,9 @@ public:
     ZrkHostWindow(ZrkPluginLoader& loader, ZrkHostDispatcher& dispatcher, QWidget* parent = nullptr);
 
     ZrkMessageLog* messageLog() const { return m_log; }
+
+    // A simulator's own controls, placed under the terminal's.
+    void addSimulatorPanel(QWidget* panel);
 
     // Loads, identifies and initialises the plug-in, then asks its queries. False with the reason
     // shown in the window when the file is not a plug-in of this family.
@@ -80,4 +84,6 @@ private:
     QComboBox* m_language = nullptr;
     QComboBox* m_tmiKind = nullptr;
     QList<QWidget*> m_pluginControls;
+    QVBoxLayout* m_controlsLayout = nullptr;
+    int m_simulatorPanels = 0;
 };

@@ -6,6 +6,7 @@
 #include "host_window.h"
 #include "plugin_loader.h"
 #include "sim_sdcard.h"
+#include "sim_telemetry.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -72,6 +73,9 @@ int main(int argc, char* argv[])
         ZrkHostWindow window(loader, dispatcher);
         auto* sdCard = new ZrkSimSdCard(dispatcher, &window);
         window.addDockWidget(Qt::RightDockWidgetArea, sdCard->createDock());
+        ZrkSimTelemetry telemetry;
+        telemetry.install(dispatcher);
+        window.addSimulatorPanel(telemetry.createPanel());
         if (parser.isSet(demo)) {
             ZrkDemoSession session(window, plugin, parser.value(demo));
             status = session.run();

@@ -63,7 +63,8 @@ QByteArray ZrkSimSdCard::handle(szSDFile& r)
     };
     if (!m_present)
         return answer(ZRK_SD_NO_CARD, 0);
-    const QString name = r.fileName;
+    // A deep copy: the plug-in's text may live in the plug-in's own memory, gone after unload.
+    const QString name(r.fileName.constData(), r.fileName.size());
     const bool nameOk = !name.isEmpty() && name.toUtf8().size() <= ZRK_SD_NAME_MAX;
     const auto it = m_files.constFind(name);
     const quint32 size = it == m_files.cend() ? 0 : quint32(it->size());

@@ -2,7 +2,10 @@
 
 // The ORBA telemetry record: its field table, the all-fields structures of the three versions,
 // the extended record, and the decoder they share. Everything here is derived from the tables in
-// orba_fields.def, orba_subvalues.def and orba_ext.def. No widgets.
+// the published field table (include/zrk/orba_fields.def) with the display rules of
+// orba_field_rules.def, orba_subvalues.def and orba_ext.def. No widgets.
+
+#include "zrk/zrk_orba_format.h"
 
 #include "config_model/common_routines.h"
 
@@ -49,22 +52,22 @@ enum class Rule
     Degrees, // double-precision degrees with 6 decimals
 };
 
-constexpr int kFieldCount = 255;
-constexpr int kMaskBytes = 32;
-constexpr int kMaskOffset = 2;
-constexpr int kBodyOffset = kMaskOffset + kMaskBytes; // 34: the first value byte of a current record
+constexpr int kFieldCount = ZRK_ORBA_FIELD_COUNT;
+constexpr int kMaskBytes = ZRK_ORBA_MASK_BYTES;
+constexpr int kMaskOffset = ZRK_ORBA_MASK_OFFSET;
+constexpr int kBodyOffset = ZRK_ORBA_BODY_OFFSET; // 34: the first value byte of a current record
 constexpr int kHeadBytes = 44; // the page's copy of the record head
 constexpr int kRawBytes = 512; // the page's copy of the raw buffer
-constexpr int kFixedPacketBytes = 128;
+constexpr int kFixedPacketBytes = ZRK_ORBA_FIXED_PACKET_BYTES;
 constexpr int kExtDynamicBytes = 256;
 
-constexpr unsigned char kKindCurrent = 0xB0;
-constexpr unsigned char kKindExtended = 0xB1;
-constexpr unsigned char kKindFixedPacket = 0x08;
+constexpr unsigned char kKindCurrent = ZRK_ORBA_KIND_CURRENT;
+constexpr unsigned char kKindExtended = ZRK_ORBA_KIND_EXTENDED;
+constexpr unsigned char kKindFixedPacket = ZRK_ORBA_KIND_FIXED_PACKET;
 
 // Last field number and version byte, indexed by version 1..3.
-constexpr int kLastField[4] = { 0, 69, 122, 255 };
-constexpr unsigned char kVersionByte[4] = { 0, 10, 20, 30 };
+constexpr int kLastField[4] = { 0, ZRK_ORBA_LAST_FIELD_V1, ZRK_ORBA_LAST_FIELD_V2, ZRK_ORBA_LAST_FIELD_V3 };
+constexpr unsigned char kVersionByte[4] = { 0, ZRK_ORBA_VERSION_1, ZRK_ORBA_VERSION_2, ZRK_ORBA_VERSION_3 };
 
 // ---- The field table -------------------------------------------------------------------------
 
@@ -78,20 +81,32 @@ struct FieldInfo
     int version; // first version that has the field
 };
 
-// Indexed by field number - 1.
-inline constexpr FieldInfo kFields[] = {
-#define ORBA_FIELD(no, name, width, type, rule) { no, #name, width, Type::type, Rule::rule, 1 },
-#define ORBA_FIELD_V2(no, name, width, type, rule) { no, #name, width, Type::type, Rule::rule, 2 },
-#define ORBA_FIELD_V3(no, name, width, type, rule) { no, #name, width, Type::type, Rule::rule, 3 },
-#include "telemetry/orba_fields.def"
-};
-static_assert(std::size(kFields) == kFieldCount, "one row per field");
-
 enum FieldNo
 {
-#define ORBA_FIELD(no, name, width, type, rule) F_##name = no,
-#include "telemetry/orba_fields.def"
+#define ORBA_FIELD(no, name, width, type) F_##name = no,
+#include "zrk/orba_fields.def"
 };
+
+// kRules[n]: the display rule of field n; fields without a row in orba_field_rules.def are plain.
+constexpr std::array<Rule, kFieldCount + 1> makeRules()
+{
+    std::array<Rule, kFieldCount + 1> r {};
+    for (Rule& x : r)
+        x = Rule::Plain;
+#define ORBA_RULE(name, rule) r[F_##name] = Rule::rule;
+#include "telemetry/orba_field_rules.def"
+    return r;
+}
+inline constexpr std::array<Rule, kFieldCount + 1> kRules = makeRules();
+
+// Indexed by field number - 1.
+inline constexpr FieldInfo kFields[] = {
+#define ORBA_FIELD(no, name, width, type) { no, #name, width, Type::type, kRules[no], 1 },
+#define ORBA_FIELD_V2(no, name, width, type) { no, #name, width, Type::type, kRules[no], 2 },
+#define ORBA_FIELD_V3(no, name, width, type) { no, #name, width, Type::type, kRules[no], 3 },
+#include "zrk/orba_fields.def"
+};
+static_assert(std::size(kFields) == kFieldCount, "one row per field");
 
 constexpr bool rowsAreNumberedInOrder()
 {
@@ -238,21 +253,21 @@ template <int W, Type T, int Shift, int Bits> auto readSub(const unsigned char* 
 // Every field of a version at its width, in field order; absent fields stay zero.
 struct szCurrentTMI_ORBA1
 {
-#define ORBA_FIELD(no, name, width, type, rule) unsigned char name[width];
+#define ORBA_FIELD(no, name, width, type) unsigned char name[width];
 #define ORBA_FIELD_V2(...)
 #define ORBA_FIELD_V3(...)
-#include "telemetry/orba_fields.def"
+#include "zrk/orba_fields.def"
 };
 struct szCurrentTMI_ORBA2
 {
-#define ORBA_FIELD(no, name, width, type, rule) unsigned char name[width];
+#define ORBA_FIELD(no, name, width, type) unsigned char name[width];
 #define ORBA_FIELD_V3(...)
-#include "telemetry/orba_fields.def"
+#include "zrk/orba_fields.def"
 };
 struct szCurrentTMI_ORBA3
 {
-#define ORBA_FIELD(no, name, width, type, rule) unsigned char name[width];
-#include "telemetry/orba_fields.def"
+#define ORBA_FIELD(no, name, width, type) unsigned char name[width];
+#include "zrk/orba_fields.def"
 };
 
 // The extended record: its fixed head, then room for the dynamic data.
@@ -271,22 +286,27 @@ static_assert(sizeof(szCurrentTMI_ORBA3) == 734 && recordSize(3) == 734, "versio
 static_assert(sizeof(szExtTMI_ORBA3) == 314, "the extended record structure is 314 bytes");
 
 // Each field sits where the table puts it, and the lower versions are prefixes of version 3.
-#define ORBA_FIELD(no, name, width, type, rule)                                                              \
+#define ORBA_FIELD(no, name, width, type)                                                                    \
     static_assert(offsetof(szCurrentTMI_ORBA3, name) == kOffsets[no], #name " offset");                      \
     static_assert(offsetof(szCurrentTMI_ORBA2, name) == kOffsets[no], #name " offset in version 2");         \
     static_assert(offsetof(szCurrentTMI_ORBA1, name) == kOffsets[no], #name " offset in version 1");
-#define ORBA_FIELD_V2(no, name, width, type, rule)                                                           \
+#define ORBA_FIELD_V2(no, name, width, type)                                                                 \
     static_assert(offsetof(szCurrentTMI_ORBA3, name) == kOffsets[no], #name " offset");                      \
     static_assert(offsetof(szCurrentTMI_ORBA2, name) == kOffsets[no], #name " offset in version 2");
-#define ORBA_FIELD_V3(no, name, width, type, rule)                                                           \
+#define ORBA_FIELD_V3(no, name, width, type)                                                                 \
     static_assert(offsetof(szCurrentTMI_ORBA3, name) == kOffsets[no], #name " offset");
-#include "telemetry/orba_fields.def"
+#include "zrk/orba_fields.def"
 
 #define ORBA_EXT(name, xml, offset, width, type, rule)                                                       \
     static_assert(offsetof(szExtTMI_ORBA3, name) == offset, #name " offset in the extended head");
 #include "telemetry/orba_ext.def"
 
 constexpr int kExtHeadBytes = offsetof(szExtTMI_ORBA3, DynamicData); // 58
+static_assert(kExtHeadBytes == ZRK_ORBA_EXT_HEAD_BYTES
+        && offsetof(szExtTMI_ORBA3, DataSize) == ZRK_ORBA_EXT_DATA_SIZE
+        && offsetof(szExtTMI_ORBA3, Latitude) == ZRK_ORBA_EXT_LATITUDE
+        && offsetof(szExtTMI_ORBA3, Motochas) == ZRK_ORBA_EXT_MOTOCHAS,
+    "the extended head is laid out as published");
 
 struct ExtInfo
 {

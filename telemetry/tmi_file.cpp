@@ -53,11 +53,15 @@ QByteArray xmlText(const QString& s)
         default:
             break;
         }
+        if (c.unicode() >= 0x20 && c.unicode() < 0x80) {
+            out += char(c.unicode());
+            continue;
+        }
         if (c.unicode() < 0x20 || c.isSurrogate() || !codec->canEncode(c)) {
             out += "&#" + QByteArray::number(c.unicode()) + ';';
             continue;
         }
-        out += c.unicode() < 0x80 ? QByteArray(1, char(c.unicode())) : codec->fromUnicode(QString(c));
+        out += codec->fromUnicode(QString(c));
     }
     return out;
 }

@@ -3,6 +3,7 @@
 #include "telemetry/tmipage_orba3.h"
 #include "ui_zrk_form_tmi_ext.h"
 
+#include <QFontDatabase>
 #include <QTextStream>
 
 // The Russian texts of the ids the form file carries (uic passes the ids on as they are).
@@ -25,7 +26,11 @@ ZRK_Form_TMI_Ext::ZRK_Form_TMI_Ext(QWidget* parent)
 {
     ui->setupUi(this);
     setObjectName(QStringLiteral("ZRK_Form_TMI_Ext"));
-    ui->ExtXml->setFont(QFont(QStringLiteral("Monospace"), 9));
+    // The system's fixed font rather than a family named by a literal: Qt's font cache keeps such a
+    // name after the plug-in is unloaded, and the literal's bytes go with the plug-in.
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSize(9);
+    ui->ExtXml->setFont(fixed);
     // One row per head value, made once; a record changes only their texts.
     for (int id = 0; id < orba::kExtCount; ++id)
         new QTreeWidgetItem(ui->ExtHead, QStringList { QString::fromLatin1(orba::kExtFields[id].name), QString() });

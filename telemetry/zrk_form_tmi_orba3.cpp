@@ -1,9 +1,10 @@
 #include "telemetry/zrk_form_tmi_orba3.h"
 
 #include "telemetry/orba_page.h"
-#include "telemetry/zrk_tmi_field_label.h"
+#include "telemetry/orba_field_labels.h"
 #include "ui_zrk_form_tmi_orba3.h"
 
+#include <QFontDatabase>
 #include <QHeaderView>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -144,7 +145,11 @@ void ZRK_Form_TMI_Orba3::buildTabs()
     m_raw = new QPlainTextEdit;
     m_raw->setObjectName(QStringLiteral("RawText"));
     m_raw->setReadOnly(true);
-    m_raw->setFont(QFont(QStringLiteral("Monospace"), 9));
+    // The system's fixed font rather than a family named by a literal: Qt's font cache keeps such a
+    // name after the plug-in is unloaded, and the literal's bytes go with the plug-in.
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSize(9);
+    m_raw->setFont(fixed);
     m_raw->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     ui->Tabs->addTab(m_raw, QString());
     m_tabTitleIds << -2;
@@ -152,7 +157,7 @@ void ZRK_Form_TMI_Orba3::buildTabs()
 
 void ZRK_Form_TMI_Orba3::addFieldRows(QTreeWidget* tree, int no)
 {
-    auto* item = new QTreeWidgetItem(tree, QStringList { zrk::tmiFieldLabel(no), QString() });
+    auto* item = new QTreeWidgetItem(tree, QStringList { orba::fieldLabel(no), QString() });
     item->setToolTip(0, QStringLiteral("%1 (%2)").arg(no).arg(QLatin1String(orba::kFields[no - 1].name)));
     Kind kind = Kind::Field;
     if (no == orba::F_Code)

@@ -2,7 +2,7 @@
 
 #include "telemetry/orba_dispatch.h"
 #include "telemetry/orba_page.h"
-#include "telemetry/zrk_tmi_field_label.h"
+#include "telemetry/orba_field_labels.h"
 #include "telemetry/zrk_tmi_session.h"
 
 #include <QLayout>
@@ -49,7 +49,7 @@ void ZRK_Tmi_Chart::addField(int no, const ZRK_Tmi_Session& session)
     if (!orba::isPlottable(no) || fields().contains(no))
         return;
     auto* series = new QLineSeries;
-    series->setName(zrk::tmiFieldLabel(no));
+    series->setName(orba::fieldLabel(no));
     series->setPointsVisible(true);
     m_chart->addSeries(series);
     series->attachAxis(m_axisX);
@@ -116,7 +116,7 @@ void ZRK_Tmi_Chart::updateRanges()
             lo = qMin(lo, p.min);
             hi = qMax(hi, p.max);
             p.series->setName(QStringLiteral("%1 (%2 … %3)")
-                                  .arg(zrk::tmiFieldLabel(p.field))
+                                  .arg(orba::fieldLabel(p.field))
                                   .arg(p.min, 0, 'g', 6)
                                   .arg(p.max, 0, 'g', 6));
         }
@@ -138,10 +138,10 @@ QString ZRK_Tmi_Chart::minMaxText() const
     for (const Plot& p : m_plots) {
         if (p.any)
             //% "%1: мин. %2, макс. %3"
-            lines << qtTrId("tmiw_043").arg(zrk::tmiFieldLabel(p.field)).arg(p.min, 0, 'g', 6).arg(p.max, 0, 'g', 6);
+            lines << qtTrId("tmiw_043").arg(orba::fieldLabel(p.field)).arg(p.min, 0, 'g', 6).arg(p.max, 0, 'g', 6);
         else
             //% "%1: нет данных"
-            lines << qtTrId("tmiw_044").arg(zrk::tmiFieldLabel(p.field));
+            lines << qtTrId("tmiw_044").arg(orba::fieldLabel(p.field));
     }
     return lines.join(QLatin1Char('\n'));
 }

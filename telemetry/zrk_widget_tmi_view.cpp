@@ -8,7 +8,7 @@
 #include "telemetry/zrk_form_tmi_orba3.h"
 #include "telemetry/zrk_form_tmi_production.h"
 #include "telemetry/zrk_tmi_chart.h"
-#include "telemetry/zrk_tmi_field_label.h"
+#include "telemetry/orba_field_labels.h"
 #include "telemetry/zrk_tmi_session.h"
 #include "ui_zrk_widget_tmi_view.h"
 
@@ -202,7 +202,7 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
     m_chart = new ZRK_Tmi_Chart(ui->ChartHost, this);
     for (int no = 1; no <= orba::kFieldCount; ++no)
         if (orba::isPlottable(no))
-            ui->ChartField->addItem(zrk::tmiFieldLabel(no), no);
+            ui->ChartField->addItem(orba::fieldLabel(no), no);
     ui->ChartField->setCurrentIndex(ui->ChartField->findData(int(orba::F_Speed)));
     ui->MainSplitter->setStretchFactor(1, 3);
     ui->MainSplitter->setStretchFactor(2, 2);

@@ -327,5 +327,85 @@
         <source>%1 — %2 байт</source>
         <translation>%1 — %2 bytes</translation>
     </message>
+    <message id="host_301">
+        <source>Запись по времени</source>
+        <translation>Record by time</translation>
+    </message>
+    <message id="host_302">
+        <source>Запись по изменению курса</source>
+        <translation>Record on course change</translation>
+    </message>
+    <message id="host_303">
+        <source>Включение зажигания</source>
+        <translation>Ignition on</translation>
+    </message>
+    <message id="host_304">
+        <source>Выключение зажигания</source>
+        <translation>Ignition off</translation>
+    </message>
+    <message id="host_305">
+        <source>Включение выхода</source>
+        <translation>Output switched on</translation>
+    </message>
+    <message id="host_306">
+        <source>Выключение выхода</source>
+        <translation>Output switched off</translation>
+    </message>
+    <message id="host_307">
+        <source>Постановка на охрану</source>
+        <translation>Guard mode on</translation>
+    </message>
+    <message id="host_308">
+        <source>Снятие с охраны</source>
+        <translation>Guard mode off</translation>
+    </message>
+    <message id="host_309">
+        <source>Событие %1</source>
+        <translation>Event %1</translation>
+    </message>
+    <message id="host_310">
+        <source>Нет ошибок</source>
+        <translation>No faults</translation>
+    </message>
+    <message id="host_311">
+        <source>Нет связи с навигационным приёмником</source>
+        <translation>No link to the navigation receiver</translation>
+    </message>
+    <message id="host_312">
+        <source>Низкое напряжение питания</source>
+        <translation>Low supply voltage</translation>
+    </message>
+    <message id="host_313">
+        <source>Ошибка SIM-карты</source>
+        <translation>SIM card fault</translation>
+    </message>
+    <message id="host_314">
+        <source>Ошибка памяти</source>
+        <translation>Memory fault</translation>
+    </message>
+    <message id="host_315">
+        <source>Диагностический код %1</source>
+        <translation>Diagnostic code %1</translation>
+    </message>
+    <message id="host_316">
+        <source>Терминал: телеметрия</source>
+        <translation>Terminal: telemetry</translation>
+    </message>
+    <message id="host_317">
+        <source>Версия записей, которые отдаёт терминал; её меняет и записанная конфигурация</source>
+        <translation>Version of the records the terminal sends; a written configuration changes it too</translation>
+    </message>
+    <message id="host_318">
+        <source>Передать расширенную запись (2312)</source>
+        <translation>Send extended record (2312)</translation>
+    </message>
+    <message id="host_319">
+        <source>Версия записей:</source>
+        <translation>Record version:</translation>
+    </message>
+    <message id="host_320">
+        <source>Записей: %1 (№ %2–%3); полей в записи: %4, %5 байт</source>
+        <translation>Records: %1 (No. %2–%3); fields per record: %4, %5 bytes</translation>
+    </message>
 </context>
 </TS>

@@ -327,5 +327,85 @@
         <source>%1 — %2 байт</source>
         <translation>%1 — %2 байт</translation>
     </message>
+    <message id="host_301">
+        <source>Запись по времени</source>
+        <translation>Запись по времени</translation>
+    </message>
+    <message id="host_302">
+        <source>Запись по изменению курса</source>
+        <translation>Запись по изменению курса</translation>
+    </message>
+    <message id="host_303">
+        <source>Включение зажигания</source>
+        <translation>Включение зажигания</translation>
+    </message>
+    <message id="host_304">
+        <source>Выключение зажигания</source>
+        <translation>Выключение зажигания</translation>
+    </message>
+    <message id="host_305">
+        <source>Включение выхода</source>
+        <translation>Включение выхода</translation>
+    </message>
+    <message id="host_306">
+        <source>Выключение выхода</source>
+        <translation>Выключение выхода</translation>
+    </message>
+    <message id="host_307">
+        <source>Постановка на охрану</source>
+        <translation>Постановка на охрану</translation>
+    </message>
+    <message id="host_308">
+        <source>Снятие с охраны</source>
+        <translation>Снятие с охраны</translation>
+    </message>
+    <message id="host_309">
+        <source>Событие %1</source>
+        <translation>Событие %1</translation>
+    </message>
+    <message id="host_310">
+        <source>Нет ошибок</source>
+        <translation>Нет ошибок</translation>
+    </message>
+    <message id="host_311">
+        <source>Нет связи с навигационным приёмником</source>
+        <translation>Нет связи с навигационным приёмником</translation>
+    </message>
+    <message id="host_312">
+        <source>Низкое напряжение питания</source>
+        <translation>Низкое напряжение питания</translation>
+    </message>
+    <message id="host_313">
+        <source>Ошибка SIM-карты</source>
+        <translation>Ошибка SIM-карты</translation>
+    </message>
+    <message id="host_314">
+        <source>Ошибка памяти</source>
+        <translation>Ошибка памяти</translation>
+    </message>
+    <message id="host_315">
+        <source>Диагностический код %1</source>
+        <translation>Диагностический код %1</translation>
+    </message>
+    <message id="host_316">
+        <source>Терминал: телеметрия</source>
+        <translation>Терминал: телеметрия</translation>
+    </message>
+    <message id="host_317">
+        <source>Версия записей, которые отдаёт терминал; её меняет и записанная конфигурация</source>
+        <translation>Версия записей, которые отдаёт терминал; её меняет и записанная конфигурация</translation>
+    </message>
+    <message id="host_318">
+        <source>Передать расширенную запись (2312)</source>
+        <translation>Передать расширенную запись (2312)</translation>
+    </message>
+    <message id="host_319">
+        <source>Версия записей:</source>
+        <translation>Версия записей:</translation>
+    </message>
+    <message id="host_320">
+        <source>Записей: %1 (№ %2–%3); полей в записи: %4, %5 байт</source>
+        <translation>Записей: %1 (№ %2–%3); полей в записи: %4, %5 байт</translation>
+    </message>
 </context>
 </TS>

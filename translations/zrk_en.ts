@@ -599,67 +599,67 @@ Built %7</translation>
     </message>
     <message id="tmif_001">
         <source>Файл «%1»: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>File “%1”: %2</translation>
     </message>
     <message id="tmif_002">
         <source>не удаётся записать: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>cannot write: %1</translation>
     </message>
     <message id="tmif_003">
         <source>нет байтов записи (атрибут data)</source>
-        <translation type="unfinished"></translation>
+        <translation>the record has no bytes (data attribute)</translation>
     </message>
     <message id="tmif_004">
         <source>запись длиннее %1 байт</source>
-        <translation type="unfinished"></translation>
+        <translation>the record is longer than %1 bytes</translation>
     </message>
     <message id="tmif_005">
         <source>байты записи не в шестнадцатеричном виде</source>
-        <translation type="unfinished"></translation>
+        <translation>the record bytes are not hexadecimal</translation>
     </message>
     <message id="tmif_006">
         <source>неверное время получения</source>
-        <translation type="unfinished"></translation>
+        <translation>invalid reception time</translation>
     </message>
     <message id="tmif_011">
         <source>запись %1 повреждена: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>record %1 is damaged: %2</translation>
     </message>
     <message id="tmif_007">
         <source>это не файл телеметрии .tmi</source>
-        <translation type="unfinished"></translation>
+        <translation>this is not a .tmi telemetry file</translation>
     </message>
     <message id="tmif_008">
         <source>файл обрывается: нет конца &lt;/TMI&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>the file is cut short: no closing &lt;/TMI&gt;</translation>
     </message>
     <message id="tmif_009">
         <source>после записи %1 стоит посторонний текст</source>
-        <translation type="unfinished"></translation>
+        <translation>stray text after record %1</translation>
     </message>
     <message id="tmif_010">
         <source>файл обрывается внутри записи %1</source>
-        <translation type="unfinished"></translation>
+        <translation>the file is cut short inside record %1</translation>
     </message>
     <message id="tmif_012">
         <source>нарушена разметка</source>
-        <translation type="unfinished"></translation>
+        <translation>broken markup</translation>
     </message>
     <message id="tmif_016">
         <source>нарушена разметка после записи %1</source>
-        <translation type="unfinished"></translation>
+        <translation>broken markup after record %1</translation>
     </message>
     <message id="tmif_013">
         <source>не удаётся открыть: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>cannot open: %1</translation>
     </message>
     <message id="tmif_014">
         <source>Время: %1; скорость: %2 км/ч; событие: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Time: %1; speed: %2 km/h; event: %3</translation>
     </message>
     <message id="tmif_015">
         <source>Трек</source>
-        <translation type="unfinished">Track</translation>
+        <translation>Track</translation>
     </message>
     <message id="orbf_001">
         <source>Номер записи</source>
@@ -2555,7 +2555,7 @@ Built %7</translation>
     </message>
     <message id="cfgo_033">
         <source></source>
-        <translation>Sum of the ticked fields' sizes; at most 512 bytes</translation>
+        <translation>Sum of the ticked fields&apos; sizes; at most 512 bytes</translation>
     </message>
     <message id="cfgo_034">
         <source></source>
@@ -2596,6 +2596,158 @@ Built %7</translation>
     <message id="cfgo_043">
         <source></source>
         <translation>Take the field set from another configuration file</translation>
+    </message>
+    <message id="cfgo_081">
+        <source>Поколение протокола ORBA</source>
+        <translation>ORBA protocol generation</translation>
+    </message>
+    <message id="cfgo_082">
+        <source>Поля записи (маска)</source>
+        <translation>Record fields (mask)</translation>
+    </message>
+    <message id="tmif_017">
+        <source>№ в файле</source>
+        <translation>No. in file</translation>
+    </message>
+    <message id="tmif_020">
+        <source>Первая</source>
+        <translation>First</translation>
+    </message>
+    <message id="tmif_021">
+        <source>Предыдущая</source>
+        <translation>Previous</translation>
+    </message>
+    <message id="tmif_022">
+        <source>Следующая</source>
+        <translation>Next</translation>
+    </message>
+    <message id="tmif_023">
+        <source>Последняя</source>
+        <translation>Last</translation>
+    </message>
+    <message id="tmif_024">
+        <source>Номер:</source>
+        <translation>Number:</translation>
+    </message>
+    <message id="tmif_025">
+        <source>Перейти</source>
+        <translation>Go</translation>
+    </message>
+    <message id="tmif_026">
+        <source>Найти по времени</source>
+        <translation>Find by time</translation>
+    </message>
+    <message id="tmif_030">
+        <source>Номер записи в файле, от 1 до числа записей</source>
+        <translation>Record number in the file, 1 to the number of records</translation>
+    </message>
+    <message id="tmif_031">
+        <source>Первая запись, время которой не раньше заданного</source>
+        <translation>The first record whose time is not earlier than this</translation>
+    </message>
+    <message id="tmif_040">
+        <source>Коды событий:</source>
+        <translation>Event codes:</translation>
+    </message>
+    <message id="tmif_041">
+        <source>Коды событий через запятую или пробел, от 0 до 65535; пусто — любые</source>
+        <translation>Event codes separated by commas or spaces, 0 to 65535; empty: any</translation>
+    </message>
+    <message id="tmif_042">
+        <source>Время с</source>
+        <translation>Time from</translation>
+    </message>
+    <message id="tmif_043">
+        <source>по</source>
+        <translation>to</translation>
+    </message>
+    <message id="tmif_044">
+        <source>Применить</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="tmif_045">
+        <source>Сбросить</source>
+        <translation>Reset</translation>
+    </message>
+    <message id="tmif_046">
+        <source>Столбцы…</source>
+        <translation>Columns…</translation>
+    </message>
+    <message id="tmif_047">
+        <source>Экспорт CSV…</source>
+        <translation>Export CSV…</translation>
+    </message>
+    <message id="tmif_048">
+        <source>Экспорт KML…</source>
+        <translation>Export KML…</translation>
+    </message>
+    <message id="tmif_053">
+        <source>Время записи (местное), границы включены</source>
+        <translation>Record time (local), bounds included</translation>
+    </message>
+    <message id="tmif_054">
+        <source>Какие поля показывать столбцами</source>
+        <translation>Which fields to show as columns</translation>
+    </message>
+    <message id="tmif_055">
+        <source>Сохранить показанные записи в CSV</source>
+        <translation>Save the shown records as CSV</translation>
+    </message>
+    <message id="tmif_056">
+        <source>Сохранить трек показанных записей в KML</source>
+        <translation>Save the track of the shown records as KML</translation>
+    </message>
+    <message id="tmif_060">
+        <source>Файл телеметрии</source>
+        <translation>Telemetry file</translation>
+    </message>
+    <message id="tmif_061">
+        <source>%1
+
+До ошибки прочитано записей: %2. Показать их?</source>
+        <translation>%1
+
+Records read before the fault: %2. Show them?</translation>
+    </message>
+    <message id="tmif_028">
+        <source>Поле</source>
+        <translation>Field</translation>
+    </message>
+    <message id="tmif_029">
+        <source>Значение</source>
+        <translation>Value</translation>
+    </message>
+    <message id="tmif_032">
+        <source>Неизвестная запись</source>
+        <translation>Unknown record</translation>
+    </message>
+    <message id="tmif_027">
+        <source>Запись %1 из %2</source>
+        <translation>Record %1 of %2</translation>
+    </message>
+    <message id="tmif_033">
+        <source>Нет записей с временем не раньше %1.</source>
+        <translation>No records at or after %1.</translation>
+    </message>
+    <message id="tmif_034">
+        <source>«%1» — не код события (от 0 до 65535)</source>
+        <translation>“%1” is not an event code (0 to 65535)</translation>
+    </message>
+    <message id="tmif_035">
+        <source>Начало интервала позже его конца</source>
+        <translation>The start of the interval is after its end</translation>
+    </message>
+    <message id="tmif_036">
+        <source>Не удаётся записать файл «%1»: %2</source>
+        <translation>Cannot write file “%1”: %2</translation>
+    </message>
+    <message id="tmif_037">
+        <source>Сохранить записи</source>
+        <translation>Save records</translation>
+    </message>
+    <message id="tmif_049">
+        <source>Показано записей: %1 из %2</source>
+        <translation>Records shown: %1 of %2</translation>
     </message>
 </context>
 </TS>

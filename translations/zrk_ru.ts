@@ -2597,5 +2597,157 @@
         <source></source>
         <translation>Взять набор полей из другого файла конфигурации</translation>
     </message>
+    <message id="cfgo_081">
+        <source>Поколение протокола ORBA</source>
+        <translation>Поколение протокола ORBA</translation>
+    </message>
+    <message id="cfgo_082">
+        <source>Поля записи (маска)</source>
+        <translation>Поля записи (маска)</translation>
+    </message>
+    <message id="tmif_017">
+        <source>№ в файле</source>
+        <translation>№ в файле</translation>
+    </message>
+    <message id="tmif_020">
+        <source>Первая</source>
+        <translation>Первая</translation>
+    </message>
+    <message id="tmif_021">
+        <source>Предыдущая</source>
+        <translation>Предыдущая</translation>
+    </message>
+    <message id="tmif_022">
+        <source>Следующая</source>
+        <translation>Следующая</translation>
+    </message>
+    <message id="tmif_023">
+        <source>Последняя</source>
+        <translation>Последняя</translation>
+    </message>
+    <message id="tmif_024">
+        <source>Номер:</source>
+        <translation>Номер:</translation>
+    </message>
+    <message id="tmif_025">
+        <source>Перейти</source>
+        <translation>Перейти</translation>
+    </message>
+    <message id="tmif_026">
+        <source>Найти по времени</source>
+        <translation>Найти по времени</translation>
+    </message>
+    <message id="tmif_030">
+        <source>Номер записи в файле, от 1 до числа записей</source>
+        <translation>Номер записи в файле, от 1 до числа записей</translation>
+    </message>
+    <message id="tmif_031">
+        <source>Первая запись, время которой не раньше заданного</source>
+        <translation>Первая запись, время которой не раньше заданного</translation>
+    </message>
+    <message id="tmif_040">
+        <source>Коды событий:</source>
+        <translation>Коды событий:</translation>
+    </message>
+    <message id="tmif_041">
+        <source>Коды событий через запятую или пробел, от 0 до 65535; пусто — любые</source>
+        <translation>Коды событий через запятую или пробел, от 0 до 65535; пусто — любые</translation>
+    </message>
+    <message id="tmif_042">
+        <source>Время с</source>
+        <translation>Время с</translation>
+    </message>
+    <message id="tmif_043">
+        <source>по</source>
+        <translation>по</translation>
+    </message>
+    <message id="tmif_044">
+        <source>Применить</source>
+        <translation>Применить</translation>
+    </message>
+    <message id="tmif_045">
+        <source>Сбросить</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message id="tmif_046">
+        <source>Столбцы…</source>
+        <translation>Столбцы…</translation>
+    </message>
+    <message id="tmif_047">
+        <source>Экспорт CSV…</source>
+        <translation>Экспорт CSV…</translation>
+    </message>
+    <message id="tmif_048">
+        <source>Экспорт KML…</source>
+        <translation>Экспорт KML…</translation>
+    </message>
+    <message id="tmif_053">
+        <source>Время записи (местное), границы включены</source>
+        <translation>Время записи (местное), границы включены</translation>
+    </message>
+    <message id="tmif_054">
+        <source>Какие поля показывать столбцами</source>
+        <translation>Какие поля показывать столбцами</translation>
+    </message>
+    <message id="tmif_055">
+        <source>Сохранить показанные записи в CSV</source>
+        <translation>Сохранить показанные записи в CSV</translation>
+    </message>
+    <message id="tmif_056">
+        <source>Сохранить трек показанных записей в KML</source>
+        <translation>Сохранить трек показанных записей в KML</translation>
+    </message>
+    <message id="tmif_060">
+        <source>Файл телеметрии</source>
+        <translation>Файл телеметрии</translation>
+    </message>
+    <message id="tmif_061">
+        <source>%1
+
+До ошибки прочитано записей: %2. Показать их?</source>
+        <translation>%1
+
+До ошибки прочитано записей: %2. Показать их?</translation>
+    </message>
+    <message id="tmif_028">
+        <source>Поле</source>
+        <translation>Поле</translation>
+    </message>
+    <message id="tmif_029">
+        <source>Значение</source>
+        <translation>Значение</translation>
+    </message>
+    <message id="tmif_032">
+        <source>Неизвестная запись</source>
+        <translation>Неизвестная запись</translation>
+    </message>
+    <message id="tmif_027">
+        <source>Запись %1 из %2</source>
+        <translation>Запись %1 из %2</translation>
+    </message>
+    <message id="tmif_033">
+        <source>Нет записей с временем не раньше %1.</source>
+        <translation>Нет записей с временем не раньше %1.</translation>
+    </message>
+    <message id="tmif_034">
+        <source>«%1» — не код события (от 0 до 65535)</source>
+        <translation>«%1» — не код события (от 0 до 65535)</translation>
+    </message>
+    <message id="tmif_035">
+        <source>Начало интервала позже его конца</source>
+        <translation>Начало интервала позже его конца</translation>
+    </message>
+    <message id="tmif_036">
+        <source>Не удаётся записать файл «%1»: %2</source>
+        <translation>Не удаётся записать файл «%1»: %2</translation>
+    </message>
+    <message id="tmif_037">
+        <source>Сохранить записи</source>
+        <translation>Сохранить записи</translation>
+    </message>
+    <message id="tmif_049">
+        <source>Показано записей: %1 из %2</source>
+        <translation>Показано записей: %1 из %2</translation>
+    </message>
 </context>
 </TS>

@@ -1,13 +1,13 @@
 #!/usr/bin/python3
 """Writes the seed records of the ORBA fuzz targets, assembled field by field from the widths of
-telemetry/orba_fields.def: python3 fuzz/corpus/make_orba_seeds.py (from the source root)."""
+include/zrk/orba_fields.def: python3 fuzz/corpus/make_orba_seeds.py (from the source root)."""
 import os
 import re
 import struct
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 WIDTH = {}
-for line in open(os.path.join(ROOT, "telemetry", "orba_fields.def")):
+for line in open(os.path.join(ROOT, "include", "zrk", "orba_fields.def")):
     m = re.match(r"ORBA_FIELD(?:_V[23])?\((\d+), (\w+), (\d+),", line)
     if m:
         WIDTH[int(m.group(1))] = int(m.group(3))

@@ -1,6 +1,8 @@
 // zrk-tool config new, lint and diff over the declared keys, run as the built program.
 #include "../common/tool_run.h"
 #include "config_files.h"
+#include "config_model/config_keys.h"
+#include "config_model/xml_workdata.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -15,6 +17,8 @@ private slots:
     void lint_data();
     void lint();
     void diffLabelsDeclaredKeys();
+    void wholeValues_data();
+    void wholeValues();
     void badArguments_data();
     void badArguments();
 };
@@ -58,6 +62,19 @@ void tst_ConfigKeysTool::lint_data()
             + "<DEVICE><TRACK page=\"TRACK\"><COORDFLT maxHDOP=\".5\"/><GNSS mode=\"any "
               "text\"/></TRACK></DEVICE>"
         << 1 << QByteArray("TRACK/COORDFLT maxHDOP=.5: expected a number with one decimal, 0.1..100.0\n");
+    // The generation is one of three texts; the mask is reported once, by its own rule.
+    QTest::newRow("protocol") << kDecl
+            + "<DEVICE><PROTOCOL page=\"PROTOCOL\"><ORBA format=\"010\" mask=\"111\" x=\"1\"/><CAN/>"
+              "</PROTOCOL></DEVICE>"
+                              << 1
+                              << QByteArray("PROTOCOL/ORBA format=010: expected one of 10, 20, 30\n"
+                                            "PROTOCOL/ORBA x=1: expected a declared key\n"
+                                            "PROTOCOL/CAN: expected a declared node\n"
+                                            "PROTOCOL/ORBA mask=111: expected 255 characters (found 3)\n");
+    QTest::newRow("generation 40") << kDecl
+            + "<DEVICE><PROTOCOL page=\"PROTOCOL\"><ORBA format=\"40\"/></PROTOCOL></DEVICE>"
+                                   << 1
+                                   << QByteArray("PROTOCOL/ORBA format=40: expected one of 10, 20, 30\n");
 }
 
 void tst_ConfigKeysTool::lint()
@@ -100,6 +117,68 @@ void tst_ConfigKeysTool::diffLabelsDeclaredKeys()
     r = runZrkTool({ "config", "diff", a, a });
     QCOMPARE(r.code, 0);
     QVERIFY(r.out.isEmpty());
+
+    // The record field set: labelled, and the mask compared and shown whole (its last flag differs).
+    const QByteArray mask(255, '0');
+    QByteArray other = mask;
+    other[254] = '1';
+    writeFile(a,
+        kDecl + "<DEVICE><PROTOCOL page=\"PROTOCOL\"><ORBA format=\"10\" mask=\"" + mask
+            + "\"/></PROTOCOL></DEVICE>");
+    writeFile(b,
+        kDecl + "<DEVICE><PROTOCOL page=\"PROTOCOL\"><ORBA format=\"30\" mask=\"" + other
+            + "\"/></PROTOCOL></DEVICE>");
+    r = runZrkTool({ "config", "diff", "--lang", "en", a, b });
+    QCOMPARE(r.code, 1);
+    QCOMPARE(r.out,
+        "PROTOCOL/ORBA format (ORBA protocol generation): 10 -> 30\n"
+        "PROTOCOL/ORBA mask (Record fields (mask)): "
+            + mask + " -> " + other + "\n");
+}
+
+// Text values past what the parameter list holds (254 bytes) go through the branch walkers whole.
+void tst_ConfigKeysTool::wholeValues_data()
+{
+    QTest::addColumn<QString>("top");
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("mask, 255 flags") << "PROTOCOL"
+                                     << "ORBA"
+                                     << "mask" << QString(254, QLatin1Char('0')) + QLatin1Char('1');
+    QTest::newRow("text of 254 bytes") << "LOCATOR"
+                                       << "GLOBAL"
+                                       << "key" << QString(254, QLatin1Char('k'));
+    QTest::newRow("text of 255 bytes") << "LOCATOR"
+                                       << "GLOBAL"
+                                       << "key" << QString(254, QLatin1Char('k')) + QLatin1Char('z');
+    QTest::newRow("Cyrillic, 300 bytes") << "LOCATOR"
+                                         << "GLOBAL"
+                                         << "key" << QString(300, QChar(0x0416)); // "Ж"
+}
+
+void tst_ConfigKeysTool::wholeValues()
+{
+    QFETCH(QString, top);
+    QFETCH(QString, group);
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    const zrk::cfg::BranchDecl* branch = zrk::cfg::declaredBranch(top);
+    QVERIFY(branch);
+    const int i = branch->indexOf(group, key);
+    QVERIFY(i >= 0);
+    zrk::cfg::Values values = zrk::cfg::resetValues(*branch);
+    values[i] = value;
+    const auto doc = parsed();
+    {
+        CXMLWorkData root(doc.get(), zrk::cfg::kRootNode);
+        zrk::cfg::writeBranch(&root, *branch, values);
+        root.writeParameters();
+    }
+    const auto again = parsed(rendered(*doc));
+    QVERIFY(again);
+    CXMLWorkData root(again.get(), zrk::cfg::kRootNode);
+    QCOMPARE(zrk::cfg::readBranch(&root, *branch), values);
 }
 
 void tst_ConfigKeysTool::badArguments_data()

@@ -1,5 +1,6 @@
 // The record field-set page with this model's profile: masks through the boxes, the size limit,
 // the generations, the boxes the model shows, the stored branches and bad stored masks.
+#include "config_model/config_keys.h"
 #include "config_model/orba_fieldset.h"
 #include "config_model/xml_workdata.h"
 #include "config_ui/zrk_form_config_orba3.h"
@@ -282,16 +283,26 @@ void tst_FormConfigOrba3::newConfigurationBranch()
     page.setTypeDFProtocol(QStringLiteral("30"));
     page.setDefaultParam();
     QVERIFY(!page.tabMore()->tiresBox()->isEnabled());
+    // In the window's order, the page standing for its own declared rows and the others at reset,
+    // it must give the new configuration byte for byte.
     {
         CXMLWorkData root(path, QStringLiteral("DEVICE"));
         QVERIFY(root.serializer());
         root.clearNode();
-        page.writeFormParam(&root);
+        zrk::cfg::writeConfigHeader(&root, QStringLiteral("K-7140"), QStringLiteral("ZIRKOMATIC"));
+        for (const zrk::cfg::BranchDecl& b : zrk::cfg::declaredBranches()) {
+            if (b.top == QLatin1String(kProtocolNode))
+                page.writeFormParam(&root);
+            else
+                zrk::cfg::writeBranch(&root, b, zrk::cfg::resetValues(b));
+        }
         page.writeUserParam(&root);
         root.writeParameters();
         closeFile(root, true);
     }
-    QCOMPARE(readAll(path), readAll(QStringLiteral(ZRK_TEST_DATA_DIR "/protocol_new.xml")));
+    QCOMPARE(
+        readAll(path), readAll(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
+    QCOMPARE(readAll(path), zrk::cfg::renderNewConfiguration());
 
     // Read back into a page set otherwise: "format" and "mask" are what was written.
     Page other;

@@ -2,6 +2,7 @@
 #include "../config_model/config_files.h"
 #include "config_model/config_keys.h"
 #include "config_model/xml_workdata.h"
+#include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_track.h"
 #include "config_ui/zrk_form_config_track_locator_blist.h"
 #include "config_ui/zrk_widget_altnav_period.h"
@@ -176,6 +177,8 @@ void tst_FormConfigTrack::missingKeysYieldReadDefaults()
             { "TRACK/GNSS", "coldRstTimer=\"0\" mode=\"01000\"" }, { "LOCATOR/GLOBAL", "key=\"k\"" } }));
     readInto(page, kDecl + "<DEVICE/>");
     for (const zrk::cfg::BranchDecl& b : zrk::cfg::declaredBranches()) {
+        if (b.top != QLatin1String("TRACK") && b.top != QLatin1String("LOCATOR"))
+            continue;
         for (const zrk::cfg::KeyDecl& d : b.keys) {
             if (d.keptOnReset)
                 continue;
@@ -190,8 +193,22 @@ void tst_FormConfigTrack::missingKeysYieldReadDefaults()
 
 void tst_FormConfigTrack::newConfigurationIsThePageAtReset()
 {
+    // The window's "new" and saving: header, the pages in write order, the user parameters last.
+    ZRK_Form_Config_Orba3 fieldSet;
     ZRK_Form_Config_Track page;
-    const QByteArray bytes = savedBytes(page);
+    fieldSet.setDefaultParam();
+    page.setDefaultParam();
+    const auto doc = parsed();
+    {
+        CXMLWorkData root(doc.get(), zrk::cfg::kRootNode);
+        root.clearNode();
+        zrk::cfg::writeConfigHeader(&root, QStringLiteral("K-7140"), QStringLiteral("ZIRKOMATIC"));
+        fieldSet.writeFormParam(&root);
+        page.writeFormParam(&root);
+        fieldSet.writeUserParam(&root);
+        root.writeParameters();
+    }
+    const QByteArray bytes = rendered(*doc);
     QCOMPARE(bytes, zrk::cfg::renderNewConfiguration());
     QCOMPARE(bytes, readFile(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
 }
