@@ -1,6 +1,7 @@
 // Geo file of 10,000 zones: our load into the data lists against the serializer's own load of the
 // same text; KML of 10,000 placemarks: our import against a libxml2 parse of the same bytes.
 // Each ratio is against a reference measured in the same run. Prints plain lines.
+#include "best_times.h"
 #include "config_model/geo_file.h"
 #include "config_model/kml_reader.h"
 #include "config_model/serialize.h"
@@ -18,17 +19,6 @@
 namespace {
 
 constexpr int kZones = 10000;
-
-double bestSeconds(int runs, const std::function<void()>& f)
-{
-    double best = 1e30;
-    for (int i = 0; i < runs; ++i) {
-        const auto t0 = std::chrono::steady_clock::now();
-        f();
-        best = std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count());
-    }
-    return best;
-}
 
 coreAinfData zones()
 {

@@ -19,7 +19,7 @@ QByteArray makeRecord(const std::vector<int>& fields)
     QByteArray mask(orba::kMaskBytes, '\0');
     QByteArray body;
     for (int no : fields) {
-        orba::setMaskBit(reinterpret_cast<unsigned char*>(mask.data()), no);
+        zrkOrbaSetMaskBit(reinterpret_cast<unsigned char*>(mask.data()), no, true);
         for (int i = 0; i < orba::kFields[no - 1].width; ++i)
             body.append(char(no + i));
     }

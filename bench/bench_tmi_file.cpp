@@ -2,6 +2,7 @@
 // SAX parse of the same file measured in the same run (goal: at most 3x), and the resident memory
 // the open model holds against the raw record bytes (goal: at most 2x plus a fixed overhead).
 // Prints plain lines.
+#include "best_times.h"
 #include "telemetry/orba_record.h"
 #include "telemetry/tmi_record_model.h"
 
@@ -21,17 +22,6 @@
 namespace {
 
 constexpr int kRecords = 100000;
-
-double bestSeconds(int runs, const std::function<void()>& f)
-{
-    double best = 1e30;
-    for (int i = 0; i < runs; ++i) {
-        const auto t0 = std::chrono::steady_clock::now();
-        f();
-        best = std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count());
-    }
-    return best;
-}
 
 long residentBytes()
 {

@@ -26,7 +26,7 @@ QByteArray makeRecord(quint32 number, int seed)
     for (int no = 1; no <= set.size(); ++no) {
         if (set.at(no - 1) != QLatin1Char('1'))
             continue;
-        orba::setMaskBit(reinterpret_cast<unsigned char*>(mask.data()), no);
+        zrkOrbaSetMaskBit(reinterpret_cast<unsigned char*>(mask.data()), no, true);
         for (int i = 0; i < orba::kFields[no - 1].width; ++i)
             body.append(char(no == 1 && i == 0 ? number : no + i + seed));
     }

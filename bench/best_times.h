@@ -1,9 +1,12 @@
 #pragma once
 
-// What the ratio benchmarks share: several repetitions of every benchmark, and the fastest CPU time
-// of each, which is the one least disturbed by other work on the (shared) machine.
+// What the ratio benchmarks share: the fastest of several repetitions of every benchmark (or of a
+// timed call), which is the one least disturbed by other work on the (shared) machine.
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <chrono>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -57,4 +60,17 @@ inline bool runBenchmarks(int argc, char** argv, BestTimesReporter& reporter)
         return false;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return true;
+}
+
+// The fastest wall time of f over runs calls, in seconds, for the benchmarks that time whole files
+// by hand.
+inline double bestSeconds(int runs, const std::function<void()>& f)
+{
+    double best = 1e30;
+    for (int i = 0; i < runs; ++i) {
+        const auto t0 = std::chrono::steady_clock::now();
+        f();
+        best = std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count());
+    }
+    return best;
 }
