@@ -17,7 +17,7 @@ OrbaPage::OrbaPage(unsigned char* record, int version, QObject* parent)
 
 bool OrbaPage::isUsed(int no) const
 {
-    return no >= 1 && no <= lastField() && orba::maskBit(m_head + orba::kMaskOffset, no);
+    return no >= 1 && no <= lastField() && zrkOrbaMaskBit(m_head + orba::kMaskOffset, no);
 }
 
 QString OrbaPage::fieldText(int no) const

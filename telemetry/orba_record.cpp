@@ -220,7 +220,7 @@ QString formatText(const unsigned char* mask, int lastField)
     QString s(lastField, QLatin1Char('0'));
     QChar* c = s.data();
     for (int n = 1; n <= lastField; ++n) {
-        if (maskBit(mask, n))
+        if (zrkOrbaMaskBit(mask, n))
             c[n - 1] = QLatin1Char('1');
     }
     return s;

@@ -330,19 +330,6 @@ enum ExtId
 
 // ---- Decoding --------------------------------------------------------------------------------
 
-// Presence of field no (1..255) in a 32-byte mask: the lowest number of each byte is its most
-// significant bit.
-constexpr bool maskBit(const unsigned char* mask, int no)
-{
-    return getBitFromByte(mask[(no - 1) / 8], 7 - (no - 1) % 8) != 0;
-}
-
-// Marks field no (1..255) present in a mask.
-constexpr void setMaskBit(unsigned char* mask, int no)
-{
-    setBitToByte(mask[(no - 1) / 8], 7 - (no - 1) % 8, 1);
-}
-
 // Unpacks the values of the present fields 1..lastField from body into rec (a structure of
 // recordSize(version) bytes). A run of consecutive present fields lies in the body exactly as in
 // the structure, so each run is one copy. Body bytes past len read as zero; nothing past rec's

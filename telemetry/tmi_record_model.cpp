@@ -136,11 +136,11 @@ bool RecordStore::numberOf(int i, int no, double* value) const
     const int version = p[0] == orba::kKindCurrent ? versionOf(p[1]) : 0;
     if (version) {
         if (len < orba::kBodyOffset || no > orba::kLastField[version]
-            || !orba::maskBit(p + orba::kMaskOffset, no))
+            || !zrkOrbaMaskBit(p + orba::kMaskOffset, no))
             return false;
         int at = orba::kBodyOffset;
         for (int n = 1; n < no; ++n) {
-            if (orba::maskBit(p + orba::kMaskOffset, n))
+            if (zrkOrbaMaskBit(p + orba::kMaskOffset, n))
                 at += orba::kFields[n - 1].width;
         }
         // Bytes the mask demands beyond the record read as zero, as the decoder reads them.
@@ -195,7 +195,7 @@ QVector<int> RecordStore::presentFields() const
     }
     QVector<int> fields;
     for (int no = 1; no <= orba::kFieldCount; ++no) {
-        if (orba::maskBit(mask, no) || (ext && extIdOf(no) >= 0))
+        if (zrkOrbaMaskBit(mask, no) || (ext && extIdOf(no) >= 0))
             fields << no;
     }
     return fields;

@@ -75,7 +75,7 @@ constexpr bool fixedPacketIsConsistent()
     unsigned char mask[9] = {};
     for (int no : kFixedPacketFields) {
         bytes += orba::kFields[no - 1].width;
-        orba::setMaskBit(mask, no);
+        zrkOrbaSetMaskBit(mask, no, true);
     }
     for (int i = 0; i < 9; ++i) {
         if (mask[i] != kFixedPacketHead[2 + i])
@@ -148,7 +148,7 @@ QByteArray TmiPage_Orba1::currentRecordBuffer() const
     for (int no = 1; no <= lastField(); ++no) {
         if (!isUsed(no))
             continue;
-        orba::setMaskBit(reinterpret_cast<unsigned char*>(out.data()) + orba::kMaskOffset, no);
+        zrkOrbaSetMaskBit(reinterpret_cast<unsigned char*>(out.data()) + orba::kMaskOffset, no, true);
         out.append(reinterpret_cast<const char*>(rec + orba::kOffsets[no]), orba::kFields[no - 1].width);
     }
     return out;

@@ -58,11 +58,11 @@ constexpr unsigned char zrkOrbaMaskBitValue(int no)
 {
     return static_cast<unsigned char>(0x80u >> ((no - 1) & 7));
 }
-inline bool zrkOrbaMaskBit(const unsigned char* mask, int no)
+constexpr bool zrkOrbaMaskBit(const unsigned char* mask, int no)
 {
     return (mask[zrkOrbaMaskByte(no)] & zrkOrbaMaskBitValue(no)) != 0;
 }
-inline void zrkOrbaSetMaskBit(unsigned char* mask, int no, bool present)
+constexpr void zrkOrbaSetMaskBit(unsigned char* mask, int no, bool present)
 {
     if (present)
         mask[zrkOrbaMaskByte(no)] |= zrkOrbaMaskBitValue(no);
