@@ -46,6 +46,8 @@ struct KeyDecl
     int length = 0; // Flags: characters written
     const char* labelId = nullptr; // catalogue id of the key's display label
     bool keptOnReset = false; // reset leaves the current value (resetValue is that of a fresh form)
+    bool zeroMeansOff = false; // Integer: 0 switches the setting off, else min..max
+    QVector<int> choices; // Integer: the only values allowed, when not empty
 };
 
 // One branch a page owns: its top node under "DEVICE", its record nodes in write order and keys.
@@ -64,6 +66,8 @@ using Values = QVector<QString>;
 // The branches the pages own, in the window's write order, gated by this model's capabilities.
 const QVector<BranchDecl>& declaredBranches();
 const BranchDecl* declaredBranch(const QString& top);
+// The black list's twelve rows as a fresh terminal has them.
+const QStringList& blackListDefaults();
 // The track page's two branches for a given capability record (the page and tests use others).
 BranchDecl trackBranch(const ZRK_Track_Caps& caps);
 BranchDecl locatorBranch(const ZRK_Track_Caps& caps);

@@ -13,11 +13,15 @@ ZRK_Track_Caps zrkTrackCaps()
     c.maxHdopDefault = 2.5f;
     c.gnssPresent = true;
     c.gnssSystems = {
-        { QStringLiteral("11000"), QStringLiteral("cfgt3_047"), QString() },
-        { QStringLiteral("10001"), QStringLiteral("cfgt3_048"), QString() },
+        //% "GPS + ГЛОНАСС"
+        { QStringLiteral("11000"), QLatin1String(QT_TRID_NOOP("cfgt3_047")), QString() },
+        //% "GPS и BeiDou"
+        { QStringLiteral("10001"), QLatin1String(QT_TRID_NOOP("cfgt3_048")), QString() },
         { QString(), QString(), QString() },
-        { QStringLiteral("10000"), QStringLiteral("cfgt3_045"), QString() },
-        { QStringLiteral("01000"), QStringLiteral("cfgt3_046"), QString() },
+        //% "Только GPS"
+        { QStringLiteral("10000"), QLatin1String(QT_TRID_NOOP("cfgt3_045")), QString() },
+        //% "ГЛОНАСС"
+        { QStringLiteral("01000"), QLatin1String(QT_TRID_NOOP("cfgt3_046")), QString() },
     };
     c.gnssModeDefault = QStringLiteral("11000");
     c.gnssDatum = false;

@@ -3,6 +3,7 @@
 #include "config_model/config_keys.h"
 #include "config_model/zrk_track_caps.h"
 
+#include <QHash>
 #include <QWidget>
 
 #include <functional>
@@ -10,6 +11,7 @@
 class CXMLWorkData;
 class QAbstractButton;
 class QRadioButton;
+class QSpinBox;
 class ZRK_Form_Config_Track_Locator_BList;
 namespace Ui {
 class ZRK_Designer_Form_Config_Track;
@@ -24,6 +26,8 @@ class ZRK_Form_Config_Track : public QWidget
 
 public:
     explicit ZRK_Form_Config_Track(QWidget* parent = nullptr);
+    // A page for other capabilities than this model's (other models of the family, tests).
+    explicit ZRK_Form_Config_Track(const ZRK_Track_Caps& caps, QWidget* parent = nullptr);
     ~ZRK_Form_Config_Track() override;
 
     void applyCaps();
@@ -95,19 +99,26 @@ private slots:
     void slot_pressed_pushButton_BlackList();
 
 private:
-    // How one declared key meets the form: a getter and setter over the key's text value.
+    // How one declared key meets the form: a getter and setter over the key's text value, and
+    // the widget that shows it (for its tooltip).
     struct Binding
     {
         std::function<QString()> get;
         std::function<void(const QString&)> set;
+        QWidget* widget = nullptr;
     };
+    void bind(QHash<QString, Binding>& map, const char* group, const char* key, Binding binding);
+    QVector<Binding> alignBindings(const zrk::cfg::BranchDecl& branch, QHash<QString, Binding>& map);
+    void setCounter(QAbstractButton* box, QSpinBox* spin, int value, int onValue);
+    void applyCounter(QSpinBox* spin, bool on, int onValue);
+    void enableSensorAverageForMode();
+    void setRangeTips();
     void bindTrack();
     void bindLocator();
     void applyValues(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings,
         const zrk::cfg::Values& values, bool reset);
     zrk::cfg::Values collect(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings) const;
     void runDependentSlots();
-    void setOptionalCounter(QAbstractButton* box, int value);
 
     ZRK_Track_Caps m_caps;
     Ui::ZRK_Designer_Form_Config_Track* ui;
