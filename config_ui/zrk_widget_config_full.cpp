@@ -5,6 +5,7 @@
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
+#include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_other.h"
 #include "config_ui/zrk_form_config_track.h"
 #include "device/zrk_device_k7140.h"
@@ -86,6 +87,10 @@ ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);
+
+    m_fieldSet = new ZRK_Form_Config_Orba3(m_tabs);
+    m_fieldSet->setFormCreate();
+    addPage(m_fieldSet, OrderFieldSet, PageFieldSet).openSubTab = [this](int value) { m_fieldSet->openTab(value); };
 
     m_track = new ZRK_Form_Config_Track(m_tabs);
     addPage(m_track, OrderTrack, PageTrack);
@@ -195,6 +200,7 @@ void ZRK_Widget_Config_Full::readDocument(CSerialize* doc)
         if (p.widget != m_other)
             p.read(&root);
     }
+    m_fieldSet->readUserParam(&root);
 }
 
 void ZRK_Widget_Config_Full::writeHeader(CXMLWorkData* root)
@@ -215,6 +221,15 @@ void ZRK_Widget_Config_Full::writeHeader(CXMLWorkData* root)
     root->writeString(zrk::cfg::kHeaderVendor, vendor);
 }
 
+void ZRK_Widget_Config_Full::writePages(CXMLWorkData* root)
+{
+    for (const Page& p : m_pages) {
+        if (p.widget != m_other)
+            p.write(root);
+    }
+    m_fieldSet->writeUserParam(root);
+}
+
 QByteArray ZRK_Widget_Config_Full::renderXml()
 {
     CSerialize doc(0, nullptr);
@@ -223,8 +238,8 @@ QByteArray ZRK_Widget_Config_Full::renderXml()
         CXMLWorkData root(&doc, zrk::cfg::kRootNode);
         root.clearNode();
         writeHeader(&root);
-        for (const Page& p : m_pages)
-            p.write(&root);
+        writePages(&root);
+        m_other->writeFormParam(&root);
         root.writeParameters();
     }
     return doc.render();
@@ -242,10 +257,7 @@ QStringList ZRK_Widget_Config_Full::ownedTopNodes()
         CSerialize doc(0, nullptr);
         doc.startSerialize();
         CXMLWorkData root(&doc, zrk::cfg::kRootNode);
-        for (const Page& p : m_pages) {
-            if (p.widget != m_other)
-                p.write(&root);
-        }
+        writePages(&root);
         m_owned = zrk::topNodeNames(doc.root());
     }
     return m_owned;

@@ -12,6 +12,7 @@
 class CSerialize;
 class CXMLWorkData;
 class QTabWidget;
+class ZRK_Form_Config_Orba3;
 class ZRK_Form_Config_Other;
 class ZRK_Form_Config_Track;
 
@@ -90,6 +91,7 @@ public:
     // The top-level branches the pages write (their own top nodes).
     QStringList ownedTopNodes();
 
+    ZRK_Form_Config_Orba3* fieldSetPage() const { return m_fieldSet; }
     ZRK_Form_Config_Track* trackPage() const { return m_track; }
     ZRK_Form_Config_Other* otherPage() const { return m_other; }
 
@@ -122,10 +124,13 @@ private:
     template <typename P> Page& addPage(P* page, int order, int number);
     void watchForEdits(QWidget* page);
     void writeHeader(CXMLWorkData* root);
+    // Every page's branch in the fixed order, then the field set's user parameters.
+    void writePages(CXMLWorkData* root);
 
     QTabWidget* m_tabs = nullptr;
     QVector<Page> m_pages;
     QStringList m_owned;
+    ZRK_Form_Config_Orba3* m_fieldSet = nullptr;
     ZRK_Form_Config_Track* m_track = nullptr;
     ZRK_Form_Config_Other* m_other = nullptr;
 };
