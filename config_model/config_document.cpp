@@ -64,8 +64,8 @@ ConfigLoadResult loadConfigFile(const QString& path)
 
 ConfigLoadResult loadConfigBytes(const QByteArray& text)
 {
-    auto doc = std::make_unique<CSerialize>(
-        text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
+    auto doc
+        = std::make_unique<CSerialize>(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
     const bool ok = doc->startSerialize();
     return checked(std::move(doc), ok);
 }

@@ -4,6 +4,22 @@
 
 #include <QHeaderView>
 
+// The form's texts (the .ui carries their ids).
+[[maybe_unused]] const char* const kFormTexts[] = {
+    //% "Сравнение конфигураций"
+    QT_TRID_NOOP("cmpc_001"),
+    //% "Раздел / узел"
+    QT_TRID_NOOP("cmpc_002"),
+    //% "Ключ"
+    QT_TRID_NOOP("cmpc_003"),
+    //% "Название"
+    QT_TRID_NOOP("cmpc_004"),
+    //% "В редакторе"
+    QT_TRID_NOOP("cmpc_005"),
+    //% "В другой"
+    QT_TRID_NOOP("cmpc_006"),
+};
+
 ZRK_Dialog_Config_Compare::ZRK_Dialog_Config_Compare(QWidget* parent)
     : QDialog(parent)
     , ui(new Ui::ZRK_Designer_Dialog_Config_Compare)

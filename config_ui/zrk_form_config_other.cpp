@@ -27,6 +27,25 @@ constexpr int kNodeColumn = 0;
 constexpr int kKeyColumn = 1;
 constexpr int kValueColumn = 2;
 
+// The form's texts (the .ui carries their ids).
+[[maybe_unused]] const char* const kFormTexts[] = {
+    //% "Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в
+    //терминал без изменений; значения можно править (двойной щелчок по строке)."
+    QT_TRID_NOOP("cfgx_002"),
+    //% "Фильтр:"
+    QT_TRID_NOOP("cfgx_003"),
+    //% "Показать только узлы, ключи и значения, содержащие этот текст"
+    QT_TRID_NOOP("cfgx_004"),
+    //% "Разделы конфигурации, которые терминал прислал сверх страниц редактора"
+    QT_TRID_NOOP("cfgx_005"),
+    //% "Узел"
+    QT_TRID_NOOP("cfgx_006"),
+    //% "Ключ"
+    QT_TRID_NOOP("cfgx_007"),
+    //% "Значение"
+    QT_TRID_NOOP("cfgx_008"),
+};
+
 CXmlTagV2* tagOf(const QTreeWidgetItem* item)
 {
     return reinterpret_cast<CXmlTagV2*>(item->data(kNodeColumn, TagRole).value<quintptr>());
@@ -64,7 +83,7 @@ void ZRK_Form_Config_Other::translateForm()
 {
     ui->retranslateUi(this);
     //% "Прочие настройки"
-    m_tabTitle = qtTrId("cfgo_001");
+    m_tabTitle = qtTrId("cfgx_001");
 }
 
 void ZRK_Form_Config_Other::initForm()
@@ -122,7 +141,8 @@ void ZRK_Form_Config_Other::rebuildTree()
         auto* rootItem = new QTreeWidgetItem(ui->treeWidget_Other, QStringList(m_kept->name));
         bindRow(rootItem, m_kept.get(), ElementRow);
         for (CXmlTagV2* attr : m_kept->values)
-            bindRow(new QTreeWidgetItem(rootItem, { QString(), attr->name, attr->value }), attr, AttributeRow);
+            bindRow(
+                new QTreeWidgetItem(rootItem, { QString(), attr->name, attr->value }), attr, AttributeRow);
     }
     for (CXmlTagV2* child : m_kept->children)
         addElement(nullptr, child);

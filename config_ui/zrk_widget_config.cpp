@@ -35,6 +35,44 @@ constexpr char kReadCopyDateFormat[] = "yyyy-MM-dd_HH-mm-ss";
 constexpr char kDeviceTitle[] = "Device";
 constexpr char kNewTitle[] = "New";
 
+// The form's texts (the .ui carries their ids).
+[[maybe_unused]] const char* const kFormTexts[] = {
+    //% "Новая"
+    QT_TRID_NOOP("wcfg_002"),
+    //% "Новая конфигурация со значениями по умолчанию"
+    QT_TRID_NOOP("wcfg_003"),
+    //% "Открыть..."
+    QT_TRID_NOOP("wcfg_004"),
+    //% "Открыть файл конфигурации"
+    QT_TRID_NOOP("wcfg_005"),
+    //% "Сохранить"
+    QT_TRID_NOOP("wcfg_006"),
+    //% "Сохранить конфигурацию в её файл"
+    QT_TRID_NOOP("wcfg_007"),
+    //% "Сохранить как..."
+    QT_TRID_NOOP("wcfg_008"),
+    //% "Сохранить конфигурацию в другой файл"
+    QT_TRID_NOOP("wcfg_009"),
+    //% "Прочитать из терминала"
+    QT_TRID_NOOP("wcfg_010"),
+    //% "Прочитать конфигурацию из подключённого терминала"
+    QT_TRID_NOOP("wcfg_011"),
+    //% "Записать в терминал"
+    QT_TRID_NOOP("wcfg_012"),
+    //% "Записать конфигурацию в подключённый терминал"
+    QT_TRID_NOOP("wcfg_013"),
+    //% "По умолчанию"
+    QT_TRID_NOOP("wcfg_014"),
+    //% "Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются"
+    QT_TRID_NOOP("wcfg_015"),
+    //% "Сравнить"
+    QT_TRID_NOOP("wcfg_016"),
+    //% "Сравнить конфигурацию с файлом или с последней прочитанной из терминала"
+    QT_TRID_NOOP("wcfg_017"),
+    //% "Переключить полный и простой редактор"
+    QT_TRID_NOOP("wcfg_019"),
+};
+
 void sendToHost(int msg, unsigned long w, unsigned long l)
 {
     if (lpGlobalDevice)
@@ -146,7 +184,8 @@ void ZRK_Widget_Config::setTitleName(const QString& name)
 void ZRK_Widget_Config::updateTitle()
 {
     //% "Конфигурация"
-    const QString base = m_titleName.isEmpty() ? qtTrId("wcfg_001") : deviceType() + QStringLiteral(": ") + m_titleName;
+    const QString base
+        = m_titleName.isEmpty() ? qtTrId("wcfg_001") : deviceType() + QStringLiteral(": ") + m_titleName;
     setWindowTitle(m_modified ? base + QLatin1Char('*') : base);
 }
 
@@ -222,13 +261,15 @@ void ZRK_Widget_Config::openConfig(szConfigFile* file, szConfigParam& configPara
 
 void ZRK_Widget_Config::keepReadCopy(const QString& path)
 {
-    const QString dir = lpGlobalDevice ? lpGlobalDevice->getPathXML() : appDataDirectory() + QStringLiteral("/Data/XML/");
+    const QString dir
+        = lpGlobalDevice ? lpGlobalDevice->getPathXML() : appDataDirectory() + QStringLiteral("/Data/XML/");
     if (!QDir().mkpath(dir))
         return;
     const QString stamp = QDateTime::currentDateTime().toString(QLatin1String(kReadCopyDateFormat));
     QString copy = QDir(dir).filePath(QString::fromLatin1(kReadCopyPattern).arg(stamp, QString()));
     for (int n = 2; QFileInfo::exists(copy); ++n)
-        copy = QDir(dir).filePath(QString::fromLatin1(kReadCopyPattern).arg(stamp, QStringLiteral("_%1").arg(n)));
+        copy = QDir(dir).filePath(
+            QString::fromLatin1(kReadCopyPattern).arg(stamp, QStringLiteral("_%1").arg(n)));
     if (QFile::copy(path, copy))
         m_lastReadCopy = copy;
 }
@@ -472,7 +513,8 @@ void ZRK_Widget_Config::showMessage(const QString& text)
 QString ZRK_Widget_Config::chooseFileToOpen()
 {
     //% "Файлы конфигурации (*.xml)"
-    return QFileDialog::getOpenFileName(this, QString(), QFileInfo(m_filePath).absolutePath(), qtTrId("wcfg_035"));
+    return QFileDialog::getOpenFileName(
+        this, QString(), QFileInfo(m_filePath).absolutePath(), qtTrId("wcfg_035"));
 }
 
 QString ZRK_Widget_Config::chooseFileToSave()
@@ -483,7 +525,8 @@ QString ZRK_Widget_Config::chooseFileToSave()
     return QFileDialog::getSaveFileName(this, QString(), proposal, qtTrId("wcfg_035"));
 }
 
-void ZRK_Widget_Config::showDifferences(const QVector<zrk::ConfigDifference>& differences, const QString& against)
+void ZRK_Widget_Config::showDifferences(
+    const QVector<zrk::ConfigDifference>& differences, const QString& against)
 {
     ZRK_Dialog_Config_Compare dialog(this);
     dialog.setDifferences(differences, against);

@@ -106,13 +106,14 @@ public:
     ZRK_Widget_Config_Full* widgetFull() const { return m_full; }
     ZRK_Widget_Config_Light* widgetLight() const { return m_light; }
 
-protected:
     enum class UnsavedAnswer
     {
         Save,
         Discard,
         Cancel,
     };
+
+protected:
     // The user's side of the window; a test answers them itself.
     virtual UnsavedAnswer askUnsavedChanges();
     virtual void showMessage(const QString& text);

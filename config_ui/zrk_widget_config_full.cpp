@@ -90,14 +90,16 @@ ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(QWidget* parent)
 
     m_fieldSet = new ZRK_Form_Config_Orba3(m_tabs);
     m_fieldSet->setFormCreate();
-    addPage(m_fieldSet, OrderFieldSet, PageFieldSet).openSubTab = [this](int value) { m_fieldSet->openTab(value); };
+    addPage(m_fieldSet, OrderFieldSet, PageFieldSet).openSubTab
+        = [this](int value) { m_fieldSet->openTab(value); };
 
     m_track = new ZRK_Form_Config_Track(m_tabs);
     addPage(m_track, OrderTrack, PageTrack);
-    connect(m_track, &ZRK_Form_Config_Track::openTabAccelRequested, this, &ZRK_Widget_Config_Full::openTabAccel);
-    connect(m_track, &ZRK_Form_Config_Track::openTabRSRequested, this, &ZRK_Widget_Config_Full::openTabRS);
     connect(
-        m_track, &ZRK_Form_Config_Track::speedingParamChanged, this, &ZRK_Widget_Config_Full::setSpeedingParam);
+        m_track, &ZRK_Form_Config_Track::openTabAccelRequested, this, &ZRK_Widget_Config_Full::openTabAccel);
+    connect(m_track, &ZRK_Form_Config_Track::openTabRSRequested, this, &ZRK_Widget_Config_Full::openTabRS);
+    connect(m_track, &ZRK_Form_Config_Track::speedingParamChanged, this,
+        &ZRK_Widget_Config_Full::setSpeedingParam);
 
     m_other = new ZRK_Form_Config_Other(m_tabs);
     addPage(m_other, OrderKept, PageNone);

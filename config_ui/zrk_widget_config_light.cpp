@@ -30,6 +30,31 @@ constexpr char kFormatKey[] = "format";
 // The protocol generations in the order of the combo box.
 constexpr const char* kFormats[] = { "10", "20", "30" };
 
+// The form's texts (the .ui carries their ids).
+[[maybe_unused]] const char* const kFormTexts[] = {
+    //% "Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений."
+    QT_TRID_NOOP("cfgl_001"),
+    //% "Период записи в движении, с:"
+    QT_TRID_NOOP("cfgl_002"),
+    //% "Интервал между точками трека в движении, от 0 до 99999 с"
+    QT_TRID_NOOP("cfgl_003"),
+    //% "Дистанция, м:"
+    QT_TRID_NOOP("cfgl_004"),
+    //% "Точка трека через каждые N метров, от 1 до 10000 м"
+    QT_TRID_NOOP("cfgl_005"),
+    //% "Угол поворота, °:"
+    QT_TRID_NOOP("cfgl_006"),
+    //% "Точка трека при повороте на этот угол, от 1 до 90°"
+    QT_TRID_NOOP("cfgl_007"),
+    //% "Период записи на стоянке, с:"
+    QT_TRID_NOOP("cfgl_008"),
+    //% "Интервал между точками трека на стоянке, от 0 до 99999 с"
+    QT_TRID_NOOP("cfgl_009"),
+    //% "Поколение протокола:"
+    QT_TRID_NOOP("cfgl_010"),
+    //% "Формат записей телеметрии ORBA: 1, 2 или 3"
+    QT_TRID_NOOP("cfgl_011"),
+};
 
 } // namespace
 
@@ -102,7 +127,8 @@ QString ZRK_Widget_Config_Light::value(const QString& key) const
 {
     if (key == QLatin1String(kFormatKey))
         return QLatin1String(kFormats[qBound(0, ui->comboBox_FlashFormat->currentIndex(), 2)]);
-    const QSpinBox* box = findChild<QSpinBox*>(QStringLiteral("spinBox_") + key.left(1).toUpper() + key.mid(1));
+    const QSpinBox* box
+        = findChild<QSpinBox*>(QStringLiteral("spinBox_") + key.left(1).toUpper() + key.mid(1));
     return box ? QString::number(box->value()) : QString();
 }
 

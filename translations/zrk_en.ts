@@ -1796,5 +1796,285 @@
         <source></source>
         <translation>Take the field set from another configuration file</translation>
     </message>
+    <message id="cmpc_001">
+        <source>Сравнение конфигураций</source>
+        <translation>Compare configurations</translation>
+    </message>
+    <message id="cmpc_002">
+        <source>Раздел / узел</source>
+        <translation>Section / node</translation>
+    </message>
+    <message id="cmpc_003">
+        <source>Ключ</source>
+        <translation>Key</translation>
+    </message>
+    <message id="cmpc_004">
+        <source>Название</source>
+        <translation>Name</translation>
+    </message>
+    <message id="cmpc_005">
+        <source>В редакторе</source>
+        <translation>In the editor</translation>
+    </message>
+    <message id="cmpc_006">
+        <source>В другой</source>
+        <translation>In the other</translation>
+    </message>
+    <message id="cmpc_007">
+        <source>Сравнение с: %1</source>
+        <translation>Compared with: %1</translation>
+    </message>
+    <message id="cmpc_008">
+        <source></source>
+        <translation>No differences.</translation>
+    </message>
+    <message id="cmpc_009">
+        <source></source>
+        <translation>Differences: %1</translation>
+    </message>
+    <message id="cmpc_010">
+        <source>(нет)</source>
+        <translation>(none)</translation>
+    </message>
+    <message id="cmpc_011">
+        <source>(корень)</source>
+        <translation>(root)</translation>
+    </message>
+    <message id="cfgx_002">
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</source>
+        <translation>Terminal settings this editor has no page for. They are kept and written to the terminal unchanged; values can be edited (double-click a row).</translation>
+    </message>
+    <message id="cfgx_003">
+        <source>Фильтр:</source>
+        <translation>Filter:</translation>
+    </message>
+    <message id="cfgx_004">
+        <source>Показать только узлы, ключи и значения, содержащие этот текст</source>
+        <translation>Show only the nodes, keys and values containing this text</translation>
+    </message>
+    <message id="cfgx_005">
+        <source>Разделы конфигурации, которые терминал прислал сверх страниц редактора</source>
+        <translation>Configuration sections the terminal sent beyond the editor&apos;s pages</translation>
+    </message>
+    <message id="cfgx_006">
+        <source>Узел</source>
+        <translation>Node</translation>
+    </message>
+    <message id="cfgx_007">
+        <source>Ключ</source>
+        <translation>Key</translation>
+    </message>
+    <message id="cfgx_008">
+        <source>Значение</source>
+        <translation>Value</translation>
+    </message>
+    <message id="cfgx_001">
+        <source>Прочие настройки</source>
+        <translation>Other settings</translation>
+    </message>
+    <message id="wcfg_002">
+        <source>Новая</source>
+        <translation>New</translation>
+    </message>
+    <message id="wcfg_003">
+        <source>Новая конфигурация со значениями по умолчанию</source>
+        <translation>A new configuration with default values</translation>
+    </message>
+    <message id="wcfg_004">
+        <source>Открыть...</source>
+        <translation>Open...</translation>
+    </message>
+    <message id="wcfg_005">
+        <source>Открыть файл конфигурации</source>
+        <translation>Open a configuration file</translation>
+    </message>
+    <message id="wcfg_006">
+        <source>Сохранить</source>
+        <translation>Save</translation>
+    </message>
+    <message id="wcfg_007">
+        <source>Сохранить конфигурацию в её файл</source>
+        <translation>Save the configuration to its file</translation>
+    </message>
+    <message id="wcfg_008">
+        <source>Сохранить как...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message id="wcfg_009">
+        <source>Сохранить конфигурацию в другой файл</source>
+        <translation>Save the configuration to another file</translation>
+    </message>
+    <message id="wcfg_010">
+        <source>Прочитать из терминала</source>
+        <translation>Read from terminal</translation>
+    </message>
+    <message id="wcfg_011">
+        <source>Прочитать конфигурацию из подключённого терминала</source>
+        <translation>Read the configuration from the connected terminal</translation>
+    </message>
+    <message id="wcfg_012">
+        <source>Записать в терминал</source>
+        <translation>Write to terminal</translation>
+    </message>
+    <message id="wcfg_013">
+        <source>Записать конфигурацию в подключённый терминал</source>
+        <translation>Write the configuration to the connected terminal</translation>
+    </message>
+    <message id="wcfg_014">
+        <source>По умолчанию</source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="wcfg_015">
+        <source>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</source>
+        <translation>Reset the pages&apos; settings to their defaults; the terminal&apos;s other settings stay</translation>
+    </message>
+    <message id="wcfg_016">
+        <source>Сравнить</source>
+        <translation>Compare</translation>
+    </message>
+    <message id="wcfg_017">
+        <source>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</source>
+        <translation>Compare the configuration with a file or with the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_019">
+        <source>Переключить полный и простой редактор</source>
+        <translation>Switch between the full and the simple editor</translation>
+    </message>
+    <message id="wcfg_030">
+        <source></source>
+        <translation>the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_020">
+        <source>С файлом...</source>
+        <translation>With a file...</translation>
+    </message>
+    <message id="wcfg_021">
+        <source>С последней прочитанной из терминала</source>
+        <translation>With the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_022">
+        <source>строка %1, столбец %2: %3</source>
+        <translation>line %1, column %2: %3</translation>
+    </message>
+    <message id="wcfg_023">
+        <source>файл не найден</source>
+        <translation>file not found</translation>
+    </message>
+    <message id="wcfg_024">
+        <source>файл пуст</source>
+        <translation>the file is empty</translation>
+    </message>
+    <message id="wcfg_025">
+        <source>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</source>
+        <translation>not a terminal configuration (no «DEVICE» root element)</translation>
+    </message>
+    <message id="wcfg_026">
+        <source>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</source>
+        <translation>Cannot open the configuration file «%1»:
+%2.
+
+The editor keeps the configuration it had.</translation>
+    </message>
+    <message id="wcfg_027">
+        <source>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</source>
+        <translation>Cannot write the file «%1»:
+%2.
+
+The old file is unchanged.</translation>
+    </message>
+    <message id="wcfg_028">
+        <source>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</source>
+        <translation>No configuration has been read from the terminal yet: nothing to compare with.</translation>
+    </message>
+    <message id="wcfg_018">
+        <source>Простой редактор</source>
+        <translation>Simple editor</translation>
+    </message>
+    <message id="wcfg_029">
+        <source>Полный редактор</source>
+        <translation>Full editor</translation>
+    </message>
+    <message id="wcfg_031">
+        <source>Конфигурация изменена. Сохранить изменения?</source>
+        <translation>The configuration has changed. Save the changes?</translation>
+    </message>
+    <message id="wcfg_032">
+        <source>Сохранить</source>
+        <translation>Save</translation>
+    </message>
+    <message id="wcfg_033">
+        <source>Не сохранять</source>
+        <translation>Don&apos;t save</translation>
+    </message>
+    <message id="wcfg_034">
+        <source>Отмена</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="wcfg_035">
+        <source>Файлы конфигурации (*.xml)</source>
+        <translation>Configuration files (*.xml)</translation>
+    </message>
+    <message id="cfgl_001">
+        <source>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</source>
+        <translation>The main track settings. The rest of the configuration is kept unchanged.</translation>
+    </message>
+    <message id="cfgl_002">
+        <source>Период записи в движении, с:</source>
+        <translation>Period while moving, s:</translation>
+    </message>
+    <message id="cfgl_003">
+        <source>Интервал между точками трека в движении, от 0 до 99999 с</source>
+        <translation>Interval between track points while moving, 0 to 99999 s</translation>
+    </message>
+    <message id="cfgl_004">
+        <source>Дистанция, м:</source>
+        <translation>Distance, m:</translation>
+    </message>
+    <message id="cfgl_005">
+        <source>Точка трека через каждые N метров, от 1 до 10000 м</source>
+        <translation>A track point every N metres, 1 to 10000 m</translation>
+    </message>
+    <message id="cfgl_006">
+        <source>Угол поворота, °:</source>
+        <translation>Turn angle, °:</translation>
+    </message>
+    <message id="cfgl_007">
+        <source>Точка трека при повороте на этот угол, от 1 до 90°</source>
+        <translation>A track point on a turn by this angle, 1 to 90°</translation>
+    </message>
+    <message id="cfgl_008">
+        <source>Период записи на стоянке, с:</source>
+        <translation>Period while stopped, s:</translation>
+    </message>
+    <message id="cfgl_009">
+        <source>Интервал между точками трека на стоянке, от 0 до 99999 с</source>
+        <translation>Interval between track points while stopped, 0 to 99999 s</translation>
+    </message>
+    <message id="cfgl_010">
+        <source>Поколение протокола:</source>
+        <translation>Protocol generation:</translation>
+    </message>
+    <message id="cfgl_011">
+        <source>Формат записей телеметрии ORBA: 1, 2 или 3</source>
+        <translation>ORBA telemetry record format: 1, 2 or 3</translation>
+    </message>
+    <message id="cfgl_012">
+        <source>ORBA 1</source>
+        <translation>ORBA 1</translation>
+    </message>
+    <message id="cfgl_013">
+        <source>ORBA 2</source>
+        <translation>ORBA 2</translation>
+    </message>
+    <message id="cfgl_014">
+        <source>ORBA 3</source>
+        <translation>ORBA 3</translation>
+    </message>
 </context>
 </TS>

@@ -1797,5 +1797,285 @@
         <source></source>
         <translation></translation>
     </message>
+    <message id="cmpc_001">
+        <source>Сравнение конфигураций</source>
+        <translation>Сравнение конфигураций</translation>
+    </message>
+    <message id="cmpc_002">
+        <source>Раздел / узел</source>
+        <translation>Раздел / узел</translation>
+    </message>
+    <message id="cmpc_003">
+        <source>Ключ</source>
+        <translation>Ключ</translation>
+    </message>
+    <message id="cmpc_004">
+        <source>Название</source>
+        <translation>Название</translation>
+    </message>
+    <message id="cmpc_005">
+        <source>В редакторе</source>
+        <translation>В редакторе</translation>
+    </message>
+    <message id="cmpc_006">
+        <source>В другой</source>
+        <translation>В другой</translation>
+    </message>
+    <message id="cmpc_007">
+        <source>Сравнение с: %1</source>
+        <translation>Сравнение с: %1</translation>
+    </message>
+    <message id="cmpc_008">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cmpc_009">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cmpc_010">
+        <source>(нет)</source>
+        <translation>(нет)</translation>
+    </message>
+    <message id="cmpc_011">
+        <source>(корень)</source>
+        <translation>(корень)</translation>
+    </message>
+    <message id="cfgx_002">
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</source>
+        <translation>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</translation>
+    </message>
+    <message id="cfgx_003">
+        <source>Фильтр:</source>
+        <translation>Фильтр:</translation>
+    </message>
+    <message id="cfgx_004">
+        <source>Показать только узлы, ключи и значения, содержащие этот текст</source>
+        <translation>Показать только узлы, ключи и значения, содержащие этот текст</translation>
+    </message>
+    <message id="cfgx_005">
+        <source>Разделы конфигурации, которые терминал прислал сверх страниц редактора</source>
+        <translation>Разделы конфигурации, которые терминал прислал сверх страниц редактора</translation>
+    </message>
+    <message id="cfgx_006">
+        <source>Узел</source>
+        <translation>Узел</translation>
+    </message>
+    <message id="cfgx_007">
+        <source>Ключ</source>
+        <translation>Ключ</translation>
+    </message>
+    <message id="cfgx_008">
+        <source>Значение</source>
+        <translation>Значение</translation>
+    </message>
+    <message id="cfgx_001">
+        <source>Прочие настройки</source>
+        <translation>Прочие настройки</translation>
+    </message>
+    <message id="wcfg_002">
+        <source>Новая</source>
+        <translation>Новая</translation>
+    </message>
+    <message id="wcfg_003">
+        <source>Новая конфигурация со значениями по умолчанию</source>
+        <translation>Новая конфигурация со значениями по умолчанию</translation>
+    </message>
+    <message id="wcfg_004">
+        <source>Открыть...</source>
+        <translation>Открыть...</translation>
+    </message>
+    <message id="wcfg_005">
+        <source>Открыть файл конфигурации</source>
+        <translation>Открыть файл конфигурации</translation>
+    </message>
+    <message id="wcfg_006">
+        <source>Сохранить</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message id="wcfg_007">
+        <source>Сохранить конфигурацию в её файл</source>
+        <translation>Сохранить конфигурацию в её файл</translation>
+    </message>
+    <message id="wcfg_008">
+        <source>Сохранить как...</source>
+        <translation>Сохранить как...</translation>
+    </message>
+    <message id="wcfg_009">
+        <source>Сохранить конфигурацию в другой файл</source>
+        <translation>Сохранить конфигурацию в другой файл</translation>
+    </message>
+    <message id="wcfg_010">
+        <source>Прочитать из терминала</source>
+        <translation>Прочитать из терминала</translation>
+    </message>
+    <message id="wcfg_011">
+        <source>Прочитать конфигурацию из подключённого терминала</source>
+        <translation>Прочитать конфигурацию из подключённого терминала</translation>
+    </message>
+    <message id="wcfg_012">
+        <source>Записать в терминал</source>
+        <translation>Записать в терминал</translation>
+    </message>
+    <message id="wcfg_013">
+        <source>Записать конфигурацию в подключённый терминал</source>
+        <translation>Записать конфигурацию в подключённый терминал</translation>
+    </message>
+    <message id="wcfg_014">
+        <source>По умолчанию</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message id="wcfg_015">
+        <source>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</source>
+        <translation>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</translation>
+    </message>
+    <message id="wcfg_016">
+        <source>Сравнить</source>
+        <translation>Сравнить</translation>
+    </message>
+    <message id="wcfg_017">
+        <source>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</source>
+        <translation>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</translation>
+    </message>
+    <message id="wcfg_019">
+        <source>Переключить полный и простой редактор</source>
+        <translation>Переключить полный и простой редактор</translation>
+    </message>
+    <message id="wcfg_030">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="wcfg_020">
+        <source>С файлом...</source>
+        <translation>С файлом...</translation>
+    </message>
+    <message id="wcfg_021">
+        <source>С последней прочитанной из терминала</source>
+        <translation>С последней прочитанной из терминала</translation>
+    </message>
+    <message id="wcfg_022">
+        <source>строка %1, столбец %2: %3</source>
+        <translation>строка %1, столбец %2: %3</translation>
+    </message>
+    <message id="wcfg_023">
+        <source>файл не найден</source>
+        <translation>файл не найден</translation>
+    </message>
+    <message id="wcfg_024">
+        <source>файл пуст</source>
+        <translation>файл пуст</translation>
+    </message>
+    <message id="wcfg_025">
+        <source>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</source>
+        <translation>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</translation>
+    </message>
+    <message id="wcfg_026">
+        <source>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</source>
+        <translation>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</translation>
+    </message>
+    <message id="wcfg_027">
+        <source>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</source>
+        <translation>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</translation>
+    </message>
+    <message id="wcfg_028">
+        <source>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</source>
+        <translation>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</translation>
+    </message>
+    <message id="wcfg_018">
+        <source>Простой редактор</source>
+        <translation>Простой редактор</translation>
+    </message>
+    <message id="wcfg_029">
+        <source>Полный редактор</source>
+        <translation>Полный редактор</translation>
+    </message>
+    <message id="wcfg_031">
+        <source>Конфигурация изменена. Сохранить изменения?</source>
+        <translation>Конфигурация изменена. Сохранить изменения?</translation>
+    </message>
+    <message id="wcfg_032">
+        <source>Сохранить</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message id="wcfg_033">
+        <source>Не сохранять</source>
+        <translation>Не сохранять</translation>
+    </message>
+    <message id="wcfg_034">
+        <source>Отмена</source>
+        <translation>Отмена</translation>
+    </message>
+    <message id="wcfg_035">
+        <source>Файлы конфигурации (*.xml)</source>
+        <translation>Файлы конфигурации (*.xml)</translation>
+    </message>
+    <message id="cfgl_001">
+        <source>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</source>
+        <translation>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</translation>
+    </message>
+    <message id="cfgl_002">
+        <source>Период записи в движении, с:</source>
+        <translation>Период записи в движении, с:</translation>
+    </message>
+    <message id="cfgl_003">
+        <source>Интервал между точками трека в движении, от 0 до 99999 с</source>
+        <translation>Интервал между точками трека в движении, от 0 до 99999 с</translation>
+    </message>
+    <message id="cfgl_004">
+        <source>Дистанция, м:</source>
+        <translation>Дистанция, м:</translation>
+    </message>
+    <message id="cfgl_005">
+        <source>Точка трека через каждые N метров, от 1 до 10000 м</source>
+        <translation>Точка трека через каждые N метров, от 1 до 10000 м</translation>
+    </message>
+    <message id="cfgl_006">
+        <source>Угол поворота, °:</source>
+        <translation>Угол поворота, °:</translation>
+    </message>
+    <message id="cfgl_007">
+        <source>Точка трека при повороте на этот угол, от 1 до 90°</source>
+        <translation>Точка трека при повороте на этот угол, от 1 до 90°</translation>
+    </message>
+    <message id="cfgl_008">
+        <source>Период записи на стоянке, с:</source>
+        <translation>Период записи на стоянке, с:</translation>
+    </message>
+    <message id="cfgl_009">
+        <source>Интервал между точками трека на стоянке, от 0 до 99999 с</source>
+        <translation>Интервал между точками трека на стоянке, от 0 до 99999 с</translation>
+    </message>
+    <message id="cfgl_010">
+        <source>Поколение протокола:</source>
+        <translation>Поколение протокола:</translation>
+    </message>
+    <message id="cfgl_011">
+        <source>Формат записей телеметрии ORBA: 1, 2 или 3</source>
+        <translation>Формат записей телеметрии ORBA: 1, 2 или 3</translation>
+    </message>
+    <message id="cfgl_012">
+        <source>ORBA 1</source>
+        <translation>ORBA 1</translation>
+    </message>
+    <message id="cfgl_013">
+        <source>ORBA 2</source>
+        <translation>ORBA 2</translation>
+    </message>
+    <message id="cfgl_014">
+        <source>ORBA 3</source>
+        <translation>ORBA 3</translation>
+    </message>
 </context>
 </TS>
