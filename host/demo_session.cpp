@@ -114,6 +114,8 @@ int ZrkDemoSession::run()
     m_window.setLanguage(QStringLiteral("ru"));
     ok = grab(&m_window, QStringLiteral("language")) && ok;
 
+    ok = runConfigSteps() && ok;
+
     // The plug-in's about form, filled and shown through its invokable operations.
     QWidget* about = topLevel("ZRK_Form_Param_About");
     if (!about) {

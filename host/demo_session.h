@@ -26,6 +26,9 @@ public:
     QStringList writtenFiles() const { return m_written; }
 
 private:
+    // The configuration window: new, the track page, the black list, reading from the terminal,
+    // the other settings, writing to the terminal.
+    bool runConfigSteps();
     void settle(int ms = 150);
     bool grab(QWidget* widget, const QString& name);
     bool grabScreen(const QString& name);

@@ -5,6 +5,7 @@
 #include "host_dispatcher.h"
 #include "host_window.h"
 #include "plugin_loader.h"
+#include "sim_config.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -69,6 +70,7 @@ int main(int argc, char* argv[])
     {
         ZrkHostDispatcher dispatcher(loader);
         ZrkHostWindow window(loader, dispatcher);
+        new ZrkSimConfig(dispatcher, &window);
         if (parser.isSet(demo)) {
             ZrkDemoSession session(window, plugin, parser.value(demo));
             status = session.run();

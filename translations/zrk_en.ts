@@ -1841,7 +1841,9 @@
         <translation>(root)</translation>
     </message>
     <message id="cfgx_002">
-        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</source>
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в
+</source>
+        <oldsource>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</oldsource>
         <translation>Terminal settings this editor has no page for. They are kept and written to the terminal unchanged; values can be edited (double-click a row).</translation>
     </message>
     <message id="cfgx_003">
