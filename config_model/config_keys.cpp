@@ -19,8 +19,8 @@ const QString kIntOne = QStringLiteral("1");
 const QVector<int> kZeroOne { 0, 1 };
 const QVector<int> kAveragingModes { 0, 1, 3 }; // 2 is never written
 
-KeyDecl integer(const char* group, const char* key, int readDefault, int reset, int min, int max,
-    const char* label)
+KeyDecl integer(
+    const char* group, const char* key, int readDefault, int reset, int min, int max, const char* label)
 {
     KeyDecl d;
     d.group = QLatin1String(group);
@@ -34,8 +34,8 @@ KeyDecl integer(const char* group, const char* key, int readDefault, int reset, 
     return d;
 }
 
-KeyDecl choice(const char* group, const char* key, int readDefault, int reset, QVector<int> choices,
-    const char* label)
+KeyDecl choice(
+    const char* group, const char* key, int readDefault, int reset, QVector<int> choices, const char* label)
 {
     KeyDecl d = integer(group, key, readDefault, reset, choices.first(), choices.last(), label);
     d.choices = std::move(choices);
@@ -56,8 +56,8 @@ KeyDecl boolean(const char* group, const char* key, bool readDefault, bool reset
     return d;
 }
 
-KeyDecl text(const char* group, const char* key, const QString& readDefault, const QString& reset,
-    const char* label)
+KeyDecl text(
+    const char* group, const char* key, const QString& readDefault, const QString& reset, const char* label)
 {
     KeyDecl d;
     d.group = QLatin1String(group);
@@ -104,8 +104,8 @@ BranchDecl trackBranch(const ZRK_Track_Caps& caps)
 {
     BranchDecl b;
     b.top = QStringLiteral("TRACK");
-    b.groups = QStringList { QStringLiteral("POINTS"), QStringLiteral("LIMPOINT"),
-        QStringLiteral("COORDFLT"), QStringLiteral("COORDAVER"), QStringLiteral("MOVESENS") };
+    b.groups = QStringList { QStringLiteral("POINTS"), QStringLiteral("LIMPOINT"), QStringLiteral("COORDFLT"),
+        QStringLiteral("COORDAVER"), QStringLiteral("MOVESENS") };
     const QString hdop = oneDecimal(double(caps.maxHdopDefault));
     auto& k = b.keys;
     //% "Ставить точки только в движении (правило старт/стоп)"
@@ -216,9 +216,9 @@ BranchDecl trackBranch(const ZRK_Track_Caps& caps)
 const QStringList& blackListDefaults()
 {
     static const QStringList rows { QStringLiteral("70mai"), QStringLiteral("galaxy"),
-        QStringLiteral("iphone"), QStringLiteral("honor"), QStringLiteral("realme"),
-        QStringLiteral("redmi"), QStringLiteral("vivo"), QStringLiteral("samsung"),
-        QStringLiteral("xiaomi"), QStringLiteral("zte"), QString(), QString() };
+        QStringLiteral("iphone"), QStringLiteral("honor"), QStringLiteral("realme"), QStringLiteral("redmi"),
+        QStringLiteral("vivo"), QStringLiteral("samsung"), QStringLiteral("xiaomi"), QStringLiteral("zte"),
+        QString(), QString() };
     return rows;
 }
 
@@ -381,7 +381,8 @@ Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
 {
     Values values;
     values.reserve(branch.keys.size());
-    std::unique_ptr<CXMLWorkData> top(root ? root->createNode(branch.top.toLatin1().constData(), 0) : nullptr);
+    std::unique_ptr<CXMLWorkData> top(
+        root ? root->createNode(branch.top.toLatin1().constData(), 0) : nullptr);
     QString openGroup;
     std::unique_ptr<CXMLWorkData> node;
     for (const KeyDecl& d : branch.keys) {
@@ -523,7 +524,8 @@ QString expectedText(const KeyDecl& d)
     case T::Flags:
         return QStringLiteral("%1 flags of 0/1").arg(d.length);
     case T::Decimal:
-        return QStringLiteral("a number with one decimal, %1..%2").arg(oneDecimal(d.min / 10.0), oneDecimal(d.max / 10.0));
+        return QStringLiteral("a number with one decimal, %1..%2")
+            .arg(oneDecimal(d.min / 10.0), oneDecimal(d.max / 10.0));
     case T::Text:
         break;
     }
@@ -588,7 +590,8 @@ QVector<LintFinding> lintConfiguration(CXMLWorkData* root)
         return findings;
     for (int t = 0; t < root->params.count; ++t) {
         const COneParameter& topItem = root->params.items[t];
-        const BranchDecl* branch = topItem.isNode ? declaredBranch(QString::fromLocal8Bit(topItem.name)) : nullptr;
+        const BranchDecl* branch
+            = topItem.isNode ? declaredBranch(QString::fromLocal8Bit(topItem.name)) : nullptr;
         if (!branch || !topItem.tag)
             continue;
         CXMLWorkData top(root->serializer(), topItem.tag);
@@ -597,7 +600,7 @@ QVector<LintFinding> lintConfiguration(CXMLWorkData* root)
                 if (value != branch->top)
                     findings.append({ branch->top, name, value, branch->top });
             } else if (branch->indexOf(QString(), name) < 0) {
-                findings.append({ branch->top, name, value, QStringLiteral("no such key") });
+                findings.append({ branch->top, name, value, QStringLiteral("a declared key") });
             }
         }
         QStringList seen;
@@ -608,11 +611,11 @@ QVector<LintFinding> lintConfiguration(CXMLWorkData* root)
             const QString group = QString::fromLocal8Bit(groupItem.name);
             const QString path = branch->top + QLatin1Char('/') + group;
             if (!branch->groups.contains(group)) {
-                findings.append({ path, QString(), QString(), QStringLiteral("no such node") });
+                findings.append({ path, QString(), QString(), QStringLiteral("a declared node") });
                 continue;
             }
             if (seen.contains(group)) {
-                findings.append({ path, QString(), QString(), QStringLiteral("one such node") });
+                findings.append({ path, QString(), QString(), QStringLiteral("one node of this name") });
                 continue;
             }
             seen << group;
@@ -621,7 +624,7 @@ QVector<LintFinding> lintConfiguration(CXMLWorkData* root)
             for (const auto& [name, value] : attributes) {
                 const int i = branch->indexOf(group, name);
                 if (i < 0)
-                    findings.append({ path, name, value, QStringLiteral("no such key") });
+                    findings.append({ path, name, value, QStringLiteral("a declared key") });
                 else if (!valueFits(branch->keys[i], value))
                     findings.append({ path, name, value, expectedText(branch->keys[i]) });
             }

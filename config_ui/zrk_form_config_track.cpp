@@ -73,7 +73,8 @@ ZRK_Form_Config_Track::~ZRK_Form_Config_Track()
 
 // ---- binding the form to the declared keys -------------------------------------------------------
 
-void ZRK_Form_Config_Track::bind(QHash<QString, Binding>& map, const char* group, const char* k, Binding binding)
+void ZRK_Form_Config_Track::bind(
+    QHash<QString, Binding>& map, const char* group, const char* k, Binding binding)
 {
     map.insert(key(QLatin1String(group), QLatin1String(k)), std::move(binding));
 }
@@ -106,7 +107,8 @@ QVector<ZRK_Form_Config_Track::Binding> ZRK_Form_Config_Track::alignBindings(
     for (const KeyDecl& d : branch.keys) {
         Binding b = map.value(key(d.group, d.key));
         // Plain spin boxes take their range from the declaration.
-        if (auto* spin = qobject_cast<QSpinBox*>(b.widget); spin && d.type == zrk::cfg::KeyType::Integer && !d.zeroMeansOff)
+        if (auto* spin = qobject_cast<QSpinBox*>(b.widget);
+            spin && d.type == zrk::cfg::KeyType::Integer && !d.zeroMeansOff)
             spin->setRange(d.min, d.max);
         Q_ASSERT_X(b.get && b.set, "bindings", qPrintable(key(d.group, d.key)));
         out << b;
@@ -120,7 +122,9 @@ void ZRK_Form_Config_Track::bindTrack()
     auto check = [&m, this](const char* g, const char* k, QAbstractButton* b) {
         bind(m, g, k, { checkGet(b), checkSet(b), b });
     };
-    auto spin = [&m, this](const char* g, const char* k, QSpinBox* s) { bind(m, g, k, { spinGet(s), spinSet(s), s }); };
+    auto spin = [&m, this](const char* g, const char* k, QSpinBox* s) {
+        bind(m, g, k, { spinGet(s), spinSet(s), s });
+    };
 
     check("POINTS", "useMoveSens", ui->Always_checkBox_StartStop);
     check("POINTS", "useMaxSpeed", ui->Always_checkBox_MaxSpeed);
@@ -129,7 +133,8 @@ void ZRK_Form_Config_Track::bindTrack()
         { [this] {
              if (ui->Additional_checkBox_Corner->isChecked())
                  return QStringLiteral("1");
-             return ui->Additional_checkBox_Direction->isChecked() ? QStringLiteral("2") : QStringLiteral("0");
+             return ui->Additional_checkBox_Direction->isChecked() ? QStringLiteral("2")
+                                                                   : QStringLiteral("0");
          },
             [this](const QString& v) {
                 const int mode = v.toInt();
@@ -143,7 +148,8 @@ void ZRK_Form_Config_Track::bindTrack()
     check("POINTS", "useTimer", ui->Additional_checkBox_Timer);
     spin("POINTS", "moveTimer", ui->Additional_spinBox_Timer);
     bind(m, "POINTS", "moveTimerSens",
-        { [this] { return getTmrFlags(); }, [this](const QString& v) { setTmrFlags(v); }, ui->groupBox_TmrFlags });
+        { [this] { return getTmrFlags(); }, [this](const QString& v) { setTmrFlags(v); },
+            ui->groupBox_TmrFlags });
     spin("POINTS", "stopTimer", ui->Additional_spinBox_StopTimer);
 
     check("LIMPOINT", "blockDist", ui->checkBox_BlockDist);
@@ -155,7 +161,8 @@ void ZRK_Form_Config_Track::bindTrack()
     spin("COORDFLT", "minSats", ui->spinBox_MinSats);
     bind(m, "COORDFLT", "maxHDOP",
         { [this] { return getFloatToStr(float(ui->doubleSpinBox_MaxHdop->value()), 1); },
-            [this](const QString& v) { ui->doubleSpinBox_MaxHdop->setValue(v.toDouble()); }, ui->doubleSpinBox_MaxHdop });
+            [this](const QString& v) { ui->doubleSpinBox_MaxHdop->setValue(v.toDouble()); },
+            ui->doubleSpinBox_MaxHdop });
     spin("COORDFLT", "maxSpeed", ui->spinBox_FltMaxSpeed);
     spin("COORDFLT", "maxAccel", ui->spinBox_MaxAccel);
     spin("COORDFLT", "maxDist", ui->spinBox_MaxDist);
@@ -180,7 +187,9 @@ void ZRK_Form_Config_Track::bindTrack()
             ui->spinBox_MaxAlt });
     bind(m, "COORDFLT", "deltaNTP",
         { spinGet(ui->spinBox_DeltaNtp),
-            [this](const QString& v) { setCounter(ui->checkBox_DeltaNtp, ui->spinBox_DeltaNtp, v.toInt(), kDeltaNtpOn); },
+            [this](const QString& v) {
+                setCounter(ui->checkBox_DeltaNtp, ui->spinBox_DeltaNtp, v.toInt(), kDeltaNtpOn);
+            },
             ui->spinBox_DeltaNtp });
 
     bind(m, "COORDAVER", "mode",
@@ -212,21 +221,23 @@ void ZRK_Form_Config_Track::bindTrack()
             ui->groupBox_SensorAverage });
 
     bind(m, "MOVESENS", "mode",
-        { [this] { return QString::number(getParkingMode()); }, [this](const QString& v) { setParkingMode(v.toInt()); },
-            ui->groupBox_Parking });
+        { [this] { return QString::number(getParkingMode()); },
+            [this](const QString& v) { setParkingMode(v.toInt()); }, ui->groupBox_Parking });
     spin("MOVESENS", "stopTimer", ui->spinBox_ParkingStopTimer);
 
     bind(m, "GNSS", "mode",
-        { [this] { return getGnssMode(); }, [this](const QString& v) { setGnssMode(v); }, ui->groupBox_GnssSystems });
+        { [this] { return getGnssMode(); }, [this](const QString& v) { setGnssMode(v); },
+            ui->groupBox_GnssSystems });
     check("GNSS", "useAGPS", ui->checkBox_Agps);
     check("GNSS", "useEPO", ui->checkBox_Epo);
     spin("GNSS", "angle", ui->spinBox_Angle);
     bind(m, "GNSS", "datum",
-        { [this] { return QString::number(getGnssCoord()); }, [this](const QString& v) { setGnssCoord(v.toInt()); },
-            ui->groupBox_Datum });
+        { [this] { return QString::number(getGnssCoord()); },
+            [this](const QString& v) { setGnssCoord(v.toInt()); }, ui->groupBox_Datum });
     bind(m, "GNSS", "receiver",
         { [this] { return QString::number(std::max(0, ui->comboBox_Receiver->currentIndex())); },
-            [this](const QString& v) { ui->comboBox_Receiver->setCurrentIndex(v.toInt()); }, ui->comboBox_Receiver });
+            [this](const QString& v) { ui->comboBox_Receiver->setCurrentIndex(v.toInt()); },
+            ui->comboBox_Receiver });
     bind(m, "GNSS", "coldRstTimer",
         { spinGet(ui->spinBox_ColdRstTimer),
             [this](const QString& v) {
@@ -242,40 +253,49 @@ void ZRK_Form_Config_Track::bindLocator()
     auto check = [&m, this](const char* g, const char* k, QAbstractButton* b) {
         bind(m, g, k, { checkGet(b), checkSet(b), b });
     };
-    auto spin = [&m, this](const char* g, const char* k, QSpinBox* s) { bind(m, g, k, { spinGet(s), spinSet(s), s }); };
-    auto alternative = [&m, this](const char* g, ZRK_Widget_AltNav_Source* source, ZRK_Widget_AltNav_Period* period) {
-        bind(m, g, "source",
-            { [source] { return source->getSource(); }, [source](const QString& v) { source->setSource(v); }, source });
-        bind(m, g, "moveTimer",
-            { [period] { return QString::number(period->getMoveTimer()); },
-                [period](const QString& v) { period->setMoveTimer(v.toInt()); }, period });
-        bind(m, g, "moveSens",
-            { [period] { return period->getMoveSens(); }, [period](const QString& v) { period->setMoveSens(v); }, period });
-        bind(m, g, "stopTimer",
-            { [period] { return QString::number(period->getStopTimer()); },
-                [period](const QString& v) { period->setStopTimer(v.toInt()); }, period });
+    auto spin = [&m, this](const char* g, const char* k, QSpinBox* s) {
+        bind(m, g, k, { spinGet(s), spinSet(s), s });
     };
+    auto alternative
+        = [&m, this](const char* g, ZRK_Widget_AltNav_Source* source, ZRK_Widget_AltNav_Period* period) {
+              bind(m, g, "source",
+                  { [source] { return source->getSource(); },
+                      [source](const QString& v) { source->setSource(v); }, source });
+              bind(m, g, "moveTimer",
+                  { [period] { return QString::number(period->getMoveTimer()); },
+                      [period](const QString& v) { period->setMoveTimer(v.toInt()); }, period });
+              bind(m, g, "moveSens",
+                  { [period] { return period->getMoveSens(); },
+                      [period](const QString& v) { period->setMoveSens(v); }, period });
+              bind(m, g, "stopTimer",
+                  { [period] { return QString::number(period->getStopTimer()); },
+                      [period](const QString& v) { period->setStopTimer(v.toInt()); }, period });
+          };
 
     check("TLM", "use", ui->checkBox_Tlm_Use);
     alternative("TLM", ui->widget_Tlm_Source, ui->widget_Tlm_Period);
 
     check("GLOBAL", "use", ui->checkBox_Loc_Use);
     bind(m, "GLOBAL", "key",
-        { [this] { return ui->lineEdit_Loc_Key->text(); }, [this](const QString& v) { ui->lineEdit_Loc_Key->setText(v); },
-            ui->lineEdit_Loc_Key });
+        { [this] { return ui->lineEdit_Loc_Key->text(); },
+            [this](const QString& v) { ui->lineEdit_Loc_Key->setText(v); }, ui->lineEdit_Loc_Key });
     bind(m, "GLOBAL", "condition",
-        { [this] { return QString::number(getLocConditionCode4Name(ui->comboBox_Loc_Condition->currentText())); },
+        { [this] {
+             return QString::number(getLocConditionCode4Name(ui->comboBox_Loc_Condition->currentText()));
+         },
             [this](const QString& v) {
                 ui->comboBox_Loc_Condition->setCurrentText(getLocConditionName4Code(v.toInt()));
             },
             ui->comboBox_Loc_Condition });
     bind(m, "GLOBAL", "addTlm",
         { [this] { return QString::number(std::max(0, ui->comboBox_Loc_AddTlm->currentIndex())); },
-            [this](const QString& v) { ui->comboBox_Loc_AddTlm->setCurrentIndex(v.toInt()); }, ui->comboBox_Loc_AddTlm });
+            [this](const QString& v) { ui->comboBox_Loc_AddTlm->setCurrentIndex(v.toInt()); },
+            ui->comboBox_Loc_AddTlm });
     alternative("GLOBAL", ui->widget_Loc_Source, ui->widget_Loc_Period);
 
     bind(m, "COORDFILT", "use",
-        { checkGet(ui->groupBox_CoordFlt_Use), checkSet(ui->groupBox_CoordFlt_Use), ui->groupBox_CoordFlt_Use });
+        { checkGet(ui->groupBox_CoordFlt_Use), checkSet(ui->groupBox_CoordFlt_Use),
+            ui->groupBox_CoordFlt_Use });
     spin("COORDFILT", "speed", ui->spinBox_CoordFlt_Speed);
     bind(m, "COORDFILT", "rejCnt",
         { spinGet(ui->spinBox_CoordFlt_RejCnt),
@@ -287,7 +307,8 @@ void ZRK_Form_Config_Track::bindLocator()
     check("COORDFILT", "recheckWiFi", ui->checkBox_CoordFlt_RecheckWiFi);
     check("COORDFILT", "recheckGNSS", ui->checkBox_CoordFlt_RecheckGnss);
 
-    bind(m, "APFILT", "use", { checkGet(ui->groupBox_ApFLT_Use), checkSet(ui->groupBox_ApFLT_Use), ui->groupBox_ApFLT_Use });
+    bind(m, "APFILT", "use",
+        { checkGet(ui->groupBox_ApFLT_Use), checkSet(ui->groupBox_ApFLT_Use), ui->groupBox_ApFLT_Use });
     spin("APFILT", "rxLvl", ui->spinBox_ApFlt_RxLvl);
 
     for (int i = 0; i < ZRK_Form_Config_Track_Locator_BList::kRows; ++i) {
@@ -370,7 +391,8 @@ void ZRK_Form_Config_Track::applyCaps()
     ui->checkBox_CoordFlt_RecheckWiFi->setVisible(c.locatorRecheckWifi);
     ui->groupBox_ApFLT_Use->setVisible(c.locatorApFilter);
     ui->pushButton_BlackList->setVisible(c.locatorBlackList);
-    ui->tabWidget_Track->setTabVisible(ui->tabWidget_Track->indexOf(ui->tab_Locator), c.locatorTlm || c.locatorGlobal);
+    ui->tabWidget_Track->setTabVisible(
+        ui->tabWidget_Track->indexOf(ui->tab_Locator), c.locatorTlm || c.locatorGlobal);
 
     ui->widget_Tlm_Source->applyCaps(c.altNavSources);
     ui->widget_Loc_Source->applyCaps(c.altNavSources);
@@ -451,19 +473,24 @@ void ZRK_Form_Config_Track::initForm()
     onState(ui->checkBox_Tlm_Use, &F::slot_stateChanged_checkBox_Tlm_Use);
     onState(ui->checkBox_Loc_Use, &F::slot_stateChanged_checkBox_Loc_Use);
     onState(ui->checkBox_CoordFlt_RejCnt, &F::slot_stateChanged_checkBox_CoordFlt_RejCnt);
-    connect(ui->spinBox_MinAlt, QOverload<int>::of(&QSpinBox::valueChanged), this, &F::slot_valueChanged_spinBox_MinAlt);
-    connect(ui->spinBox_MaxAlt, QOverload<int>::of(&QSpinBox::valueChanged), this, &F::slot_valueChanged_spinBox_MaxAlt);
+    connect(ui->spinBox_MinAlt, QOverload<int>::of(&QSpinBox::valueChanged), this,
+        &F::slot_valueChanged_spinBox_MinAlt);
+    connect(ui->spinBox_MaxAlt, QOverload<int>::of(&QSpinBox::valueChanged), this,
+        &F::slot_valueChanged_spinBox_MaxAlt);
     onClick(ui->Coord_Stop_radioButton_NotAverage, &F::slot_clicked_Coord_Stop_radioButton_NotAverage);
     onClick(ui->Coord_Stop_radioButton_Average, &F::slot_clicked_Coord_Stop_radioButton_Average);
     onClick(ui->Coord_Stop_radioButton_Fixed, &F::slot_clicked_Coord_Stop_radioButton_Fixed);
     onClick(ui->radioButton_ParkingMode_1, &F::slot_clicked_radioButton_ParkingMode_1);
     onClick(ui->radioButton_ParkingMode_2, &F::slot_clicked_radioButton_ParkingMode_2);
-    connect(ui->pushButton_ParkingAccel, &QPushButton::pressed, this, &F::slot_pressed_pushButton_ParkingAccel);
+    connect(
+        ui->pushButton_ParkingAccel, &QPushButton::pressed, this, &F::slot_pressed_pushButton_ParkingAccel);
     connect(ui->pushButton_BlackList, &QPushButton::pressed, this, &F::slot_pressed_pushButton_BlackList);
     connect(ui->groupBox_CoordFlt_Use, &QGroupBox::toggled, this, &F::slot_toggled_groupBox_CoordFlt_Use);
     connect(ui->groupBox_ApFLT_Use, &QGroupBox::toggled, this, &F::slot_toggled_groupBox_ApFLT_Use);
-    connect(ui->widget_Tlm_Source, &ZRK_Widget_AltNav_Source::openTabRSRequested, this, &F::openTabRSRequested);
-    connect(ui->widget_Loc_Source, &ZRK_Widget_AltNav_Source::openTabRSRequested, this, &F::openTabRSRequested);
+    connect(
+        ui->widget_Tlm_Source, &ZRK_Widget_AltNav_Source::openTabRSRequested, this, &F::openTabRSRequested);
+    connect(
+        ui->widget_Loc_Source, &ZRK_Widget_AltNav_Source::openTabRSRequested, this, &F::openTabRSRequested);
     setDefaultParam();
 }
 
@@ -507,9 +534,7 @@ void ZRK_Form_Config_Track::deviceDisconnect()
     ui->frame_Receiver->setVisible(false);
 }
 
-void ZRK_Form_Config_Track::setFormEnabled(bool)
-{
-}
+void ZRK_Form_Config_Track::setFormEnabled(bool) { }
 
 // Brings every dependent widget in line with the values, as the user's own clicks would.
 void ZRK_Form_Config_Track::runDependentSlots()
@@ -627,8 +652,8 @@ QString ZRK_Form_Config_Track::getLocConditionName4Code(int code) const
 
 QRadioButton* ZRK_Form_Config_Track::gnssButton(int index) const
 {
-    QRadioButton* const buttons[kGnssButtons] = { ui->radioButton_Gnss_0, ui->radioButton_Gnss_1, ui->radioButton_Gnss_2,
-        ui->radioButton_Gnss_3, ui->radioButton_Gnss_4, ui->radioButton_Gnss_5 };
+    QRadioButton* const buttons[kGnssButtons] = { ui->radioButton_Gnss_0, ui->radioButton_Gnss_1,
+        ui->radioButton_Gnss_2, ui->radioButton_Gnss_3, ui->radioButton_Gnss_4, ui->radioButton_Gnss_5 };
     return index >= 0 && index < kGnssButtons ? buttons[index] : nullptr;
 }
 
@@ -768,7 +793,8 @@ void ZRK_Form_Config_Track::slot_clicked_radioButton_ParkingMode_1(bool)
 
 void ZRK_Form_Config_Track::slot_clicked_radioButton_ParkingMode_2(bool)
 {
-    ui->pushButton_ParkingAccel->setEnabled(!m_caps.parkingModeSelect || ui->radioButton_ParkingMode_2->isChecked());
+    ui->pushButton_ParkingAccel->setEnabled(
+        !m_caps.parkingModeSelect || ui->radioButton_ParkingMode_2->isChecked());
 }
 
 void ZRK_Form_Config_Track::slot_pressed_pushButton_ParkingAccel()

@@ -22,7 +22,8 @@ ZRK_Widget_AltNav_Period::~ZRK_Widget_AltNav_Period()
     delete ui;
 }
 
-void ZRK_Widget_AltNav_Period::applyCaps(int defaultMoveTimer, int minMoveTimer, int defaultStopTimer, int minStopTimer)
+void ZRK_Widget_AltNav_Period::applyCaps(
+    int defaultMoveTimer, int minMoveTimer, int defaultStopTimer, int minStopTimer)
 {
     m_defaultMoveTimer = defaultMoveTimer;
     m_defaultStopTimer = defaultStopTimer;

@@ -7,7 +7,8 @@ ZRK_Widget_AltNav_Source::ZRK_Widget_AltNav_Source(QWidget* parent)
     , ui(new Ui::ZRK_Designer_Widget_AltNav_Source)
 {
     ui->setupUi(this);
-    connect(ui->pushButton_WiFi, &QPushButton::pressed, this, &ZRK_Widget_AltNav_Source::slot_pressed_pushButton_WiFi);
+    connect(ui->pushButton_WiFi, &QPushButton::pressed, this,
+        &ZRK_Widget_AltNav_Source::slot_pressed_pushButton_WiFi);
     setDefault();
 }
 

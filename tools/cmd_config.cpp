@@ -4,9 +4,12 @@
 #include "config_model/serialize.h"
 #include "config_model/xml_workdata.h"
 #include "tools/commands.h"
+#include "translations/catalogue.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
+
+#include <algorithm>
 
 const char* const kConfigUsage
     = "  config check FILE               load a configuration file, count what it holds\n"
@@ -14,7 +17,8 @@ const char* const kConfigUsage
       "  config dump FILE                print the tree, one element a line (UTF-8)\n"
       "  config new OUT                  write a new configuration, every page at its defaults\n"
       "  config lint FILE                check the keys the pages own: one line a finding, exit 1 if any\n"
-      "  config diff A B                 differences by node and key, with the keys' labels\n";
+      "  config diff [--lang ru|en] A B  differences by node and key, with the keys' labels;\n"
+      "                                  exit 1 when there are any\n";
 
 namespace {
 
@@ -87,7 +91,8 @@ int runNew(const QStringList& args, QTextStream& err)
     }
     const QByteArray bytes = zrk::cfg::renderNewConfiguration();
     QSaveFile file(args.at(1));
-    if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+    if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()
+        || !file.commit()) {
         err << "zrk-tool: config new: " << args.at(1) << ": cannot write: " << file.errorString() << '\n';
         return 1;
     }
@@ -126,15 +131,24 @@ int runLint(const QStringList& args, QTextStream& out, QTextStream& err)
     return findings.isEmpty() ? 0 : 1;
 }
 
-int runDiff(const QStringList& args, QTextStream& out, QTextStream& err)
+int runDiff(QStringList args, QTextStream& out, QTextStream& err)
 {
-    if (args.size() != 3) {
-        err << "zrk-tool: config diff: expected 'diff A B'\n";
+    QString language = QStringLiteral("ru");
+    const int lang = args.indexOf(QStringLiteral("--lang"));
+    if (lang > 0) {
+        language = args.value(lang + 1);
+        args.erase(args.begin() + lang, args.begin() + std::min<int>(args.size(), lang + 2));
+    }
+    if (args.size() != 3 || (language != QLatin1String("ru") && language != QLatin1String("en"))) {
+        err << "zrk-tool: config diff: expected 'diff [--lang ru|en] A B'\n";
         return 2;
     }
+    // The keys' labels come from the catalogue, as in the plug-in.
+    zrk::installCatalogue(language);
     CSerialize a(args.at(1));
     CSerialize b(args.at(2));
-    if (!load(a, QStringLiteral("diff"), args.at(1), err) || !load(b, QStringLiteral("diff"), args.at(2), err))
+    if (!load(a, QStringLiteral("diff"), args.at(1), err)
+        || !load(b, QStringLiteral("diff"), args.at(2), err))
         return 1;
     const auto diffs = zrk::diffConfigs(a.root(), b.root());
     for (const zrk::ConfigDifference& d : diffs) {

@@ -26,7 +26,8 @@ QByteArray configWith(const QMap<QString, QString>& records)
     }
     QByteArray text = kDecl + "<DEVICE model=\"K-7140\">";
     for (auto it = byTop.begin(); it != byTop.end(); ++it)
-        text += QStringLiteral("<%1 page=\"%1\">%2</%1>").arg(it.key(), it.value().join(QString())).toLatin1();
+        text
+            += QStringLiteral("<%1 page=\"%1\">%2</%1>").arg(it.key(), it.value().join(QString())).toLatin1();
     return text + "</DEVICE>";
 }
 
@@ -93,10 +94,9 @@ void tst_FormConfigTrack::readWrite_data()
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("expected");
 
-    auto row = [](const char* name, const char* node, const char* key, const char* before, const char* value,
-                   const char* expected) {
-        QTest::newRow(name) << node << key << before << value << expected;
-    };
+    auto row
+        = [](const char* name, const char* node, const char* key, const char* before, const char* value,
+              const char* expected) { QTest::newRow(name) << node << key << before << value << expected; };
     row("timer flags short", "TRACK/POINTS", "moveTimerSens", "", "1", "1000");
     row("timer flags long", "TRACK/POINTS", "moveTimerSens", "", "11111", "1111");
     row("timer flags empty", "TRACK/POINTS", "moveTimerSens", "1111", "", "0000");
@@ -193,7 +193,7 @@ void tst_FormConfigTrack::newConfigurationIsThePageAtReset()
     ZRK_Form_Config_Track page;
     const QByteArray bytes = savedBytes(page);
     QCOMPARE(bytes, zrk::cfg::renderNewConfiguration());
-    QCOMPARE(bytes, readFile(dataFile("new_config.xml")));
+    QCOMPARE(bytes, readFile(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
 }
 
 void tst_FormConfigTrack::resetAfterReadRestoresDefaults()
@@ -215,10 +215,14 @@ void tst_FormConfigTrack::sensorsByCaps_data()
     QTest::addColumn<bool>("fourth");
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("five") << 5 << true << "11111" << "11111";
-    QTest::newRow("five, no fourth") << 5 << false << "11111" << "11101";
-    QTest::newRow("four") << 4 << true << "11111" << "1111";
-    QTest::newRow("four, no fourth") << 4 << false << "1111" << "1110";
+    QTest::newRow("five") << 5 << true << "11111"
+                          << "11111";
+    QTest::newRow("five, no fourth") << 5 << false << "11111"
+                                     << "11101";
+    QTest::newRow("four") << 4 << true << "11111"
+                          << "1111";
+    QTest::newRow("four, no fourth") << 4 << false << "1111"
+                                     << "1110";
 }
 
 void tst_FormConfigTrack::sensorsByCaps()
@@ -285,9 +289,12 @@ void tst_FormConfigTrack::optionalCounters_data()
     QTest::addColumn<QString>("box");
     QTest::addColumn<QString>("spin");
     QTest::addColumn<int>("onValue");
-    QTest::newRow("deltaNTP") << "checkBox_DeltaNtp" << "spinBox_DeltaNtp" << 5;
-    QTest::newRow("rejCnt") << "checkBox_CoordFlt_RejCnt" << "spinBox_CoordFlt_RejCnt" << 2;
-    QTest::newRow("coldRstTimer") << "checkBox_ColdRstTimer" << "spinBox_ColdRstTimer" << 5;
+    QTest::newRow("deltaNTP") << "checkBox_DeltaNtp"
+                              << "spinBox_DeltaNtp" << 5;
+    QTest::newRow("rejCnt") << "checkBox_CoordFlt_RejCnt"
+                            << "spinBox_CoordFlt_RejCnt" << 2;
+    QTest::newRow("coldRstTimer") << "checkBox_ColdRstTimer"
+                                  << "spinBox_ColdRstTimer" << 5;
 }
 
 void tst_FormConfigTrack::optionalCounters()
@@ -389,7 +396,8 @@ void tst_FormConfigTrack::buttonsAskTheWindow()
     page.setParkingMode(1);
     QTest::mouseClick(page.findChild<QAbstractButton*>("pushButton_ParkingAccel"), Qt::LeftButton);
     QCOMPARE(accel.count(), 1);
-    QTest::mouseClick(page.findChild<QWidget*>("widget_Loc_Source")->findChild<QAbstractButton*>("pushButton_WiFi"),
+    QTest::mouseClick(
+        page.findChild<QWidget*>("widget_Loc_Source")->findChild<QAbstractButton*>("pushButton_WiFi"),
         Qt::LeftButton);
     QCOMPARE(serial.count(), 1);
     page.findChild<QCheckBox*>("Always_checkBox_MaxSpeed")->setChecked(true);
