@@ -1,5 +1,6 @@
 #include "config_model/config_keys.h"
 
+#include "config_model/orba_fieldset.h"
 #include "config_model/parameters.h"
 #include "config_model/xml_workdata.h"
 #include "config_model/zrk_track_caps.h"
@@ -644,6 +645,13 @@ QVector<LintFinding> lintConfiguration(CXMLWorkData* root)
                         QStringLiteral("at most maxAlt - 100 (%1)").arg(hi.toInt() - 100) });
             }
         }
+    }
+    // The record field set has rules of its own: length, the leading fields, the size limit.
+    QString mask, format;
+    if (fieldset::readStoredFieldSet(root, &mask, &format)) {
+        for (const QString& fault : fieldset::checkMask(mask, fieldset::generationIndex(format)))
+            findings.append(
+                { QStringLiteral("PROTOCOL/ORBA"), QString::fromLatin1(fieldset::kMaskKey), mask, fault });
     }
     return findings;
 }

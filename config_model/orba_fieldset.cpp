@@ -1,5 +1,6 @@
 #include "config_model/orba_fieldset.h"
 
+#include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
 #include "telemetry/orba_record.h"
 
@@ -26,6 +27,20 @@ QString defaultMaskOf(int length)
 std::unique_ptr<CXMLWorkData> child(CXMLWorkData* parent, const char* name, int mode)
 {
     return std::unique_ptr<CXMLWorkData>(parent ? parent->createNode(name, mode) : nullptr);
+}
+
+// The parameter list keeps 254 bytes of a value, one short of the mask: the mask goes to and
+// comes from the element's own attribute entry, after the list has been committed.
+void writeWholeValue(CXMLWorkData* node, const char* key, const QString& value)
+{
+    if (CXmlTagV2* entry = node->tag() ? node->tag()->values.getTagFromName(QLatin1String(key)) : nullptr)
+        entry->value = value;
+}
+
+QString readWholeValue(const CXMLWorkData* node, const char* key, const QString& def)
+{
+    const CXmlTagV2* entry = node->tag() ? node->tag()->values.getTagFromName(QLatin1String(key)) : nullptr;
+    return entry ? entry->value : def;
 }
 
 } // namespace
@@ -104,22 +119,23 @@ int maskRecordSize(const QString& mask, int generation)
     return size;
 }
 
+// Each fault reads as what was expected, the way lint prints it.
 QStringList checkMask(const QString& mask, int generation)
 {
     QStringList faults;
     if (mask.size() != kMaskLength)
-        faults << QStringLiteral("mask has %1 characters, expected %2").arg(mask.size()).arg(kMaskLength);
+        faults << QStringLiteral("%1 characters (found %2)").arg(kMaskLength).arg(mask.size());
     for (int i = 0; i < mask.size(); ++i) {
         if (mask.at(i) != QLatin1Char('0') && mask.at(i) != QLatin1Char('1')) {
-            faults << QStringLiteral("mask character %1 is not 0 or 1").arg(i);
+            faults << QStringLiteral("only 0 and 1 (position %1 is not)").arg(i);
             break;
         }
     }
     if (!mask.startsWith(QLatin1String("111")))
-        faults << QStringLiteral("mask does not start with 111");
+        faults << QStringLiteral("111 first: number, event code and time are in every record");
     const int size = maskRecordSize(sanitizedMask(mask), generation);
     if (size > kSizeLimit)
-        faults << QStringLiteral("record of %1 bytes is over %2").arg(size).arg(kSizeLimit);
+        faults << QStringLiteral("a record of at most %1 bytes (this one has %2)").arg(kSizeLimit).arg(size);
     return faults;
 }
 
@@ -131,7 +147,7 @@ FieldSetChoice readFieldSet(CXMLWorkData* root, bool useState2)
     if (!orbaNode)
         return choice;
     choice.format = orbaNode->readString(kFormatKey, choice.format);
-    choice.mask = sanitizedMask(orbaNode->readString(kMaskKey, choice.mask));
+    choice.mask = sanitizedMask(readWholeValue(orbaNode.get(), kMaskKey, choice.mask));
     return choice;
 }
 
@@ -147,8 +163,22 @@ void writeFieldSet(CXMLWorkData* root, const FieldSetChoice& choice)
         orbaNode->writeString(kFormatKey, choice.format);
         orbaNode->writeString(kMaskKey, choice.mask);
         orbaNode->writeParameters();
+        writeWholeValue(orbaNode.get(), kMaskKey, choice.mask);
     }
     top->writeParameters();
+}
+
+bool readStoredFieldSet(CXMLWorkData* root, QString* mask, QString* format)
+{
+    std::unique_ptr<CXMLWorkData> top(root ? root->getFirstNode(kProtocolNode) : nullptr);
+    std::unique_ptr<CXMLWorkData> orbaNode(top ? top->getFirstNode(kOrbaNode) : nullptr);
+    if (!orbaNode || !orbaNode->tag() || !orbaNode->tag()->values.exists(QLatin1String(kMaskKey)))
+        return false;
+    if (mask)
+        *mask = readWholeValue(orbaNode.get(), kMaskKey, QString());
+    if (format)
+        *format = orbaNode->readString(kFormatKey, QLatin1String(kFormatReadDefault));
+    return true;
 }
 
 bool readMaskFromFile(const QString& path, QString* mask, QString* format)
@@ -156,17 +186,10 @@ bool readMaskFromFile(const QString& path, QString* mask, QString* format)
     CXMLWorkData root(path, QStringLiteral("DEVICE"));
     if (!root.serializer())
         return false;
-    bool found = false;
-    if (std::unique_ptr<CXMLWorkData> top { root.getFirstNode(kProtocolNode) }) {
-        if (std::unique_ptr<CXMLWorkData> orbaNode { top->getFirstNode(kOrbaNode) }) {
-            const QString text = orbaNode->readString(kMaskKey, QString());
-            found = !text.isEmpty();
-            if (found && mask)
-                *mask = sanitizedMask(text);
-            if (format)
-                *format = orbaNode->readString(kFormatKey, QLatin1String(kFormatReadDefault));
-        }
-    }
+    QString stored;
+    const bool found = readStoredFieldSet(&root, &stored, format);
+    if (found && mask)
+        *mask = sanitizedMask(stored);
     coreSzNode node {};
     root.fillNodeData(node);
     zrk_StopSZ(node.serializer, false);

@@ -71,6 +71,9 @@ FieldSetChoice readFieldSet(CXMLWorkData* root, bool useState2 = true);
 // "PROTOCOL" (type 0, cleared, "page") and "ORBA" (type 3) with "format" and "mask"; nothing for a
 // null root.
 void writeFieldSet(CXMLWorkData* root, const FieldSetChoice& choice);
+// The stored "format" and "mask" as they stand, without creating nodes; false when the branch or
+// its mask is missing.
+bool readStoredFieldSet(CXMLWorkData* root, QString* mask, QString* format = nullptr);
 // The mask stored in a configuration file; false when the file does not open or has none.
 bool readMaskFromFile(const QString& path, QString* mask, QString* format = nullptr);
 

@@ -46,9 +46,9 @@ const char* const kTabTitles[] = {
     QT_TRID_NOOP("cfgo_001"),
     //% "Навигация"
     QT_TRID_NOOP("cfgo_002"),
-    //% "RS-232/485"
+    //% "Датчики RS"
     QT_TRID_NOOP("cfgo_003"),
-    //% "CAN"
+    //% "Шина CAN"
     QT_TRID_NOOP("cfgo_004"),
     //% "Тахограф"
     QT_TRID_NOOP("cfgo_005"),
@@ -1212,6 +1212,26 @@ void ZRK_Form_Config_Set_Orba3::setStrFormat(const QString& mask)
     recountSize();
 }
 
+QComboBox* ZRK_Form_Config_Set_Orba3::flashFormat() const
+{
+    return ui->FlashFormat;
+}
+
+QLabel* ZRK_Form_Config_Set_Orba3::sizeLabel() const
+{
+    return ui->label_SizeValue;
+}
+
+QLabel* ZRK_Form_Config_Set_Orba3::warningLabel() const
+{
+    return ui->label_Warning;
+}
+
+QTabWidget* ZRK_Form_Config_Set_Orba3::tabWidget() const
+{
+    return ui->tabWidget_Tabs;
+}
+
 QString ZRK_Form_Config_Set_Orba3::getTypeDFProtocol() const
 {
     return generationText(ui->FlashFormat->currentIndex());
@@ -1278,8 +1298,7 @@ void ZRK_Form_Config_Set_Orba3::setFormatSize()
     const bool over = m_curSize > kSizeLimit;
     ui->label_SizeValue->setStyleSheet(
         over ? QStringLiteral("color: rgb(200, 0, 0); font-weight: bold;") : QString());
-    //% "Запись занимает %1 байт, больше допустимых %2: терминал не сможет сохранять такие записи. Снимите
-    //часть полей; до тех пор пользовательские параметры недоступны."
+    //% "Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей."
     ui->label_Warning->setText(qtTrId("cfgo_016").arg(m_curSize).arg(kSizeLimit));
     ui->label_Warning->setVisible(over);
     if (m_tabUser)

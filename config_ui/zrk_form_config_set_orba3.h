@@ -16,6 +16,8 @@ class CXMLWorkData;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
+class QLabel;
+class QTabWidget;
 class QLineEdit;
 class QVBoxLayout;
 namespace Ui {
@@ -409,7 +411,11 @@ public:
     ZRK_Form_Config_Set_Orba3_Tab_FFS* tabFFS() const { return m_tabFFS; }
     ZRK_Form_Config_Set_Orba3_Tab_Refr* tabRefr() const { return m_tabRefr; }
     ZRK_Form_Config_Set_Orba3_Tab_User* tabUser() const { return m_tabUser; }
-    Ui::ZRK_Designer_Form_Config_Set_Orba3* form() const { return ui; }
+    // The page's own widgets, for the window and tests.
+    QComboBox* flashFormat() const;
+    QLabel* sizeLabel() const;
+    QLabel* warningLabel() const;
+    QTabWidget* tabWidget() const;
 
 signals:
     void notify_Excess_Size(bool excess);

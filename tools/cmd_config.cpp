@@ -1,8 +1,10 @@
 // zrk-tool config: look at configuration files through the same serializer the plug-in uses.
 #include "config_model/config_diff.h"
 #include "config_model/config_keys.h"
+#include "config_model/orba_fieldset.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_workdata.h"
+#include "telemetry/orba_field_labels.h"
 #include "tools/commands.h"
 #include "translations/catalogue.h"
 
@@ -18,7 +20,9 @@ const char* const kConfigUsage
       "  config new OUT                  write a new configuration, every page at its defaults\n"
       "  config lint FILE                check the keys the pages own: one line a finding, exit 1 if any\n"
       "  config diff [--lang ru|en] A B  differences by node and key, with the keys' labels;\n"
-      "                                  exit 1 when there are any\n";
+      "                                  exit 1 when there are any\n"
+      "  config fieldset [--lang ru|en] FILE  the record field set: generation, every chosen field\n"
+      "                                  by number and name, record size (exit 1 over 512 bytes)\n";
 
 namespace {
 
@@ -161,6 +165,46 @@ int runDiff(QStringList args, QTextStream& out, QTextStream& err)
     return diffs.isEmpty() ? 0 : 1;
 }
 
+// The generation, the fields it records (those of later generations are stored but not recorded)
+// and the record size, from the stored mask read as the page reads it.
+int runFieldSet(QStringList args, QTextStream& out, QTextStream& err)
+{
+    QString language = QStringLiteral("ru");
+    const int lang = args.indexOf(QStringLiteral("--lang"));
+    if (lang > 0) {
+        language = args.value(lang + 1);
+        args.erase(args.begin() + lang, args.begin() + std::min<int>(args.size(), lang + 2));
+    }
+    if (args.size() != 2 || (language != QLatin1String("ru") && language != QLatin1String("en"))) {
+        err << "zrk-tool: config fieldset: expected 'fieldset [--lang ru|en] FILE'\n";
+        return 2;
+    }
+    CSerialize doc(args.at(1));
+    if (!load(doc, QStringLiteral("fieldset"), args.at(1), err))
+        return 1;
+    if (!doc.root() || doc.root()->name != QLatin1String(zrk::cfg::kRootNode)) {
+        err << "zrk-tool: config fieldset: " << args.at(1) << ": root is not " << zrk::cfg::kRootNode << '\n';
+        return 1;
+    }
+    zrk::installCatalogue(language);
+    namespace fs = zrk::fieldset;
+    CXMLWorkData root(&doc, doc.root());
+    QString stored, format = QLatin1String(fs::kFormatReadDefault);
+    const bool present = fs::readStoredFieldSet(&root, &stored, &format);
+    // A file without the branch gets what the page would show for it.
+    const QString mask = present ? fs::sanitizedMask(stored) : fs::defaultMask(true);
+    const int generation = fs::generationIndex(format);
+    out << "generation " << fs::generationText(generation)
+        << (present ? "" : " (no field set stored: defaults)") << '\n';
+    for (int pos = 0; pos < fs::kSpanEnd[generation + 1]; ++pos) {
+        if (mask.at(pos) == QLatin1Char('1'))
+            out << pos + 1 << ' ' << orba::fieldLabel(pos + 1) << " (" << fs::positionWidth(pos) << ")\n";
+    }
+    const int size = fs::maskRecordSize(mask, generation);
+    out << "record " << size << " bytes of " << fs::kSizeLimit << '\n';
+    return size > fs::kSizeLimit ? 1 : 0;
+}
+
 } // namespace
 
 int runConfigCommand(const QString&, const QStringList& args, QTextStream& out, QTextStream& err)
@@ -172,10 +216,13 @@ int runConfigCommand(const QString&, const QStringList& args, QTextStream& out, 
         return runLint(args, out, err);
     if (sub == QLatin1String("diff"))
         return runDiff(args, out, err);
+    if (sub == QLatin1String("fieldset"))
+        return runFieldSet(args, out, err);
     const int wanted = sub == QLatin1String("normalize") ? 3 : 2;
     if ((sub != QLatin1String("check") && sub != QLatin1String("normalize") && sub != QLatin1String("dump"))
         || args.size() != wanted) {
-        err << "zrk-tool: config: expected check, normalize, dump, new, lint or diff (see zrk-tool --help)\n";
+        err << "zrk-tool: config: expected check, normalize, dump, new, lint, diff or fieldset (see zrk-tool "
+               "--help)\n";
         return 2;
     }
     const QString path = args.at(1);

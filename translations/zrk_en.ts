@@ -769,7 +769,7 @@
     </message>
     <message id="orbf_073">
         <source>Точные координаты приёмника</source>
-        <translation>Receiver&apos;s precise coordinates</translation>
+        <translation>Receiver's precise coordinates</translation>
     </message>
     <message id="orbf_074">
         <source>Высота по приёмнику</source>
@@ -1508,11 +1508,11 @@
         <translation>Navigation</translation>
     </message>
     <message id="cfgo_003">
-        <source>RS-232/485</source>
-        <translation>RS-232/485</translation>
+        <source>Датчики RS</source>
+        <translation>RS sensors</translation>
     </message>
     <message id="cfgo_004">
-        <source>CAN</source>
+        <source>Шина CAN</source>
         <translation>CAN</translation>
     </message>
     <message id="cfgo_005">
@@ -1720,9 +1720,8 @@
         <translation>By tab, bytes: %1</translation>
     </message>
     <message id="cfgo_016">
-        <source>Запись занимает %1 байт, больше допустимых %2: терминал не сможет сохранять такие записи. Снимите
-</source>
-        <translation>The record takes %1 bytes, more than the %2 the terminal can store: it would not keep such records. Untick some fields; user parameters stay locked until then.</translation>
+        <source>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</source>
+        <translation>The record takes %1 bytes, more than the %2 allowed: the terminal would not keep such records. Untick some fields.</translation>
     </message>
     <message id="cfgo_019">
         <source>Файл %1 не является конфигурацией с набором полей записи.</source>
@@ -1754,7 +1753,7 @@
     </message>
     <message id="cfgo_033">
         <source></source>
-        <translation>Sum of the ticked fields&apos; sizes; at most 512 bytes</translation>
+        <translation>Sum of the ticked fields' sizes; at most 512 bytes</translation>
     </message>
     <message id="cfgo_034">
         <source></source>

@@ -1508,12 +1508,12 @@
         <translation>Навигация</translation>
     </message>
     <message id="cfgo_003">
-        <source>RS-232/485</source>
-        <translation>RS-232/485</translation>
+        <source>Датчики RS</source>
+        <translation>Датчики RS</translation>
     </message>
     <message id="cfgo_004">
-        <source>CAN</source>
-        <translation>CAN</translation>
+        <source>Шина CAN</source>
+        <translation>Шина CAN</translation>
     </message>
     <message id="cfgo_005">
         <source>Тахограф</source>
@@ -1720,10 +1720,8 @@
         <translation>По вкладкам, байт: %1</translation>
     </message>
     <message id="cfgo_016">
-        <source>Запись занимает %1 байт, больше допустимых %2: терминал не сможет сохранять такие записи. Снимите
-</source>
-        <translation>Запись занимает %1 байт, больше допустимых %2: терминал не сможет сохранять такие записи. Снимите
-</translation>
+        <source>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</source>
+        <translation>Запись: %1 байт, больше допустимых %2, терминал не сохранит такие записи. Снимите часть полей.</translation>
     </message>
     <message id="cfgo_019">
         <source>Файл %1 не является конфигурацией с набором полей записи.</source>
@@ -1743,59 +1741,59 @@
     </message>
     <message id="cfgo_030">
         <source></source>
-        <translation></translation>
+        <translation>Поколение протокола:</translation>
     </message>
     <message id="cfgo_031">
         <source></source>
-        <translation></translation>
+        <translation>Какие поля может записывать терминал: ORBA 1 — поля 1–69, ORBA 2 — 1–122, ORBA 3 — 1–255</translation>
     </message>
     <message id="cfgo_032">
         <source></source>
-        <translation></translation>
+        <translation>Размер записи, байт:</translation>
     </message>
     <message id="cfgo_033">
         <source></source>
-        <translation></translation>
+        <translation>Сумма размеров отмеченных полей; не более 512 байт</translation>
     </message>
     <message id="cfgo_034">
         <source></source>
-        <translation></translation>
+        <translation>Поиск поля по названию на всех вкладках</translation>
     </message>
     <message id="cfgo_035">
         <source></source>
-        <translation></translation>
+        <translation>Найти поле…</translation>
     </message>
     <message id="cfgo_036">
         <source></source>
-        <translation></translation>
+        <translation>Только отмеченные</translation>
     </message>
     <message id="cfgo_037">
         <source></source>
-        <translation></translation>
+        <translation>Наборы полей:</translation>
     </message>
     <message id="cfgo_038">
         <source></source>
-        <translation></translation>
+        <translation>По умолчанию</translation>
     </message>
     <message id="cfgo_039">
         <source></source>
-        <translation></translation>
+        <translation>Поля, которые терминал записывает по умолчанию</translation>
     </message>
     <message id="cfgo_040">
         <source></source>
-        <translation></translation>
+        <translation>Только навигация</translation>
     </message>
     <message id="cfgo_041">
         <source></source>
-        <translation></translation>
+        <translation>Номер, событие, время, координаты, высота, скорость, курс и пробег</translation>
     </message>
     <message id="cfgo_042">
         <source></source>
-        <translation></translation>
+        <translation>Из файла…</translation>
     </message>
     <message id="cfgo_043">
         <source></source>
-        <translation></translation>
+        <translation>Взять набор полей из другого файла конфигурации</translation>
     </message>
     <message id="cmpc_001">
         <source>Сравнение конфигураций</source>
