@@ -70,6 +70,18 @@ ConfigLoadResult loadConfigBytes(const QByteArray& text)
     return checked(std::move(doc), ok);
 }
 
+std::unique_ptr<CSerialize> copyDocument(const CXmlTagV2* root)
+{
+    auto doc = std::make_unique<CSerialize>(0, nullptr);
+    doc->startSerialize();
+    CXmlTagV2* copy = doc->createNodeV2(nullptr, root ? root->name : QLatin1String(kRootName), 0);
+    if (root && copy) {
+        *copy = *root;
+        copy->parent = nullptr;
+    }
+    return doc;
+}
+
 bool writeFileWhole(const QString& path, const QByteArray& bytes, QString* error)
 {
     QSaveFile file(path);

@@ -27,6 +27,9 @@ struct ConfigLoadResult
 ConfigLoadResult loadConfigFile(const QString& path);
 ConfigLoadResult loadConfigBytes(const QByteArray& text);
 
+// A memory document holding a copy of the tree under root (its root the copy); never null.
+std::unique_ptr<CSerialize> copyDocument(const CXmlTagV2* root);
+
 // Replaces the file as a whole or leaves it as it was; false with the reason.
 bool writeFileWhole(const QString& path, const QByteArray& bytes, QString* error);
 

@@ -7,6 +7,7 @@
 #include "ui_zrk_form_config_other.h"
 
 #include <QHeaderView>
+#include <QShowEvent>
 
 namespace {
 
@@ -134,39 +135,62 @@ QStringList ZRK_Form_Config_Other::keptBranchNames() const
 
 void ZRK_Form_Config_Other::rebuildTree()
 {
-    m_filling = true;
-    ui->treeWidget_Other->clear();
+    // The tree is built when it is first looked at: a configuration read from the terminal need
+    // not wait for rows nobody sees.
+    m_treeStale = true;
+    if (isVisible())
+        ensureTree();
+}
+
+void ZRK_Form_Config_Other::ensureTree() const
+{
+    if (!m_treeStale)
+        return;
+    auto* self = const_cast<ZRK_Form_Config_Other*>(this);
+    self->m_treeStale = false;
+    self->m_filling = true;
+    QTreeWidget* tree = ui->treeWidget_Other;
+    tree->clear();
+    // Items are built detached and added at once, which spares the view a notification per row.
+    QList<QTreeWidgetItem*> top;
     if (!m_kept->values.isEmpty()) {
         // The root's own keys come first, under the root's name.
-        auto* rootItem = new QTreeWidgetItem(ui->treeWidget_Other, QStringList(m_kept->name));
+        auto* rootItem = new QTreeWidgetItem(QStringList(m_kept->name));
         bindRow(rootItem, m_kept.get(), ElementRow);
         for (CXmlTagV2* attr : m_kept->values)
             bindRow(
                 new QTreeWidgetItem(rootItem, { QString(), attr->name, attr->value }), attr, AttributeRow);
+        top << rootItem;
     }
     for (CXmlTagV2* child : m_kept->children)
-        addElement(nullptr, child);
-    ui->treeWidget_Other->expandToDepth(0);
-    m_filling = false;
-    setFilter(ui->lineEdit_Filter->text());
+        top << elementItem(nullptr, child);
+    tree->addTopLevelItems(top);
+    tree->expandToDepth(1);
+    self->m_filling = false;
+    self->applyFilter();
 }
 
-void ZRK_Form_Config_Other::addElement(QTreeWidgetItem* parent, CXmlTagV2* tag)
+QTreeWidgetItem* ZRK_Form_Config_Other::elementItem(QTreeWidgetItem* parent, CXmlTagV2* tag)
 {
     if (parent && tag->values.isEmpty() && tag->children.isEmpty()) {
-        bindRow(new QTreeWidgetItem(parent, { QString(), tag->name, tag->value }), tag, TextRow);
-        return;
+        auto* item = new QTreeWidgetItem(parent, { QString(), tag->name, tag->value });
+        bindRow(item, tag, TextRow);
+        return item;
     }
-    auto* item = new QTreeWidgetItem(QStringList(tag->name));
-    if (parent)
-        parent->addChild(item);
-    else
-        ui->treeWidget_Other->addTopLevelItem(item);
+    auto* item = parent ? new QTreeWidgetItem(parent, QStringList(tag->name))
+                        : new QTreeWidgetItem(QStringList(tag->name));
     bindRow(item, tag, ElementRow);
     for (CXmlTagV2* attr : tag->values)
         bindRow(new QTreeWidgetItem(item, { QString(), attr->name, attr->value }), attr, AttributeRow);
     for (CXmlTagV2* child : tag->children)
-        addElement(item, child);
+        elementItem(item, child);
+    return item;
+}
+
+void ZRK_Form_Config_Other::showEvent(QShowEvent* event)
+{
+    ensureTree();
+    QWidget::showEvent(event);
 }
 
 void ZRK_Form_Config_Other::setFilter(const QString& text)
@@ -175,7 +199,13 @@ void ZRK_Form_Config_Other::setFilter(const QString& text)
         ui->lineEdit_Filter->setText(text); // comes back here through the slot
         return;
     }
-    const QString needle = text.trimmed();
+    ensureTree();
+    applyFilter();
+}
+
+void ZRK_Form_Config_Other::applyFilter()
+{
+    const QString needle = ui->lineEdit_Filter->text().trimmed();
     for (int i = 0; i < ui->treeWidget_Other->topLevelItemCount(); ++i)
         filterItem(ui->treeWidget_Other->topLevelItem(i), needle, false);
     if (!needle.isEmpty())
@@ -207,6 +237,7 @@ bool ZRK_Form_Config_Other::filterItem(QTreeWidgetItem* item, const QString& tex
 
 QTreeWidgetItem* ZRK_Form_Config_Other::findItem(const QString& path, const QString& key) const
 {
+    ensureTree();
     const CXmlTagV2* node = path.isEmpty() ? m_kept.get() : zrk::childAt(m_kept.get(), path);
     if (!node)
         return nullptr;

@@ -60,9 +60,14 @@ private slots:
     void slot_textChanged_lineEdit_Filter(const QString& text);
     void slot_itemChanged_treeWidget_Other(QTreeWidgetItem* item, int column);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void rebuildTree();
-    void addElement(QTreeWidgetItem* parent, CXmlTagV2* tag);
+    void ensureTree() const;
+    void applyFilter();
+    static QTreeWidgetItem* elementItem(QTreeWidgetItem* parent, CXmlTagV2* tag);
     bool filterItem(QTreeWidgetItem* item, const QString& text, bool parentMatched);
     QTreeWidgetItem* findItem(const QString& path, const QString& key) const;
 
@@ -72,4 +77,5 @@ private:
     QString m_tabTitle;
     int m_tabIndex = -1;
     bool m_filling = false;
+    bool m_treeStale = true;
 };

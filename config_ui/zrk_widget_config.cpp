@@ -220,10 +220,11 @@ bool ZRK_Widget_Config::loadConfiguration(const QString& path, szConfigParam& co
         showMessage(loadErrorText(path, loaded.error));
         return false;
     }
+    // One parse for both editors: the light editor takes a copy of the tree as it was read, since
+    // reading the pages creates the nodes a file lacks.
+    m_light->adoptDocument(zrk::copyDocument(loaded.doc->root()));
     m_full->initDefaultParam();
-    m_full->OpenFileXml(path, configParam);
-    QString ignored;
-    m_light->OpenFileXml(path, &ignored);
+    m_full->readDocument(loaded.doc.get(), &configParam);
     return true;
 }
 

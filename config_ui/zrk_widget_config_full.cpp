@@ -16,6 +16,7 @@
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTreeWidget>
@@ -113,7 +114,10 @@ void ZRK_Widget_Config_Full::watchForEdits(QWidget* page)
 {
     // Any change of any input marks the configuration for a fresh comparison with the saved one;
     // the window decides whether it really differs, so pages need nothing of their own.
-    auto edited = [this] { emit contentEdited(); };
+    auto edited = [this] {
+        if (!m_filling)
+            emit contentEdited();
+    };
     for (QAbstractButton* b : page->findChildren<QAbstractButton*>())
         connect(b, &QAbstractButton::toggled, this, edited);
     for (QSpinBox* s : page->findChildren<QSpinBox*>())
@@ -160,6 +164,7 @@ void ZRK_Widget_Config_Full::setFormEnabled(bool enabled)
 
 void ZRK_Widget_Config_Full::initDefaultParam(bool keepOther)
 {
+    const QScopedValueRollback<bool> filling(m_filling, true);
     for (const Page& p : m_pages) {
         if (!(keepOther && p.widget == m_other))
             p.setDefault();
@@ -174,14 +179,7 @@ bool ZRK_Widget_Config_Full::OpenFileXml(const QString& path, szConfigParam& con
             *error = loaded.error;
         return false;
     }
-    readDocument(loaded.doc.get());
-    // The protocol generation is what the telemetry view needs to know of the configuration.
-    const QByteArray format = zrk::keyValue(
-        zrk::childAt(loaded.doc->root(), QLatin1String(kProtocolPath)), QLatin1String(kFormatKey))
-                                  .toLocal8Bit()
-                                  .left(ZRK_CONFIG_PARAM_SIZE - 1);
-    std::memset(configParam.text, 0, sizeof configParam.text);
-    std::memcpy(configParam.text, format.constData(), static_cast<size_t>(format.size()));
+    readDocument(loaded.doc.get(), &configParam);
     return true;
 }
 
@@ -191,10 +189,21 @@ bool ZRK_Widget_Config_Full::OpenFileXml(const QString& path, QString* error)
     return OpenFileXml(path, unused, error);
 }
 
-void ZRK_Widget_Config_Full::readDocument(CSerialize* doc)
+void ZRK_Widget_Config_Full::readDocument(CSerialize* doc, szConfigParam* configParam)
 {
-    if (!doc)
+    if (!doc || !doc->root())
         return;
+    if (configParam) {
+        // The protocol generation is what the telemetry view needs to know of the configuration.
+        const QByteArray format = zrk::keyValue(
+            zrk::childAt(doc->root(), QLatin1String(kProtocolPath)), QLatin1String(kFormatKey))
+                                      .toLocal8Bit()
+                                      .left(ZRK_CONFIG_PARAM_SIZE - 1);
+        std::memset(configParam->text, 0, sizeof configParam->text);
+        std::memcpy(configParam->text, format.constData(), static_cast<size_t>(format.size()));
+    }
+    // Values set by reading are no edits.
+    const QScopedValueRollback<bool> filling(m_filling, true);
     // The unowned branches are taken before any page creates its missing nodes.
     CXMLWorkData root(doc, zrk::cfg::kRootNode);
     m_other->readFormParam(&root);

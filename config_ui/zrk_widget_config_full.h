@@ -72,8 +72,8 @@ public:
     // False with the parser's reason when the file does not load; the pages then keep their values.
     bool OpenFileXml(const QString& path, szConfigParam& configParam, QString* error = nullptr);
     bool OpenFileXml(const QString& path, QString* error = nullptr);
-    // Reads the pages from an open document (its "DEVICE" root).
-    void readDocument(CSerialize* doc);
+    // Reads the pages from an open document (its "DEVICE" root); fills configParam when given.
+    void readDocument(CSerialize* doc, szConfigParam* configParam = nullptr);
     // The configuration as SaveFileXml writes it.
     QByteArray renderXml();
     // Writes the configuration whole, or leaves the old file; false with the reason.
@@ -130,6 +130,7 @@ private:
     QTabWidget* m_tabs = nullptr;
     QVector<Page> m_pages;
     QStringList m_owned;
+    bool m_filling = false; // reading or resetting: widget changes are not the user's
     ZRK_Form_Config_Orba3* m_fieldSet = nullptr;
     ZRK_Form_Config_Track* m_track = nullptr;
     ZRK_Form_Config_Other* m_other = nullptr;

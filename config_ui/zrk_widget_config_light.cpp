@@ -123,6 +123,16 @@ bool ZRK_Widget_Config_Light::setDocument(const QByteArray& text, QString* error
     return true;
 }
 
+void ZRK_Widget_Config_Light::adoptDocument(std::unique_ptr<CSerialize> doc)
+{
+    if (!doc || !doc->root()) {
+        setDocument(QByteArray());
+        return;
+    }
+    m_doc = std::move(doc);
+    takeValuesFromDocument();
+}
+
 QString ZRK_Widget_Config_Light::value(const QString& key) const
 {
     if (key == QLatin1String(kFormatKey))

@@ -29,6 +29,8 @@ public:
     bool OpenFileXml(const QString& path, QString* error = nullptr);
     // The same from the text of a configuration (the full editor hands its document over this way).
     bool setDocument(const QByteArray& text, QString* error = nullptr);
+    // Takes an open document (null: an empty configuration).
+    void adoptDocument(std::unique_ptr<CSerialize> doc);
     // The document with the form's values in it.
     QByteArray renderDocument();
     // Writes the whole configuration with the form's values; the old file stays when it fails.
