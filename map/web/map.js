@@ -327,12 +327,14 @@
     setZones: setZones, upsertZone: upsertZone, removeZone: removeZone, selectZone: selectZone,
     deselect: deselect, setRoutes: setRoutes, setTrack: setTrack, setTiles: setTiles, fitAll: fitAll,
     centre: function (lat, lon, zoom) { map.setView([lat, lon], zoom || map.getZoom()); },
-    stats: stats, zoneInfo: zoneInfo
+    stats: stats, zoneInfo: zoneInfo,
+    // For tests that play the user's part: the Leaflet map and the handles of the zone being edited.
+    leaflet: function () { return map; }, editHandles: function () { return selected; }
   };
 
   document.addEventListener('DOMContentLoaded', function () {
     map = L.map('map', { preferCanvas: true, zoomControl: true, attributionControl: false,
-                         center: [55.75, 37.62], zoom: 10 });
+                         center: [55.75, 37.62], zoom: 10, minZoom: 1, maxZoom: 19 });
     renderer = L.canvas({ padding: 0.5 });
     circleLayer = L.featureGroup().addTo(map);
     routeLayer = L.featureGroup().addTo(map);
