@@ -88,6 +88,18 @@
     return { data: z, circle: circle, marker: marker };
   }
 
+  // With many zones, circles a pixel wide say nothing at small scales and cost every redraw there:
+  // the clustered markers stand for them until the user zooms in.
+  var CIRCLES_MIN_ZOOM = 11;
+  var CIRCLES_ALWAYS_UP_TO = 2000;
+  function updateCircleVisibility() {
+    var show = zoneCount <= CIRCLES_ALWAYS_UP_TO || map.getZoom() >= CIRCLES_MIN_ZOOM;
+    if (show && !map.hasLayer(circleLayer))
+      map.addLayer(circleLayer);
+    else if (!show && map.hasLayer(circleLayer))
+      map.removeLayer(circleLayer);
+  }
+
   function clearZones() {
     deselect();
     clusters.clearLayers();
@@ -116,6 +128,7 @@
       circleLayer.addLayer(z.circle);
     }
     zoneCount = list.length;
+    updateCircleVisibility();
     redrawRoutes();
     if (!markers.length) {
       reportShown(started, 0);
@@ -345,6 +358,7 @@
                                       chunkProgress: chunkProgress }).addTo(map);
     L.control.scale({ imperial: false }).addTo(map);
     setTiles('');
+    map.on('zoomend', updateCircleVisibility);
     map.on('click', function (e) { call('onMapClicked', e.latlng.lat, e.latlng.lng); });
     new QWebChannel(qt.webChannelTransport, function (channel) {
       bridge = channel.objects.bridge;
