@@ -93,29 +93,29 @@ int addGeoZone(QVector<coreGeoZone>& zones, const QString& name, int size, int a
 QString checkAinfLimits(const coreAinfData& data, const ZRK_Ainf_Caps& caps)
 {
     if (data.zones.size() > caps.maxZones)
-        //% "Too many geo-zones: %1 (this terminal keeps at most %2)."
-        return qtTrId("ainf_001").arg(data.zones.size()).arg(caps.maxZones);
+        //% "Слишком много геозон: %1 (терминал хранит не более %2)."
+        return qtTrId("geod_001").arg(data.zones.size()).arg(caps.maxZones);
     if (data.routes.size() > caps.maxRoutes)
-        //% "Too many routes: %1 (this terminal keeps at most %2)."
-        return qtTrId("ainf_002").arg(data.routes.size()).arg(caps.maxRoutes);
+        //% "Слишком много маршрутов: %1 (терминал хранит не более %2)."
+        return qtTrId("geod_002").arg(data.routes.size()).arg(caps.maxRoutes);
     for (const coreGeoRoute& r : data.routes) {
         if (r.stops.size() > caps.maxStopsPerRoute)
-            //% "Route %1 has %2 stops (at most %3 per route)."
-            return qtTrId("ainf_003").arg(r.id).arg(r.stops.size()).arg(caps.maxStopsPerRoute);
+            //% "В маршруте %1 остановок: %2 (не более %3 на маршрут)."
+            return qtTrId("geod_003").arg(r.id).arg(r.stops.size()).arg(caps.maxStopsPerRoute);
     }
     if (data.speeds.size() > caps.maxSpeedZones)
-        //% "Too many speed zones: %1 (this terminal keeps at most %2)."
-        return qtTrId("ainf_004").arg(data.speeds.size()).arg(caps.maxSpeedZones);
+        //% "Слишком много скоростных зон: %1 (терминал хранит не более %2)."
+        return qtTrId("geod_004").arg(data.speeds.size()).arg(caps.maxSpeedZones);
     if (data.sounds.size() > caps.maxSounds)
-        //% "Too many sound files: %1 (at most %2)."
-        return qtTrId("ainf_005").arg(data.sounds.size()).arg(caps.maxSounds);
+        //% "Слишком много звуковых файлов: %1 (не более %2)."
+        return qtTrId("geod_005").arg(data.sounds.size()).arg(caps.maxSounds);
     for (const coreGeoZone& z : data.zones) {
         if (z.id < 1 || z.id > caps.maxZoneId)
-            //% "Geo-zone \"%1\": id %2 is outside 1..%3."
-            return qtTrId("ainf_006").arg(z.name).arg(z.id).arg(caps.maxZoneId);
+            //% "Геозона \"%1\": номер %2 вне диапазона 1..%3."
+            return qtTrId("geod_006").arg(z.name).arg(z.id).arg(caps.maxZoneId);
         if (z.size < caps.minZoneSize || z.size > caps.maxZoneSize)
-            //% "Geo-zone %1: radius %2 m is outside %3..%4 m."
-            return qtTrId("ainf_007").arg(z.id).arg(z.size).arg(caps.minZoneSize).arg(caps.maxZoneSize);
+            //% "Геозона %1: радиус %2 м вне диапазона %3..%4 м."
+            return qtTrId("geod_007").arg(z.id).arg(z.size).arg(caps.minZoneSize).arg(caps.maxZoneSize);
     }
     return QString();
 }
@@ -126,18 +126,18 @@ QString checkAinfData(const coreAinfData& data)
     ids.reserve(data.zones.size());
     for (const coreGeoZone& z : data.zones) {
         if (!std::isfinite(z.lat) || !std::isfinite(z.lon) || std::fabs(z.lat) > 90.0 || std::fabs(z.lon) > 180.0)
-            //% "Geo-zone %1: coordinates %2, %3 are off the globe."
-            return qtTrId("ainf_008").arg(z.id).arg(z.lat).arg(z.lon);
+            //% "Геозона %1: координаты %2, %3 вне земного шара."
+            return qtTrId("geod_008").arg(z.id).arg(z.lat).arg(z.lon);
         if (ids.contains(z.id))
-            //% "Geo-zone id %1 is used twice."
-            return qtTrId("ainf_009").arg(z.id);
+            //% "Номер геозоны %1 встречается дважды."
+            return qtTrId("geod_009").arg(z.id);
         ids.insert(z.id);
     }
     for (const coreGeoRoute& r : data.routes) {
         for (const coreGeoStop& s : r.stops) {
             if (!ids.contains(s.zoneid))
-                //% "Route %1: a stop refers to geo-zone %2, which does not exist."
-                return qtTrId("ainf_010").arg(r.id).arg(s.zoneid);
+                //% "Маршрут %1: остановка ссылается на несуществующую геозону %2."
+                return qtTrId("geod_010").arg(r.id).arg(s.zoneid);
         }
     }
     return QString();
