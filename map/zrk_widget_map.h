@@ -86,6 +86,7 @@ signals:
     void loadFinished(bool ok);
     // A batch of zones has been drawn: how many, and how long the page took in milliseconds.
     void zonesShown(int count, int milliseconds);
+    // A double click on the map, where a new zone goes (a single click stays free for panning).
     void mapClicked(double lat, double lon);
     void zoneClicked(int id);
     void zoneMoved(int id, double lat, double lon);

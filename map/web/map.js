@@ -347,7 +347,8 @@
 
   document.addEventListener('DOMContentLoaded', function () {
     map = L.map('map', { preferCanvas: true, zoomControl: true, attributionControl: false,
-                         center: [55.75, 37.62], zoom: 10, minZoom: 1, maxZoom: 19 });
+                         center: [55.75, 37.62], zoom: 10, minZoom: 1, maxZoom: 19,
+                         doubleClickZoom: false });
     renderer = L.canvas({ padding: 0.5 });
     circleLayer = L.featureGroup().addTo(map);
     routeLayer = L.featureGroup().addTo(map);
@@ -359,7 +360,7 @@
     L.control.scale({ imperial: false }).addTo(map);
     setTiles('');
     map.on('zoomend', updateCircleVisibility);
-    map.on('click', function (e) { call('onMapClicked', e.latlng.lat, e.latlng.lng); });
+    map.on('dblclick', function (e) { call('onMapClicked', e.latlng.lat, e.latlng.lng); });
     new QWebChannel(qt.webChannelTransport, function (channel) {
       bridge = channel.objects.bridge;
       call('onReady');

@@ -122,7 +122,7 @@ private slots:
     void clickReportsPosition()
     {
         QSignalSpy clicked(m_map, &ZRK_Widget_Map::mapClicked);
-        eval(QStringLiteral("zrkMap.leaflet().fire('click', {latlng: L.latLng(55.5, 37.25)}), true"));
+        eval(QStringLiteral("zrkMap.leaflet().fire('dblclick', {latlng: L.latLng(55.5, 37.25)}), true"));
         QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, 5000);
         QCOMPARE(clicked.first().at(0).toDouble(), 55.5);
         QCOMPARE(clicked.first().at(1).toDouble(), 37.25);
