@@ -71,7 +71,7 @@ int getFirstFreeGeoZoneId(const QVector<coreGeoZone>& zones, int maxZoneId)
 }
 
 int addGeoZone(QVector<coreGeoZone>& zones, const QString& name, int size, int angle, int gob, double lat,
-               double lon, const ZRK_Ainf_Caps& caps)
+    double lon, const ZRK_Ainf_Caps& caps)
 {
     if (zones.size() >= caps.maxZones)
         return 0;
@@ -125,7 +125,8 @@ QString checkAinfData(const coreAinfData& data)
     QSet<int> ids;
     ids.reserve(data.zones.size());
     for (const coreGeoZone& z : data.zones) {
-        if (!std::isfinite(z.lat) || !std::isfinite(z.lon) || std::fabs(z.lat) > 90.0 || std::fabs(z.lon) > 180.0)
+        if (!std::isfinite(z.lat) || !std::isfinite(z.lon) || std::fabs(z.lat) > 90.0
+            || std::fabs(z.lon) > 180.0)
             //% "Геозона %1: координаты %2, %3 вне земного шара."
             return qtTrId("geod_008").arg(z.id).arg(z.lat).arg(z.lon);
         if (ids.contains(z.id))

@@ -195,7 +195,7 @@ int getFirstFreeGeoZoneId(const QVector<coreGeoZone>& zones, int maxZoneId = zrk
 // the zone's spdmode "0". The three integers are the radius (m), the heading of entry (degrees)
 // and the zone's option set. Returns the new zone's id, or 0 when the list is full.
 int addGeoZone(QVector<coreGeoZone>& zones, const QString& name, int size, int angle, int gob, double lat,
-               double lon, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
+    double lon, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
 
 // The first limit the data breaks, as a Russian message for the user; empty when it fits.
 QString checkAinfLimits(const coreAinfData& data, const ZRK_Ainf_Caps& caps = zrkAinfCaps());

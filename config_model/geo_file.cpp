@@ -146,73 +146,73 @@ bool readNew(CSerialize* doc, coreAinfData& out, GeoFileReadInfo& info, QString*
                         },
                         reason)
         && forEachRecord(
-                        root, kSpeeds, kSpeed,
-                        [&](CXMLWorkData& n) {
-                            coreSpeedZone s;
-                            s.id = n.readInteger("id", 0);
-                            s.title = n.readString("title");
-                            s.speed = n.readInteger("speed", s.speed);
-                            s.gap = n.readInteger("gap", s.gap);
-                            s.limitsnd = n.readInteger("limitsnd", 0);
-                            s.activesnd = n.readInteger("activesnd", 0);
-                            s.limitrep = n.readInteger("limitrep", 0);
-                            s.activerep = n.readInteger("activerep", 0);
-                            s.delay = n.readInteger("delay", 0);
-                            s.limitbuzz = n.readInteger("limitbuzz", 0);
-                            out.speeds.append(s);
-                            return true;
-                        },
-                        reason)
+            root, kSpeeds, kSpeed,
+            [&](CXMLWorkData& n) {
+                coreSpeedZone s;
+                s.id = n.readInteger("id", 0);
+                s.title = n.readString("title");
+                s.speed = n.readInteger("speed", s.speed);
+                s.gap = n.readInteger("gap", s.gap);
+                s.limitsnd = n.readInteger("limitsnd", 0);
+                s.activesnd = n.readInteger("activesnd", 0);
+                s.limitrep = n.readInteger("limitrep", 0);
+                s.activerep = n.readInteger("activerep", 0);
+                s.delay = n.readInteger("delay", 0);
+                s.limitbuzz = n.readInteger("limitbuzz", 0);
+                out.speeds.append(s);
+                return true;
+            },
+            reason)
         && forEachRecord(
-                        root, kZones, kZone,
-                        [&](CXMLWorkData& n) {
-                            coreGeoZone z;
-                            z.id = n.readInteger("id", 0);
-                            z.name = n.readString("name");
-                            if (!readCoordinate(n, "lat", z.id, &z.lat, reason)
-                                || !readCoordinate(n, "lon", z.id, &z.lon, reason))
-                                return false;
-                            z.size = n.readInteger("size", z.size);
-                            z.angle = n.readInteger("angle", 0);
-                            z.gob = n.readInteger("gob", 0);
-                            z.outputs = n.readString("outputs", QString::fromLatin1(kGeoZoneOutputsDefault));
-                            z.spdmode = n.readString("spdmode", z.spdmode);
-                            out.zones.append(z);
-                            return true;
-                        },
-                        reason)
+            root, kZones, kZone,
+            [&](CXMLWorkData& n) {
+                coreGeoZone z;
+                z.id = n.readInteger("id", 0);
+                z.name = n.readString("name");
+                if (!readCoordinate(n, "lat", z.id, &z.lat, reason)
+                    || !readCoordinate(n, "lon", z.id, &z.lon, reason))
+                    return false;
+                z.size = n.readInteger("size", z.size);
+                z.angle = n.readInteger("angle", 0);
+                z.gob = n.readInteger("gob", 0);
+                z.outputs = n.readString("outputs", QString::fromLatin1(kGeoZoneOutputsDefault));
+                z.spdmode = n.readString("spdmode", z.spdmode);
+                out.zones.append(z);
+                return true;
+            },
+            reason)
         && forEachRecord(
-                        root, kRoutes, kRoute,
-                        [&](CXMLWorkData& n) {
-                            coreGeoRoute r;
-                            r.id = n.readInteger("id", 0);
-                            r.number = n.readString("number");
-                            r.chr = n.readString("char");
-                            r.begin = n.readString("begin");
-                            r.end = n.readString("end");
-                            r.flags = n.readInteger("flags", 0);
-                            r.setsnd = n.readInteger("setsnd", 0);
-                            const int declared = n.readInteger(kCountStop, 0);
-                            CXMLWorkData* cursor = n.getFirstNode(kStop);
-                            while (cursor) {
-                                coreGeoStop s;
-                                s.type = cursor->readInteger("type", 0);
-                                s.zoneid = cursor->readInteger("zoneid", 0);
-                                s.number = cursor->readInteger("number", 0);
-                                s.title = cursor->readString("title");
-                                s.soundsids = cursor->readString("soundsids");
-                                r.stops.append(s);
-                                n.moveToNextNode(cursor);
-                            }
-                            if (declared != r.stops.size()) {
-                                //% "маршрут %1 объявляет остановок: %2, а содержит: %3"
-                                *reason = qtTrId("geod_023").arg(r.id).arg(declared).arg(r.stops.size());
-                                return false;
-                            }
-                            out.routes.append(r);
-                            return true;
-                        },
-                        reason);
+            root, kRoutes, kRoute,
+            [&](CXMLWorkData& n) {
+                coreGeoRoute r;
+                r.id = n.readInteger("id", 0);
+                r.number = n.readString("number");
+                r.chr = n.readString("char");
+                r.begin = n.readString("begin");
+                r.end = n.readString("end");
+                r.flags = n.readInteger("flags", 0);
+                r.setsnd = n.readInteger("setsnd", 0);
+                const int declared = n.readInteger(kCountStop, 0);
+                CXMLWorkData* cursor = n.getFirstNode(kStop);
+                while (cursor) {
+                    coreGeoStop s;
+                    s.type = cursor->readInteger("type", 0);
+                    s.zoneid = cursor->readInteger("zoneid", 0);
+                    s.number = cursor->readInteger("number", 0);
+                    s.title = cursor->readString("title");
+                    s.soundsids = cursor->readString("soundsids");
+                    r.stops.append(s);
+                    n.moveToNextNode(cursor);
+                }
+                if (declared != r.stops.size()) {
+                    //% "маршрут %1 объявляет остановок: %2, а содержит: %3"
+                    *reason = qtTrId("geod_023").arg(r.id).arg(declared).arg(r.stops.size());
+                    return false;
+                }
+                out.routes.append(r);
+                return true;
+            },
+            reason);
     if (!ok)
         return false;
     Node config(root.getFirstNode(kConfig));
@@ -337,8 +337,8 @@ bool writeFileParamGeo(const QString& path, const coreAinfData& data, bool full,
     return writeWhole(path, renderFileParamGeo(data, full), error);
 }
 
-bool readFileParamGeoText(const QByteArray& text, const QString& name, coreAinfData* data, QString* error,
-                          GeoFileReadInfo* info)
+bool readFileParamGeoText(
+    const QByteArray& text, const QString& name, coreAinfData* data, QString* error, GeoFileReadInfo* info)
 {
     GeoFileReadInfo local;
     GeoFileReadInfo& inf = info ? *info : local;
@@ -350,7 +350,8 @@ bool readFileParamGeoText(const QByteArray& text, const QString& name, coreAinfD
     };
     inf.format = detectGeoFileFormat(text);
     if (inf.format == GeoFileFormat::Old)
-        //% "файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, но не читает; сохраните данные заново в новом формате"
+        //% "файл записан в старом формате геоинформации (PARAMAINF), который программа распознаёт, "
+        //% "но не читает; сохраните данные заново в новом формате"
         return fail(qtTrId("geod_026"));
     if (inf.format == GeoFileFormat::Unknown)
         //% "это не файл геоинформации (нет корня \"AINF\")"

@@ -47,11 +47,11 @@ struct GeoFileReadInfo
 // format, version newer than ours, a record that makes no sense, a limit of zrkAinfCaps broken)
 // returns false with a Russian *error naming the file and the reason, and leaves *data as it was.
 // Defaults are replaced only when the file has "Config"; the lists always are.
-bool readFileParamGeo(const QString& path, coreAinfData* data, QString* error = nullptr,
-                      GeoFileReadInfo* info = nullptr);
+bool readFileParamGeo(
+    const QString& path, coreAinfData* data, QString* error = nullptr, GeoFileReadInfo* info = nullptr);
 // The same on text in memory; name is used in messages.
-bool readFileParamGeoText(const QByteArray& text, const QString& name, coreAinfData* data, QString* error = nullptr,
-                          GeoFileReadInfo* info = nullptr);
+bool readFileParamGeoText(const QByteArray& text, const QString& name, coreAinfData* data,
+    QString* error = nullptr, GeoFileReadInfo* info = nullptr);
 
 // Where the card files are prepared: appDataDirectory() + "/Localization/Temp".
 QString geoTempDirectory();
@@ -63,4 +63,5 @@ QByteArray renderFileCFG(const coreAinfDefaults& defaults);
 // Writes "GeoZones.cfg" into dir (default geoTempDirectory()), preparing it in the temporary list
 // file "<dir>/write.lst", which is deleted whatever happens. Returns the file's path, or empty with
 // *error.
-QString createFileCFG(const coreAinfDefaults& defaults, QString* error = nullptr, const QString& dir = QString());
+QString createFileCFG(
+    const coreAinfDefaults& defaults, QString* error = nullptr, const QString& dir = QString());

@@ -19,7 +19,8 @@ const char kRadiusKey[] = "radius";
 // Geometry that cannot become a zone; a placemark with only these is counted, not imported.
 bool isOtherGeometry(QStringView local)
 {
-    static const char* const kinds[] = { "LineString", "LinearRing", "Polygon", "Model", "Track", "MultiTrack" };
+    static const char* const kinds[]
+        = { "LineString", "LinearRing", "Polygon", "Model", "Track", "MultiTrack" };
     for (const char* k : kinds) {
         if (local == QLatin1String(k))
             return true;
@@ -74,6 +75,9 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
     if (text.size() > kKmlMaxFileSize)
         //% "файл больше %1 МБ"
         return fail(qtTrId("geod_041").arg(kKmlMaxFileSize / (1024 * 1024)));
+
+    if (text.trimmed().isEmpty())
+        return fail(qtTrId("geod_047"));
 
     QXmlStreamReader xml(text);
     int depth = 0;
@@ -167,9 +171,13 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
             dataName.clear();
         }
     }
-    if (xml.hasError())
+    if (xml.hasError()) {
+        QString why = xml.errorString();
+        while (why.endsWith(QLatin1Char('.')))
+            why.chop(1);
         //% "строка %1: %2"
-        return fail(qtTrId("geod_046").arg(xml.lineNumber()).arg(xml.errorString()));
+        return fail(qtTrId("geod_046").arg(xml.lineNumber()).arg(why));
+    }
     if (!sawRoot)
         //% "файл пуст"
         return fail(qtTrId("geod_047"));
@@ -194,7 +202,7 @@ KmlReadResult readKmlFile(const QString& path)
 }
 
 KmlImportResult importKmlText(const QByteArray& text, const QString& name, int size, int angle, int gob,
-                              const QVector<coreGeoZone>& existing, const ZRK_Ainf_Caps& caps)
+    const QVector<coreGeoZone>& existing, const ZRK_Ainf_Caps& caps)
 {
     KmlImportResult result;
     const KmlReadResult read = readKml(text, name);
@@ -205,8 +213,10 @@ KmlImportResult importKmlText(const QByteArray& text, const QString& name, int s
         return result;
     }
     if (existing.size() + read.points.size() > caps.maxZones) {
-        //% "В файле \"%1\" точек: %2; вместе с %3 геозонами списка это больше %4, которые хранит терминал. Ничего не добавлено."
-        result.error = qtTrId("geod_048").arg(name).arg(read.points.size()).arg(existing.size()).arg(caps.maxZones);
+        //% "В файле \"%1\" точек: %2; вместе с %3 геозонами списка это больше %4, "
+        //% "которые хранит терминал. Ничего не добавлено."
+        result.error
+            = qtTrId("geod_048").arg(name).arg(read.points.size()).arg(existing.size()).arg(caps.maxZones);
         return result;
     }
     // Ids as addGeoZone hands them out, one pass instead of a scan per zone.
@@ -240,8 +250,8 @@ KmlImportResult importKmlText(const QByteArray& text, const QString& name, int s
     return result;
 }
 
-KmlImportResult importKml(const QString& path, int size, int angle, int gob, const QVector<coreGeoZone>& existing,
-                          const ZRK_Ainf_Caps& caps)
+KmlImportResult importKml(const QString& path, int size, int angle, int gob,
+    const QVector<coreGeoZone>& existing, const ZRK_Ainf_Caps& caps)
 {
     QFile file(path);
     const QString name = QDir::toNativeSeparators(path);
@@ -317,8 +327,8 @@ QByteArray renderKml(const coreAinfData& data)
                 coords.append(kmlPoint(z->lat, z->lon));
         }
         w.writeStartElement(QStringLiteral("Placemark"));
-        w.writeTextElement(QStringLiteral("name"), (r.number + r.chr + QLatin1Char(' ') + r.begin
-                                                    + QStringLiteral(" - ") + r.end).trimmed());
+        w.writeTextElement(QStringLiteral("name"),
+            (r.number + r.chr + QLatin1Char(' ') + r.begin + QStringLiteral(" - ") + r.end).trimmed());
         w.writeStartElement(QStringLiteral("LineString"));
         w.writeTextElement(QStringLiteral("tessellate"), QStringLiteral("1"));
         w.writeTextElement(QStringLiteral("coordinates"), coords.join(QLatin1Char(' ')));

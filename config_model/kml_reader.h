@@ -62,10 +62,9 @@ struct KmlImportResult
 // integers, except that a placemark carrying its own radius keeps it. Nothing is returned when the
 // file fails or the zones would not fit in caps.
 KmlImportResult importKml(const QString& path, int size, int angle, int gob,
-                          const QVector<coreGeoZone>& existing = {}, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
+    const QVector<coreGeoZone>& existing = {}, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
 KmlImportResult importKmlText(const QByteArray& text, const QString& name, int size, int angle, int gob,
-                              const QVector<coreGeoZone>& existing = {},
-                              const ZRK_Ainf_Caps& caps = zrkAinfCaps());
+    const QVector<coreGeoZone>& existing = {}, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
 
 // Zones as point placemarks (radius, angle, id in ExtendedData), routes as LineStrings through
 // their stops' zones, in one Document. UTF-8.

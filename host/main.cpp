@@ -5,6 +5,7 @@
 #include "host_dispatcher.h"
 #include "host_window.h"
 #include "plugin_loader.h"
+#include "sim_sdcard.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -69,6 +70,8 @@ int main(int argc, char* argv[])
     {
         ZrkHostDispatcher dispatcher(loader);
         ZrkHostWindow window(loader, dispatcher);
+        auto* sdCard = new ZrkSimSdCard(dispatcher, &window);
+        window.addDockWidget(Qt::RightDockWidgetArea, sdCard->createDock());
         if (parser.isSet(demo)) {
             ZrkDemoSession session(window, plugin, parser.value(demo));
             status = session.run();

@@ -47,14 +47,14 @@ int check(const QString& path, QTextStream& out, QTextStream& err)
     out << "format: " << formatName(info.format) << " ver " << info.version
         << (info.hasConfig ? " (full)" : " (lists only)") << '\n';
     out << "zones: " << data.zones.size() << " of " << caps.maxZones << '\n';
-    out << "routes: " << data.routes.size() << " of " << caps.maxRoutes << ", stops " << stops
-        << " (at most " << maxStops << " in a route, limit " << caps.maxStopsPerRoute << ")\n";
+    out << "routes: " << data.routes.size() << " of " << caps.maxRoutes << ", stops " << stops << " (at most "
+        << maxStops << " in a route, limit " << caps.maxStopsPerRoute << ")\n";
     out << "speed zones: " << data.speeds.size() << " of " << caps.maxSpeedZones << '\n';
     out << "sounds: " << data.sounds.size() << " of " << caps.maxSounds << '\n';
     if (info.hasConfig)
-        out << "options: " << data.defaults.packedOptions() << " (routes " << data.defaults.getDefRouteOptionsStr()
-            << ", speeds " << data.defaults.getDefSpeedsOptionsStr() << ", zones "
-            << data.defaults.getDefGeoOptionsStr() << ")\n";
+        out << "options: " << data.defaults.packedOptions() << " (routes "
+            << data.defaults.getDefRouteOptionsStr() << ", speeds " << data.defaults.getDefSpeedsOptionsStr()
+            << ", zones " << data.defaults.getDefGeoOptionsStr() << ")\n";
     return 0;
 }
 
@@ -118,8 +118,8 @@ int runGeoCommand(const QString& name, const QStringList& argsIn, QTextStream& o
             return 1;
         out << "zones: " << r.zones.size() << '\n';
         if (r.nonPoints)
-            out << "not points (skipped): " << r.nonPoints << " (" << r.nonPointNames.join(QStringLiteral(", "))
-                << ")\n";
+            out << "not points (skipped): " << r.nonPoints << " ("
+                << r.nonPointNames.join(QStringLiteral(", ")) << ")\n";
         return 0;
     }
     if (sub == QLatin1String("to-kml")) {
@@ -132,6 +132,7 @@ int runGeoCommand(const QString& name, const QStringList& argsIn, QTextStream& o
         out << "placemarks: " << data.zones.size() << ", lines: " << data.routes.size() << '\n';
         return 0;
     }
-    err << "zrk-tool " << name << ": unknown subcommand '" << sub << "' (check, normalize, from-kml, to-kml)\n";
+    err << "zrk-tool " << name << ": unknown subcommand '" << sub
+        << "' (check, normalize, from-kml, to-kml)\n";
     return 2;
 }

@@ -42,8 +42,8 @@ coreAinfData smallSet()
     r.flags = 0x0B;
     r.setsnd = 2;
     r.stops = { { GeoStop_Terminal, 1, 1, QStringLiteral("Депо"), QStringLiteral("1,2") },
-                { GeoStop_Stop, 3, 2, QStringLiteral("Рынок"), QStringLiteral("3") },
-                { GeoStop_Waypoint, 1, 3, QString(), QString() } };
+        { GeoStop_Stop, 3, 2, QStringLiteral("Рынок"), QStringLiteral("3") },
+        { GeoStop_Waypoint, 1, 3, QString(), QString() } };
     d.routes = { r };
     coreSpeedZone s1;
     s1.id = 1;
@@ -200,8 +200,10 @@ void tst_GeoFile::readOptionsByVersion_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<int>("packed");
-    QTest::newRow("ver 3 integer") << QByteArray("<AINF ver=\"3\"><Config options=\"655489\"/></AINF>") << 0x0A0081;
-    QTest::newRow("ver 2 text") << QByteArray("<AINF ver=\"2\"><Config options=\"100000010100000001010000\"/></AINF>")
+    QTest::newRow("ver 3 integer") << QByteArray("<AINF ver=\"3\"><Config options=\"655489\"/></AINF>")
+                                   << 0x0A0081;
+    QTest::newRow("ver 2 text") << QByteArray(
+        "<AINF ver=\"2\"><Config options=\"100000010100000001010000\"/></AINF>")
                                 << 0x0A0281;
     QTest::newRow("no ver: text default") << QByteArray("<AINF><Config speedmode=\"1\"/></AINF>") << 0;
 }
@@ -221,46 +223,48 @@ void tst_GeoFile::refusedFilesLeaveDataAlone_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("reason"); // a piece of the Russian message
     const QByteArray good = golden("geo/small_full.xml");
-    QTest::newRow("old format") << QByteArray("<?xml version=\"1.0\"?>\n<PARAMAINF>\n<ZONE ID=\"1\"/>\n</PARAMAINF>\n")
+    QTest::newRow("old format") << QByteArray(
+        "<?xml version=\"1.0\"?>\n<PARAMAINF>\n<ZONE ID=\"1\"/>\n</PARAMAINF>\n")
                                 << QStringLiteral("старом формате");
     QTest::newRow("truncated") << good.left(good.size() / 2) << QStringLiteral("правильным XML");
     QTest::newRow("empty") << QByteArray() << QStringLiteral("не файл геоинформации");
     QTest::newRow("other root") << QByteArray("<DEVICE><AINF ver=\"3\"/></DEVICE>")
                                 << QStringLiteral("не файл геоинформации");
     QTest::newRow("newer version") << QByteArray("<AINF ver=\"4\"/>") << QStringLiteral("версия файла 4");
-    QTest::newRow("count disagrees")
-        << QByteArray("<AINF ver=\"3\"><Zones count=\"2\"><Zone id=\"1\" lat=\"1\" lon=\"2\"/></Zones></AINF>")
-        << QStringLiteral("объявляет записей: 2, а содержит: 1");
-    QTest::newRow("stop count disagrees")
-        << QByteArray("<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\"/></Zones><Routes "
-                      "count=\"1\"><Route id=\"1\" countStop=\"2\"><Stop zoneid=\"1\"/></Route></Routes></AINF>")
-        << QStringLiteral("маршрут 1 объявляет остановок: 2");
-    QTest::newRow("bad latitude")
-        << QByteArray("<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"north\" lon=\"2\"/></Zones></AINF>")
-        << QStringLiteral("геозона 5: \"north\"");
-    QTest::newRow("off the globe")
-        << QByteArray("<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"91\" lon=\"2\"/></Zones></AINF>")
-        << QStringLiteral("вне земного шара");
-    QTest::newRow("duplicate id") << QByteArray("<AINF ver=\"3\"><Zones count=\"2\"><Zone id=\"5\" lat=\"1\" lon=\"2\"/>"
-                                                "<Zone id=\"5\" lat=\"1\" lon=\"2\"/></Zones></AINF>")
+    QTest::newRow("count disagrees") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"2\"><Zone id=\"1\" lat=\"1\" lon=\"2\"/></Zones></AINF>")
+                                     << QStringLiteral("объявляет записей: 2, а содержит: 1");
+    QTest::newRow("stop count disagrees") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\"/></Zones><Routes "
+        "count=\"1\"><Route id=\"1\" countStop=\"2\"><Stop zoneid=\"1\"/></Route></Routes></AINF>")
+                                          << QStringLiteral("маршрут 1 объявляет остановок: 2");
+    QTest::newRow("bad latitude") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"north\" lon=\"2\"/></Zones></AINF>")
+                                  << QStringLiteral("геозона 5: \"north\"");
+    QTest::newRow("off the globe") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"91\" lon=\"2\"/></Zones></AINF>")
+                                   << QStringLiteral("вне земного шара");
+    QTest::newRow("duplicate id") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"2\"><Zone id=\"5\" lat=\"1\" lon=\"2\"/>"
+        "<Zone id=\"5\" lat=\"1\" lon=\"2\"/></Zones></AINF>")
                                   << QStringLiteral("встречается дважды");
-    QTest::newRow("stop without zone")
-        << QByteArray("<AINF ver=\"3\"><Routes count=\"1\"><Route id=\"2\" countStop=\"1\"><Stop zoneid=\"9\"/>"
-                      "</Route></Routes></AINF>")
-        << QStringLiteral("несуществующую геозону 9");
-    QTest::newRow("radius below limit")
-        << QByteArray("<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\" size=\"9\"/></Zones></AINF>")
-        << QStringLiteral("радиус 9 м");
+    QTest::newRow("stop without zone") << QByteArray(
+        "<AINF ver=\"3\"><Routes count=\"1\"><Route id=\"2\" countStop=\"1\"><Stop zoneid=\"9\"/>"
+        "</Route></Routes></AINF>") << QStringLiteral("несуществующую геозону 9");
+    QTest::newRow("radius below limit") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\" size=\"9\"/></Zones></AINF>")
+                                        << QStringLiteral("радиус 9 м");
     QByteArray routes = "<AINF ver=\"3\"><Routes count=\"101\">";
     for (int i = 0; i < 101; ++i)
         routes += "<Route id=\"" + QByteArray::number(i) + "\"/>";
     QTest::newRow("too many routes") << routes + "</Routes></AINF>" << QStringLiteral("маршрутов: 101");
-    QTest::newRow("entity bomb") << QByteArray("<!DOCTYPE AINF [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b "
-                                               "\"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">]><AINF ver=\"3\" x=\"&b;&b;\"/>")
+    QTest::newRow("entity bomb") << QByteArray(
+        "<!DOCTYPE AINF [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b "
+        "\"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">]><AINF ver=\"3\" x=\"&b;&b;\"/>")
                                  << QString();
-    QTest::newRow("deep") << QByteArray("<AINF>") + QByteArray("<a>").repeated(400) + QByteArray("</a>").repeated(400)
-            + "</AINF>"
-                          << QStringLiteral("правильным XML");
+    QTest::newRow("deep") << QByteArray("<AINF>") + QByteArray("<a>").repeated(400)
+            + QByteArray("</a>").repeated(400)
+            + "</AINF>" << QStringLiteral("правильным XML");
 }
 
 void tst_GeoFile::refusedFilesLeaveDataAlone()
@@ -314,9 +318,10 @@ void tst_GeoFile::cardConfigFile()
     QVERIFY2(!path.isEmpty(), qPrintable(error));
     QCOMPARE(QFileInfo(path).fileName(), QStringLiteral("GeoZones.cfg"));
     QVERIFY(!QFile::exists(folder + QStringLiteral("/write.lst")));
-    QByteArray expected = kDecl + "<AINF version=\"3\">\n\t<Config begin=\"\xcd\xe0\xf7\xe0\xeb\xee\" char=\"\xc1\" "
-                                  "end=\"\xca\xee\xed\xe5\xf6\" number=\"1\" options=\"3146369\" setsnd=\"1\" "
-                                  "speedmode=\"2\"/>\n</AINF>\n";
+    QByteArray expected = kDecl
+        + "<AINF version=\"3\">\n\t<Config begin=\"\xcd\xe0\xf7\xe0\xeb\xee\" char=\"\xc1\" "
+          "end=\"\xca\xee\xed\xe5\xf6\" number=\"1\" options=\"3146369\" setsnd=\"1\" "
+          "speedmode=\"2\"/>\n</AINF>\n";
     QCOMPARE(readFile(path), expected);
 
     // A folder that cannot be made: no file, a message.
@@ -331,9 +336,10 @@ void tst_GeoFile::tool()
     const QString geo = dataFile("geo/small_full.xml");
     ToolRun r = runZrkTool({ "geo", "check", geo });
     QCOMPARE(r.code, 0);
-    QCOMPARE(r.out, QByteArray("format: AINF ver 3 (full)\nzones: 2 of 10000\nroutes: 1 of 100, stops 3 (at most 3 "
-                               "in a route, limit 200)\nspeed zones: 2 of 100\nsounds: 2 of 500\noptions: 3146369 "
-                               "(routes 10000001, speeds 01000000, zones 00001100)\n"));
+    QCOMPARE(r.out,
+        QByteArray("format: AINF ver 3 (full)\nzones: 2 of 10000\nroutes: 1 of 100, stops 3 (at most 3 "
+                   "in a route, limit 200)\nspeed zones: 2 of 100\nsounds: 2 of 500\noptions: 3146369 "
+                   "(routes 10000001, speeds 01000000, zones 00001100)\n"));
 
     const QString lists = dir.filePath(QStringLiteral("lists.xml"));
     QCOMPARE(runZrkTool({ "geo", "normalize", geo, lists }).code, 0);
