@@ -19,6 +19,7 @@
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QSet>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -62,6 +63,13 @@ void ZRK_Form_Config_Ainf::translateForm()
 
 void ZRK_Form_Config_Ainf::initForm()
 {
+    m_sdWatchdog = new QTimer(this);
+    m_sdWatchdog->setSingleShot(true);
+    m_sdWatchdog->setInterval(15000);
+    connect(m_sdWatchdog, &QTimer::timeout, this, [this] {
+        //% "Терминал не ответил; запись на SD-карту прервана."
+        finishSd(false, qtTrId("gain_292"));
+    });
     m_model = new ZRK_Ainf_Zone_Model(&m_data.zones, this);
     ui->tableView_ListGeo->setModel(m_model);
     ui->tableView_ListGeo->horizontalHeader()->setStretchLastSection(true);
@@ -565,15 +573,82 @@ void ZRK_Form_Config_Ainf::saveNextFileSD()
         finishSd(true, QString());
         return;
     }
-    const auto& file = m_sdFiles.at(m_sdIndex);
-    if (!sendSdFile(file.first, file.second)) {
-        //% "Не удалось передать файл %1 на SD-карту терминала."
-        finishSd(false, qtTrId("gain_288").arg(file.first));
+    m_sdOffset = -1;
+    m_sdClosing = false;
+    if (lpGlobalDevice) {
+        //% "Запись на SD-карту: %1"
+        lpGlobalDevice->formWait_Set_Text(qtTrId("gain_289").arg(m_sdFiles.at(m_sdIndex).first));
+        lpGlobalDevice->formWait_Set_Progress_MinMax(0, m_sdFiles.size());
+        lpGlobalDevice->formWait_Set_Progress_Value(m_sdIndex);
+        lpGlobalDevice->formWait_Show();
     }
+    if (!sendSdStep()) {
+        //% "Не удалось передать файл %1 на SD-карту терминала."
+        finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
+    }
+}
+
+bool ZRK_Form_Config_Ainf::sendSdStep()
+{
+    if (!lpGlobalDevice || m_sdIndex < 0 || m_sdIndex >= m_sdFiles.size())
+        return false;
+    const auto& file = m_sdFiles.at(m_sdIndex);
+    szSDFile request;
+    request.fileName = file.first;
+    if (m_sdOffset < 0) {
+        request.operation = ZRK_SD_OPEN;
+        request.size = 1; // create or truncate for writing
+    } else if (m_sdOffset < file.second.size()) {
+        request.operation = ZRK_SD_WRITE;
+        request.offset = quint32(m_sdOffset);
+        request.data = file.second.mid(m_sdOffset, ZRK_SD_CHUNK_MAX);
+        request.size = quint32(request.data.size());
+    } else {
+        request.operation = ZRK_SD_CLOSE;
+        m_sdClosing = true;
+    }
+    m_sdWatchdog->start();
+    lpGlobalDevice->SendMessage(lpGlobalDevice, ZRK_MSG_SD_FILE_OPERATION, reinterpret_cast<unsigned long>(&request), 0);
+    return request.result == ZRK_SD_OK;
+}
+
+void ZRK_Form_Config_Ainf::receive_SD_File(QByteArray* data)
+{
+    if (!data || m_sdIndex < 0)
+        return;
+    szSDFileReplyHeader header;
+    QString name;
+    if (!zrkParseSDFileReply(*data, &header, &name, nullptr) || name != m_sdFiles.at(m_sdIndex).first)
+        return; // not an answer to this page's transfer
+    m_sdWatchdog->stop();
+    if (header.result != ZRK_SD_OK) {
+        const QString file = m_sdFiles.at(m_sdIndex).first;
+        if (header.result == ZRK_SD_CARD_FULL)
+            //% "На SD-карте терминала нет места для файла %1."
+            finishSd(false, qtTrId("gain_290").arg(file));
+        else if (header.result == ZRK_SD_NO_CARD)
+            //% "В терминале нет SD-карты; файл %1 не записан."
+            finishSd(false, qtTrId("gain_291").arg(file));
+        else
+            finishSd(false, qtTrId("gain_288").arg(file));
+        return;
+    }
+    // The next request goes out from the event loop: replies may arrive inside the request's call.
+    if (m_sdClosing) {
+        ++m_sdIndex;
+        QMetaObject::invokeMethod(this, &ZRK_Form_Config_Ainf::saveNextFileSD, Qt::QueuedConnection);
+        return;
+    }
+    m_sdOffset = m_sdOffset < 0 ? 0 : m_sdOffset + ZRK_SD_CHUNK_MAX;
+    QMetaObject::invokeMethod(this, [this] {
+        if (m_sdIndex >= 0 && !sendSdStep())
+            finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
+    }, Qt::QueuedConnection);
 }
 
 void ZRK_Form_Config_Ainf::finishSd(bool ok, const QString& message)
 {
+    m_sdWatchdog->stop();
     m_sdIndex = -1;
     m_sdFiles.clear();
     if (lpGlobalDevice)
@@ -582,4 +657,88 @@ void ZRK_Form_Config_Ainf::finishSd(bool ok, const QString& message)
     if (!message.isEmpty())
         showMessage(message);
     emit sdWriteFinished(ok);
+}
+
+// ---- buttons
+
+void ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnAdd()
+{
+    double lat = 0, lon = 0;
+    if (!ui->form_GeoParam->typedPosition(&lat, &lon)) {
+        //% "Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте."
+        showMessage(qtTrId("gain_293"));
+        return;
+    }
+    addZoneAt(lat, lon);
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnAdd_FileKML()
+{
+    ZRK_Form_Config_Ainf_KML dialog(this);
+    dialog.setGob(m_data.defaults.getDefGeoOptions());
+    if (dialog.exec() == QDialog::Accepted)
+        slot_loadFileKML(dialog.fileName(), dialog.size(), dialog.angle(), dialog.gob());
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnCopy()
+{
+    duplicateZone(ui->tableView_ListGeo->currentIndex().row());
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnDel()
+{
+    QList<int> rows;
+    for (const QModelIndex& index : ui->tableView_ListGeo->selectionModel()->selectedRows())
+        rows << index.row();
+    if (rows.isEmpty() && ui->tableView_ListGeo->currentIndex().isValid())
+        rows << ui->tableView_ListGeo->currentIndex().row();
+    deleteZones(rows);
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_BtnOpenFile()
+{
+    //% "Открыть файл геоинформации"
+    const QString path = QFileDialog::getOpenFileName(
+        this, qtTrId("gain_294"), appDataDirectory() + QStringLiteral("/Data"), QStringLiteral("*.xml"));
+    if (!path.isEmpty())
+        readFileParamGeo(path, true);
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_BtnSaveFile()
+{
+    //% "Сохранить файл геоинформации"
+    const QString path = QFileDialog::getSaveFileName(
+        this, qtTrId("gain_295"), proposedFileName(QDateTime::currentDateTime()), QStringLiteral("*.xml"));
+    if (!path.isEmpty())
+        writeFileParamGeo(path, true);
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_BtnWriteDevice()
+{
+    saveFileInDevice();
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_Sounds_BtnAdd()
+{
+    if (m_data.sounds.size() >= m_caps.maxSounds) {
+        //% "Терминал хранит не более %1 звуковых файлов."
+        showMessage(qtTrId("gain_296").arg(m_caps.maxSounds));
+        return;
+    }
+    coreGeoSound sound;
+    sound.id = 1;
+    for (const coreGeoSound& s : qAsConst(m_data.sounds))
+        sound.id = qMax(sound.id, s.id + 1);
+    sound.title = QStringLiteral("%1.mp3").arg(sound.id);
+    m_data.sounds.append(sound);
+    refreshSounds();
+}
+
+void ZRK_Form_Config_Ainf::slot_pressed_Sounds_BtnDel()
+{
+    const int row = ui->tableWidget_Sounds->currentRow();
+    if (row < 0 || row >= m_data.sounds.size())
+        return;
+    m_data.sounds.remove(row);
+    refreshSounds();
 }

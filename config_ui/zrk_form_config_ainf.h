@@ -10,6 +10,7 @@
 
 class CXMLWorkData;
 class QByteArray;
+class QTimer;
 class Ui_ZRK_Designer_Form_Config_Ainf;
 class ZRK_Ainf_Zone_Model;
 class ZRK_Form_Config_Ainf_GeoParam;
@@ -115,7 +116,8 @@ private:
     void updateMapRoutes();
     void updateState();
     int appendZone(coreGeoZone zone);
-    bool sendSdFile(const QString& cardName, const QByteArray& bytes);
+    // Sends the current request of the card write (open, a 4 KB write, close); false when refused.
+    bool sendSdStep();
     void finishSd(bool ok, const QString& message);
 
     std::unique_ptr<Ui_ZRK_Designer_Form_Config_Ainf> ui;
@@ -131,4 +133,7 @@ private:
     // The card write in progress: the files' contents and the index of the one on its way.
     QVector<QPair<QString, QByteArray>> m_sdFiles;
     int m_sdIndex = -1;
+    int m_sdOffset = -1; // -1: open next; past the file's end: close next
+    bool m_sdClosing = false;
+    QTimer* m_sdWatchdog = nullptr;
 };
