@@ -270,6 +270,24 @@ int ZRK_Form_Config_Ainf::addZoneAt(double lat, double lon)
     return id;
 }
 
+int ZRK_Form_Config_Ainf::addRouteThroughZones(const QString& number, const QVariantList& zoneIds)
+{
+    ZRK_Form_Config_Ainf_Route* routes = routeForm();
+    const int id = routes->addRoute();
+    if (id <= 0)
+        return 0;
+    const int row = m_data.routes.size() - 1;
+    if (!number.isEmpty())
+        m_data.routes[row].number = number;
+    for (const QVariant& zone : zoneIds) {
+        if (rowOfZone(zone.toInt()) < 0 || !routes->addStop(row, zone.toInt()))
+            break;
+    }
+    routes->refresh();
+    updateMapRoutes();
+    return id;
+}
+
 int ZRK_Form_Config_Ainf::duplicateZone(int row)
 {
     if (row < 0 || row >= m_data.zones.size())

@@ -3,6 +3,7 @@
 #include "config_model/geo_data.h"
 
 #include <QStringList>
+#include <QVariantList>
 #include <QWidget>
 
 #include <functional>
@@ -39,11 +40,13 @@ public:
     void setDefaultParam();
     void readFormParam(CXMLWorkData* root);
     void writeFormParam(CXMLWorkData* root);
-    void deviceConnect();
+    Q_INVOKABLE void deviceConnect();
     void deviceDisconnect();
     void setFormEnabled(bool enabled);
     void setTabIndex(int index) { m_tabIndex = index; }
     int getTabIndex() const { return m_tabIndex; }
+    // The zone count, for a host's diagnostics and the demo.
+    Q_INVOKABLE int zoneCount() const { return m_data.zones.size(); }
 
     // ---- data
     const coreAinfData& data() const { return m_data; }
@@ -54,12 +57,14 @@ public:
 
     // ---- zones; each returns the new zone's id, or 0 after telling the user why not
     int addGeoZone(const QString& name, int size, int angle, int gob, const QString& lat, const QString& lon);
-    int addZoneAt(double lat, double lon);
+    Q_INVOKABLE int addZoneAt(double lat, double lon);
+    // A route with the defaults and one stop per zone, in order; its id, or 0 with a message.
+    Q_INVOKABLE int addRouteThroughZones(const QString& number, const QVariantList& zoneIds);
     int duplicateZone(int row);
     // Deletes the rows; a zone that is a route's stop stays, with a message. Returns how many went.
     int deleteZones(QList<int> rows);
     int rowOfZone(int id) const;
-    void selectZone(int id);
+    Q_INVOKABLE void selectZone(int id);
     int selectedZoneId() const;
     // Applies a moved or resized circle from the map to the list.
     void moveZone(int id, double lat, double lon);
@@ -68,17 +73,17 @@ public:
     // ---- files
     // Reads a geo file (new format; the old one is recognised and refused with a message); the map
     // recentres on the zones when centreMap is set. On failure nothing changes.
-    bool readFileParamGeo(const QString& path, bool centreMap = true);
-    bool writeFileParamGeo(const QString& path, bool full);
+    Q_INVOKABLE bool readFileParamGeo(const QString& path, bool centreMap = true);
+    Q_INVOKABLE bool writeFileParamGeo(const QString& path, bool full);
     // appDataDirectory() + "/Data/AINF(dd-MM-yy hh_mm_ss).xml" for the moment given.
     static QString proposedFileName(const QDateTime& now);
     // Imports the KML file's points as zones; returns how many were added.
-    int loadFileKML(const QString& file, int size, int angle, int gob);
+    Q_INVOKABLE int loadFileKML(const QString& file, int size, int angle, int gob);
 
     // ---- the terminal's SD card
     // The card files, in the order they are written: the geo file, then "GeoZones.cfg".
     static QStringList cardFileNames();
-    bool saveFileInDevice();
+    Q_INVOKABLE bool saveFileInDevice();
     void saveNextFileSD();
     void receive_SD_File(QByteArray* data);
     bool isWritingToDevice() const { return m_sdIndex >= 0; }

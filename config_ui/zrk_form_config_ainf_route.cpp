@@ -93,7 +93,7 @@ void ZRK_Form_Config_Ainf_Route::translateForm()
         qtTrId("gain_236"),
     });
     ui->tableWidget_Stops->setHorizontalHeaderLabels({
-        //% "Тип (0 остановка, 1 путевая, 2 конечная)"
+        //% "Тип"
         qtTrId("gain_237"),
         //% "Зона"
         qtTrId("gain_238"),
@@ -104,6 +104,10 @@ void ZRK_Form_Config_Ainf_Route::translateForm()
         //% "Звуки (номера через запятую)"
         qtTrId("gain_240"),
     });
+    //% "Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная"
+    ui->tableWidget_Stops->horizontalHeaderItem(SC_Type)->setToolTip(qtTrId("gain_244"));
+    //% "Номер зоны остановки: от 1 до 65535"
+    ui->tableWidget_Stops->horizontalHeaderItem(SC_Zone)->setToolTip(qtTrId("gain_245"));
 }
 
 void ZRK_Form_Config_Ainf_Route::setData(coreAinfData* data, std::function<void(const QString&)> message)

@@ -76,6 +76,8 @@ ZRK_Widget_Map::ZRK_Widget_Map(QWidget* parent)
     m_bridge = new ZRK_Map_Bridge(this);
     m_channel->registerObject(QStringLiteral("bridge"), m_bridge);
     m_view->page()->setWebChannel(m_channel);
+    // A map wants all the room its window can give.
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view);

@@ -312,8 +312,8 @@
         <translation>Stops</translation>
     </message>
     <message id="gain_237">
-        <source>Тип (0 остановка, 1 путевая, 2 конечная)</source>
-        <translation>Type (0 stop, 1 waypoint, 2 terminal)</translation>
+        <source>Тип</source>
+        <translation>Type</translation>
     </message>
     <message id="gain_238">
         <source>Зона</source>
@@ -834,6 +834,14 @@
     <message id="iopr_006">
         <source></source>
         <translation type="unfinished"></translation>
+    </message>
+    <message id="gain_244">
+        <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
+        <translation>Stop type: 0 stop, 1 waypoint, 2 terminal</translation>
+    </message>
+    <message id="gain_245">
+        <source>Номер зоны остановки: от 1 до 65535</source>
+        <translation>Zone id of the stop: 1 to 65535</translation>
     </message>
 </context>
 </TS>

@@ -312,8 +312,8 @@
         <translation>Остановок</translation>
     </message>
     <message id="gain_237">
-        <source>Тип (0 остановка, 1 путевая, 2 конечная)</source>
-        <translation>Тип (0 остановка, 1 путевая, 2 конечная)</translation>
+        <source>Тип</source>
+        <translation>Тип</translation>
     </message>
     <message id="gain_238">
         <source>Зона</source>
@@ -834,6 +834,14 @@
     <message id="iopr_006">
         <source></source>
         <translation></translation>
+    </message>
+    <message id="gain_244">
+        <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
+        <translation>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</translation>
+    </message>
+    <message id="gain_245">
+        <source>Номер зоны остановки: от 1 до 65535</source>
+        <translation>Номер зоны остановки: от 1 до 65535</translation>
     </message>
 </context>
 </TS>
