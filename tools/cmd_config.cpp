@@ -1,13 +1,20 @@
 // zrk-tool config: look at configuration files through the same serializer the plug-in uses.
+#include "config_model/config_diff.h"
+#include "config_model/config_keys.h"
 #include "config_model/serialize.h"
+#include "config_model/xml_workdata.h"
 #include "tools/commands.h"
 
 #include <QFileInfo>
+#include <QSaveFile>
 
 const char* const kConfigUsage
     = "  config check FILE               load a configuration file, count what it holds\n"
       "  config normalize IN OUT         load IN, write the same tree to OUT\n"
-      "  config dump FILE                print the tree, one element a line (UTF-8)\n";
+      "  config dump FILE                print the tree, one element a line (UTF-8)\n"
+      "  config new OUT                  write a new configuration, every page at its defaults\n"
+      "  config lint FILE                check the keys the pages own: one line a finding, exit 1 if any\n"
+      "  config diff A B                 differences by node and key, with the keys' labels\n";
 
 namespace {
 
@@ -72,16 +79,89 @@ bool load(CSerialize& doc, const QString& sub, const QString& path, QTextStream&
     return true;
 }
 
+int runNew(const QStringList& args, QTextStream& err)
+{
+    if (args.size() != 2) {
+        err << "zrk-tool: config new: expected 'new OUT'\n";
+        return 2;
+    }
+    const QByteArray bytes = zrk::cfg::renderNewConfiguration();
+    QSaveFile file(args.at(1));
+    if (bytes.isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+        err << "zrk-tool: config new: " << args.at(1) << ": cannot write: " << file.errorString() << '\n';
+        return 1;
+    }
+    return 0;
+}
+
+// The key's text as the user typed it: quoted only when it would not read back as one word.
+QString shownValue(const QString& value)
+{
+    if (!value.isEmpty() && !value.contains(QLatin1Char(' ')) && !value.contains(QLatin1Char('"')))
+        return value;
+    return quoted(value);
+}
+
+int runLint(const QStringList& args, QTextStream& out, QTextStream& err)
+{
+    if (args.size() != 2) {
+        err << "zrk-tool: config lint: expected 'lint FILE'\n";
+        return 2;
+    }
+    CSerialize doc(args.at(1));
+    if (!load(doc, QStringLiteral("lint"), args.at(1), err))
+        return 1;
+    if (!doc.root() || doc.root()->name != QLatin1String(zrk::cfg::kRootNode)) {
+        err << "zrk-tool: config lint: " << args.at(1) << ": root is not " << zrk::cfg::kRootNode << '\n';
+        return 1;
+    }
+    CXMLWorkData root(&doc, doc.root());
+    const auto findings = zrk::cfg::lintConfiguration(&root);
+    for (const zrk::cfg::LintFinding& f : findings) {
+        out << f.node;
+        if (!f.key.isEmpty())
+            out << ' ' << f.key << '=' << shownValue(f.value);
+        out << ": expected " << f.expected << '\n';
+    }
+    return findings.isEmpty() ? 0 : 1;
+}
+
+int runDiff(const QStringList& args, QTextStream& out, QTextStream& err)
+{
+    if (args.size() != 3) {
+        err << "zrk-tool: config diff: expected 'diff A B'\n";
+        return 2;
+    }
+    CSerialize a(args.at(1));
+    CSerialize b(args.at(2));
+    if (!load(a, QStringLiteral("diff"), args.at(1), err) || !load(b, QStringLiteral("diff"), args.at(2), err))
+        return 1;
+    const auto diffs = zrk::diffConfigs(a.root(), b.root());
+    for (const zrk::ConfigDifference& d : diffs) {
+        out << (d.node.isEmpty() ? QStringLiteral("(root)") : d.node) << ' ' << d.key;
+        if (!d.label.isEmpty())
+            out << " (" << d.label << ')';
+        out << ": " << (d.inLeft ? shownValue(d.left) : QStringLiteral("-")) << " -> "
+            << (d.inRight ? shownValue(d.right) : QStringLiteral("-")) << '\n';
+    }
+    return diffs.isEmpty() ? 0 : 1;
+}
+
 } // namespace
 
 int runConfigCommand(const QString&, const QStringList& args, QTextStream& out, QTextStream& err)
 {
     const QString sub = args.value(0);
+    if (sub == QLatin1String("new"))
+        return runNew(args, err);
+    if (sub == QLatin1String("lint"))
+        return runLint(args, out, err);
+    if (sub == QLatin1String("diff"))
+        return runDiff(args, out, err);
     const int wanted = sub == QLatin1String("normalize") ? 3 : 2;
     if ((sub != QLatin1String("check") && sub != QLatin1String("normalize") && sub != QLatin1String("dump"))
         || args.size() != wanted) {
-        err << "zrk-tool: config: expected 'check FILE', 'normalize IN OUT' or 'dump FILE' (see zrk-tool "
-               "--help)\n";
+        err << "zrk-tool: config: expected check, normalize, dump, new, lint or diff (see zrk-tool --help)\n";
         return 2;
     }
     const QString path = args.at(1);

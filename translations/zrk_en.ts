@@ -843,5 +843,2022 @@
         <source>Номер зоны остановки: от 1 до 65535</source>
         <translation>Zone id of the stop: 1 to 65535</translation>
     </message>
+    <message id="cfgt3_007">
+        <source>Ставить точки только в движении (правило старт/стоп)</source>
+        <translation>Lay points only while moving (start/stop rule)</translation>
+    </message>
+    <message id="cfgt3_008">
+        <source>Ставить точку при превышении скорости</source>
+        <translation>Lay a point when the speed limit is exceeded</translation>
+    </message>
+    <message id="cfgt3_009">
+        <source>Порог скорости, км/ч</source>
+        <translation>Speed limit, km/h</translation>
+    </message>
+    <message id="cfgt3_010">
+        <source>Правило поворота</source>
+        <translation>Turn rule</translation>
+    </message>
+    <message id="cfgt3_013">
+        <source>Угол поворота, °</source>
+        <translation>Turn angle, °</translation>
+    </message>
+    <message id="cfgt3_014">
+        <source>Ставить точку по расстоянию, м</source>
+        <translation>Lay a point by distance, m</translation>
+    </message>
+    <message id="cfgt3_015">
+        <source>Расстояние, м</source>
+        <translation>Distance, m</translation>
+    </message>
+    <message id="cfgt3_016">
+        <source>Ставить точку по таймеру в движении, с</source>
+        <translation>Lay a point by timer while moving, s</translation>
+    </message>
+    <message id="cfgt3_017">
+        <source>Таймер в движении, с</source>
+        <translation>Timer while moving, s</translation>
+    </message>
+    <message id="cfgt3_018">
+        <source>Признаки движения для таймера</source>
+        <translation>Movement signs for the timer</translation>
+    </message>
+    <message id="cfgt3_023">
+        <source>Таймер на стоянке, с</source>
+        <translation>Timer while stopped, s</translation>
+    </message>
+    <message id="cfgt3_025">
+        <source>Не ставить точки ближе, м</source>
+        <translation>No points closer than, m</translation>
+    </message>
+    <message id="cfgt3_026">
+        <source>Минимальное расстояние между точками, м</source>
+        <translation>Minimum distance between points, m</translation>
+    </message>
+    <message id="cfgt3_027">
+        <source>Не ставить точки чаще, с</source>
+        <translation>No points more often than, s</translation>
+    </message>
+    <message id="cfgt3_028">
+        <source>Минимальный интервал между точками, с</source>
+        <translation>Minimum interval between points, s</translation>
+    </message>
+    <message id="cfgt3_029">
+        <source>Фильтр координат</source>
+        <translation>Coordinate filter</translation>
+    </message>
+    <message id="cfgt3_031">
+        <source>Минимум спутников</source>
+        <translation>Minimum satellites</translation>
+    </message>
+    <message id="cfgt3_032">
+        <source>Максимальный HDOP</source>
+        <translation>Maximum HDOP</translation>
+    </message>
+    <message id="cfgt3_033">
+        <source>Максимальная скорость, км/ч</source>
+        <translation>Maximum speed, km/h</translation>
+    </message>
+    <message id="cfgt3_034">
+        <source>Максимальное ускорение</source>
+        <translation>Maximum acceleration</translation>
+    </message>
+    <message id="cfgt3_035">
+        <source>Максимальный скачок, м</source>
+        <translation>Maximum jump, m</translation>
+    </message>
+    <message id="cfgt3_036">
+        <source>Отбраковок подряд, не более</source>
+        <translation>Rejections in a row, at most</translation>
+    </message>
+    <message id="cfgt3_037">
+        <source>Минимальная высота, м</source>
+        <translation>Minimum altitude, m</translation>
+    </message>
+    <message id="cfgt3_038">
+        <source>Максимальная высота, м</source>
+        <translation>Maximum altitude, m</translation>
+    </message>
+    <message id="cfgt3_039">
+        <source>Расхождение с временем сети, с</source>
+        <translation>Difference from network time, s</translation>
+    </message>
+    <message id="cfgt3_040">
+        <source>Координаты на стоянке</source>
+        <translation>Coordinates while stopped</translation>
+    </message>
+    <message id="cfgt3_044">
+        <source>Признаки стоянки</source>
+        <translation>Standstill signs</translation>
+    </message>
+    <message id="cfgt3_051">
+        <source>Режим стоянки</source>
+        <translation>Parking mode</translation>
+    </message>
+    <message id="cfgt3_056">
+        <source>Время до стоянки, с</source>
+        <translation>Time until parking, s</translation>
+    </message>
+    <message id="cfgt3_057">
+        <source>Спутниковые системы</source>
+        <translation>Satellite systems</translation>
+    </message>
+    <message id="cfgt3_058">
+        <source>Помощь A-GPS</source>
+        <translation>A-GPS assistance</translation>
+    </message>
+    <message id="cfgt3_059">
+        <source>Прогноз орбит (EPO)</source>
+        <translation>Orbit prediction (EPO)</translation>
+    </message>
+    <message id="cfgt3_060">
+        <source>Маска возвышения спутников, °</source>
+        <translation>Satellite elevation mask, °</translation>
+    </message>
+    <message id="cfgt3_061">
+        <source>Система координат</source>
+        <translation>Datum</translation>
+    </message>
+    <message id="cfgt3_064">
+        <source>Приёмник</source>
+        <translation>Receiver</translation>
+    </message>
+    <message id="cfgt3_067">
+        <source>Таймер холодного рестарта приёмника</source>
+        <translation>Receiver cold restart timer</translation>
+    </message>
+    <message id="cfgt3_071">
+        <source>Период в движении, с</source>
+        <translation>Period while moving, s</translation>
+    </message>
+    <message id="cfgt3_072">
+        <source>Признаки движения</source>
+        <translation>Movement signs</translation>
+    </message>
+    <message id="cfgt3_073">
+        <source>Период на стоянке, с (0 — выключено)</source>
+        <translation>Period while parked, s (0: off)</translation>
+    </message>
+    <message id="cfgt3_070">
+        <source>Источники</source>
+        <translation>Sources</translation>
+    </message>
+    <message id="cfgt3_069">
+        <source>Позиционирование для телеметрии</source>
+        <translation>Alternative positioning for telemetry</translation>
+    </message>
+    <message id="cfgt3_074">
+        <source>Сервис локации</source>
+        <translation>Locator service</translation>
+    </message>
+    <message id="cfgt3_075">
+        <source>Ключ доступа</source>
+        <translation>Access key</translation>
+    </message>
+    <message id="cfgt3_076">
+        <source>Условие</source>
+        <translation>Condition</translation>
+    </message>
+    <message id="cfgt3_077">
+        <source>Добавлять в телеметрию</source>
+        <translation>Add to telemetry</translation>
+    </message>
+    <message id="cfgt3_078">
+        <source>Фильтр координат локатора</source>
+        <translation>Locator coordinate filter</translation>
+    </message>
+    <message id="cfgt3_079">
+        <source>Предельная скорость, км/ч</source>
+        <translation>Speed limit, km/h</translation>
+    </message>
+    <message id="cfgt3_080">
+        <source>Отбраковок подряд до принятия</source>
+        <translation>Rejections in a row before accepting</translation>
+    </message>
+    <message id="cfgt3_081">
+        <source>Записывать отбракованные координаты</source>
+        <translation>Record rejected positions</translation>
+    </message>
+    <message id="cfgt3_082">
+        <source>Перепроверять по Wi-Fi</source>
+        <translation>Recheck by Wi-Fi</translation>
+    </message>
+    <message id="cfgt3_083">
+        <source>Перепроверять по GNSS</source>
+        <translation>Recheck by GNSS</translation>
+    </message>
+    <message id="cfgt3_084">
+        <source>Фильтр точек доступа</source>
+        <translation>Access point filter</translation>
+    </message>
+    <message id="cfgt3_085">
+        <source>Минимальный уровень точки доступа, дБм</source>
+        <translation>Minimum access point level, dBm</translation>
+    </message>
+    <message id="cfgt3_087">
+        <source>Чёрный список, строка %1</source>
+        <translation>Black list, row %1</translation>
+    </message>
+    <message id="cfgt3_065">
+        <source>При отсутствии координат GNSS</source>
+        <translation>Without a GNSS fix</translation>
+    </message>
+    <message id="cfgt3_066">
+        <source>Всегда</source>
+        <translation>Always</translation>
+    </message>
+    <message id="cfgt3_001">
+        <source>Трек</source>
+        <translation>Track</translation>
+    </message>
+    <message id="cfgt3_100">
+        <source>Диапазон: %1..%2</source>
+        <translation>Range: %1..%2</translation>
+    </message>
+    <message id="cfgt3_102">
+        <source>Диапазон: %1..%2; 0 — выключено</source>
+        <translation>Range: %1..%2; 0: off</translation>
+    </message>
+    <message id="cfgt3_101">
+        <source></source>
+        <translation>When to lay a point</translation>
+    </message>
+    <message id="cfgt3_011">
+        <source></source>
+        <translation>Turn by angle, °</translation>
+    </message>
+    <message id="cfgt3_012">
+        <source></source>
+        <translation>Turn by direction</translation>
+    </message>
+    <message id="cfgt3_019">
+        <source></source>
+        <translation>Input 1</translation>
+    </message>
+    <message id="cfgt3_020">
+        <source></source>
+        <translation>Ignition</translation>
+    </message>
+    <message id="cfgt3_021">
+        <source></source>
+        <translation>Tachometer</translation>
+    </message>
+    <message id="cfgt3_022">
+        <source></source>
+        <translation>Vibration sensor</translation>
+    </message>
+    <message id="cfgt3_024">
+        <source></source>
+        <translation>Point density limits</translation>
+    </message>
+    <message id="cfgt3_002">
+        <source></source>
+        <translation>Track points</translation>
+    </message>
+    <message id="cfgt3_030">
+        <source></source>
+        <translation>Rejection of fixes</translation>
+    </message>
+    <message id="cfgt3_041">
+        <source></source>
+        <translation>No averaging</translation>
+    </message>
+    <message id="cfgt3_042">
+        <source></source>
+        <translation>Average</translation>
+    </message>
+    <message id="cfgt3_043">
+        <source></source>
+        <translation>Fixed point</translation>
+    </message>
+    <message id="cfgt3_049">
+        <source></source>
+        <translation>Accelerometer</translation>
+    </message>
+    <message id="cfgt3_050">
+        <source></source>
+        <translation>Accelerometer (SH5)</translation>
+    </message>
+    <message id="cfgt3_003">
+        <source></source>
+        <translation>Filtering</translation>
+    </message>
+    <message id="cfgt3_104">
+        <source></source>
+        <translation>Parking</translation>
+    </message>
+    <message id="cfgt3_052">
+        <source></source>
+        <translation>By the motion sensor</translation>
+    </message>
+    <message id="cfgt3_053">
+        <source></source>
+        <translation>By the accelerometer settings</translation>
+    </message>
+    <message id="cfgt3_054">
+        <source></source>
+        <translation>Accelerometer…</translation>
+    </message>
+    <message id="cfgt3_055">
+        <source></source>
+        <translation>Parking is detected by the accelerometer</translation>
+    </message>
+    <message id="cfgt3_103">
+        <source></source>
+        <translation>GNSS receiver</translation>
+    </message>
+    <message id="cfgt3_062">
+        <source></source>
+        <translation>WGS-84 (world)</translation>
+    </message>
+    <message id="cfgt3_063">
+        <source></source>
+        <translation>PZ-90</translation>
+    </message>
+    <message id="cfgt3_068">
+        <source></source>
+        <translation>Receiver assistance</translation>
+    </message>
+    <message id="cfgt3_098">
+        <source></source>
+        <translation>Built-in</translation>
+    </message>
+    <message id="cfgt3_099">
+        <source></source>
+        <translation>External</translation>
+    </message>
+    <message id="cfgt3_004">
+        <source></source>
+        <translation>Receiver and parking</translation>
+    </message>
+    <message id="cfgt3_107">
+        <source></source>
+        <translation>Use</translation>
+    </message>
+    <message id="cfgt3_095">
+        <source></source>
+        <translation>No</translation>
+    </message>
+    <message id="cfgt3_096">
+        <source></source>
+        <translation>Coordinates</translation>
+    </message>
+    <message id="cfgt3_097">
+        <source></source>
+        <translation>Coordinates and access points</translation>
+    </message>
+    <message id="cfgt3_086">
+        <source></source>
+        <translation>Black list…</translation>
+    </message>
+    <message id="cfgt3_005">
+        <source></source>
+        <translation>Locator</translation>
+    </message>
+    <message id="cfgt3_088">
+        <source></source>
+        <translation>Wi-Fi access points</translation>
+    </message>
+    <message id="cfgt3_090">
+        <source></source>
+        <translation>Wi-Fi module…</translation>
+    </message>
+    <message id="cfgt3_089">
+        <source></source>
+        <translation>Mobile cells (LBS)</translation>
+    </message>
+    <message id="cfgt3_093">
+        <source></source>
+        <translation>Access point black list</translation>
+    </message>
+    <message id="cfgt3_094">
+        <source></source>
+        <translation>Access point name</translation>
+    </message>
+    <message id="cfgt3_106">
+        <source></source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="cfgt3_105">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="cfgt3_091">
+        <source></source>
+        <translation>While parked</translation>
+    </message>
+    <message id="cfgt3_047">
+        <source>GPS + ГЛОНАСС</source>
+        <translation>GPS + GLONASS</translation>
+    </message>
+    <message id="cfgt3_048">
+        <source>GPS и BeiDou</source>
+        <translation>GPS and BeiDou</translation>
+    </message>
+    <message id="cfgt3_045">
+        <source>Только GPS</source>
+        <translation>GPS only</translation>
+    </message>
+    <message id="cfgt3_046">
+        <source>ГЛОНАСС</source>
+        <translation>GLONASS</translation>
+    </message>
+    <message id="orbf_001">
+        <source>Номер записи</source>
+        <translation>Record number</translation>
+    </message>
+    <message id="orbf_002">
+        <source>Код события</source>
+        <translation>Event code</translation>
+    </message>
+    <message id="orbf_003">
+        <source>Время</source>
+        <translation>Time</translation>
+    </message>
+    <message id="orbf_004">
+        <source>Состояние терминала</source>
+        <translation>Terminal state</translation>
+    </message>
+    <message id="orbf_005">
+        <source>Состояние модулей 1</source>
+        <translation>Module state 1</translation>
+    </message>
+    <message id="orbf_006">
+        <source>Состояние модулей 2</source>
+        <translation>Module state 2</translation>
+    </message>
+    <message id="orbf_007">
+        <source>Уровень сигнала GSM</source>
+        <translation>GSM signal level</translation>
+    </message>
+    <message id="orbf_008">
+        <source>Состояние навигации</source>
+        <translation>Navigation state</translation>
+    </message>
+    <message id="orbf_009">
+        <source>Время последних достоверных координат</source>
+        <translation>Time of the last valid fix</translation>
+    </message>
+    <message id="orbf_010">
+        <source>Широта</source>
+        <translation>Latitude</translation>
+    </message>
+    <message id="orbf_011">
+        <source>Долгота</source>
+        <translation>Longitude</translation>
+    </message>
+    <message id="orbf_012">
+        <source>Высота</source>
+        <translation>Altitude</translation>
+    </message>
+    <message id="orbf_013">
+        <source>Скорость</source>
+        <translation>Speed</translation>
+    </message>
+    <message id="orbf_014">
+        <source>Курс</source>
+        <translation>Course</translation>
+    </message>
+    <message id="orbf_015">
+        <source>Пробег</source>
+        <translation>Mileage</translation>
+    </message>
+    <message id="orbf_016">
+        <source>Расстояние от предыдущей точки</source>
+        <translation>Distance from the previous point</translation>
+    </message>
+    <message id="orbf_017">
+        <source>Время в движении, с</source>
+        <translation>Time in motion, s</translation>
+    </message>
+    <message id="orbf_018">
+        <source>Секунд с предыдущей записи</source>
+        <translation>Seconds since the previous record</translation>
+    </message>
+    <message id="orbf_019">
+        <source>Напряжение питания</source>
+        <translation>Supply voltage</translation>
+    </message>
+    <message id="orbf_020">
+        <source>Напряжение резервного аккумулятора</source>
+        <translation>Backup battery voltage</translation>
+    </message>
+    <message id="orbf_021">
+        <source>Напряжение на аналоговом входе 1</source>
+        <translation>Analogue input 1 voltage</translation>
+    </message>
+    <message id="orbf_022">
+        <source>Напряжение на аналоговом входе 2</source>
+        <translation>Analogue input 2 voltage</translation>
+    </message>
+    <message id="orbf_023">
+        <source>Напряжение на аналоговом входе 3</source>
+        <translation>Analogue input 3 voltage</translation>
+    </message>
+    <message id="orbf_024">
+        <source>Напряжение на аналоговом входе 4</source>
+        <translation>Analogue input 4 voltage</translation>
+    </message>
+    <message id="orbf_025">
+        <source>Напряжение на аналоговом входе 5</source>
+        <translation>Analogue input 5 voltage</translation>
+    </message>
+    <message id="orbf_026">
+        <source>Напряжение на аналоговом входе 6</source>
+        <translation>Analogue input 6 voltage</translation>
+    </message>
+    <message id="orbf_027">
+        <source>Напряжение на аналоговом входе 7</source>
+        <translation>Analogue input 7 voltage</translation>
+    </message>
+    <message id="orbf_028">
+        <source>Напряжение на аналоговом входе 8</source>
+        <translation>Analogue input 8 voltage</translation>
+    </message>
+    <message id="orbf_029">
+        <source>Состояние входов 1–8</source>
+        <translation>Input states 1–8</translation>
+    </message>
+    <message id="orbf_030">
+        <source>Состояние входов 9–16</source>
+        <translation>Input states 9–16</translation>
+    </message>
+    <message id="orbf_031">
+        <source>Состояние выходов 1–8</source>
+        <translation>Output states 1–8</translation>
+    </message>
+    <message id="orbf_032">
+        <source>Состояние выходов 9–16</source>
+        <translation>Output states 9–16</translation>
+    </message>
+    <message id="orbf_033">
+        <source>Счётчик импульсов 1</source>
+        <translation>Pulse counter 1</translation>
+    </message>
+    <message id="orbf_034">
+        <source>Счётчик импульсов 2</source>
+        <translation>Pulse counter 2</translation>
+    </message>
+    <message id="orbf_035">
+        <source>Частота на входе 1</source>
+        <translation>Input 1 frequency</translation>
+    </message>
+    <message id="orbf_036">
+        <source>Частота на входе 2</source>
+        <translation>Input 2 frequency</translation>
+    </message>
+    <message id="orbf_037">
+        <source>Моточасы</source>
+        <translation>Engine hours</translation>
+    </message>
+    <message id="orbf_038">
+        <source>Уровень топлива ДУТ RS-485 1</source>
+        <translation>RS-485 fuel sensor 1 level</translation>
+    </message>
+    <message id="orbf_039">
+        <source>Уровень топлива ДУТ RS-485 2</source>
+        <translation>RS-485 fuel sensor 2 level</translation>
+    </message>
+    <message id="orbf_040">
+        <source>Уровень топлива ДУТ RS-485 3</source>
+        <translation>RS-485 fuel sensor 3 level</translation>
+    </message>
+    <message id="orbf_041">
+        <source>Уровень топлива ДУТ RS-485 4</source>
+        <translation>RS-485 fuel sensor 4 level</translation>
+    </message>
+    <message id="orbf_042">
+        <source>Уровень топлива ДУТ RS-485 5</source>
+        <translation>RS-485 fuel sensor 5 level</translation>
+    </message>
+    <message id="orbf_043">
+        <source>Уровень топлива ДУТ RS-485 6</source>
+        <translation>RS-485 fuel sensor 6 level</translation>
+    </message>
+    <message id="orbf_044">
+        <source>Уровень топлива ДУТ RS-232</source>
+        <translation>RS-232 fuel sensor level</translation>
+    </message>
+    <message id="orbf_045">
+        <source>Температура, датчик 1</source>
+        <translation>Temperature sensor 1</translation>
+    </message>
+    <message id="orbf_046">
+        <source>Температура, датчик 2</source>
+        <translation>Temperature sensor 2</translation>
+    </message>
+    <message id="orbf_047">
+        <source>Температура, датчик 3</source>
+        <translation>Temperature sensor 3</translation>
+    </message>
+    <message id="orbf_048">
+        <source>Температура, датчик 4</source>
+        <translation>Temperature sensor 4</translation>
+    </message>
+    <message id="orbf_049">
+        <source>Температура, датчик 5</source>
+        <translation>Temperature sensor 5</translation>
+    </message>
+    <message id="orbf_050">
+        <source>Температура, датчик 6</source>
+        <translation>Temperature sensor 6</translation>
+    </message>
+    <message id="orbf_051">
+        <source>Температура, датчик 7</source>
+        <translation>Temperature sensor 7</translation>
+    </message>
+    <message id="orbf_052">
+        <source>Температура, датчик 8</source>
+        <translation>Temperature sensor 8</translation>
+    </message>
+    <message id="orbf_053">
+        <source>CAN: уровень топлива</source>
+        <translation>CAN: fuel level</translation>
+    </message>
+    <message id="orbf_054">
+        <source>CAN: расход топлива</source>
+        <translation>CAN: fuel used</translation>
+    </message>
+    <message id="orbf_055">
+        <source>CAN: обороты двигателя</source>
+        <translation>CAN: engine speed</translation>
+    </message>
+    <message id="orbf_056">
+        <source>CAN: температура охлаждающей жидкости</source>
+        <translation>CAN: coolant temperature</translation>
+    </message>
+    <message id="orbf_057">
+        <source>CAN: полный пробег</source>
+        <translation>CAN: total mileage</translation>
+    </message>
+    <message id="orbf_058">
+        <source>CAN: нагрузка на ось 1</source>
+        <translation>CAN: axle 1 load</translation>
+    </message>
+    <message id="orbf_059">
+        <source>CAN: нагрузка на ось 2</source>
+        <translation>CAN: axle 2 load</translation>
+    </message>
+    <message id="orbf_060">
+        <source>CAN: нагрузка на ось 3</source>
+        <translation>CAN: axle 3 load</translation>
+    </message>
+    <message id="orbf_061">
+        <source>CAN: нагрузка на ось 4</source>
+        <translation>CAN: axle 4 load</translation>
+    </message>
+    <message id="orbf_062">
+        <source>CAN: нагрузка на ось 5</source>
+        <translation>CAN: axle 5 load</translation>
+    </message>
+    <message id="orbf_063">
+        <source>CAN: положение педали газа</source>
+        <translation>CAN: accelerator pedal</translation>
+    </message>
+    <message id="orbf_064">
+        <source>CAN: положение педали тормоза</source>
+        <translation>CAN: brake pedal</translation>
+    </message>
+    <message id="orbf_065">
+        <source>CAN: нагрузка двигателя</source>
+        <translation>CAN: engine load</translation>
+    </message>
+    <message id="orbf_066">
+        <source>CAN: уровень топлива после фильтра</source>
+        <translation>CAN: filtered fuel level</translation>
+    </message>
+    <message id="orbf_067">
+        <source>CAN: время работы двигателя</source>
+        <translation>CAN: engine running time</translation>
+    </message>
+    <message id="orbf_068">
+        <source>CAN: до технического обслуживания</source>
+        <translation>CAN: until service</translation>
+    </message>
+    <message id="orbf_069">
+        <source>CAN: скорость</source>
+        <translation>CAN: speed</translation>
+    </message>
+    <message id="orbf_070">
+        <source>Спутники по навигационным системам</source>
+        <translation>Satellites per navigation system</translation>
+    </message>
+    <message id="orbf_071">
+        <source>Точность (HDOP, PDOP)</source>
+        <translation>Precision (HDOP, PDOP)</translation>
+    </message>
+    <message id="orbf_072">
+        <source>Режим навигации и число спутников</source>
+        <translation>Fix mode and satellite count</translation>
+    </message>
+    <message id="orbf_073">
+        <source>Точные координаты приёмника</source>
+        <translation>Receiver&apos;s precise coordinates</translation>
+    </message>
+    <message id="orbf_074">
+        <source>Высота по приёмнику</source>
+        <translation>Receiver altitude</translation>
+    </message>
+    <message id="orbf_075">
+        <source>Курс по приёмнику</source>
+        <translation>Receiver course</translation>
+    </message>
+    <message id="orbf_076">
+        <source>Скорость по приёмнику</source>
+        <translation>Receiver speed</translation>
+    </message>
+    <message id="orbf_077">
+        <source>Базовые станции (LBS)</source>
+        <translation>Mobile cells (LBS)</translation>
+    </message>
+    <message id="orbf_078">
+        <source>Температура ДУТ RS-485 1</source>
+        <translation>RS-485 fuel sensor 1 temperature</translation>
+    </message>
+    <message id="orbf_079">
+        <source>Температура ДУТ RS-485 2</source>
+        <translation>RS-485 fuel sensor 2 temperature</translation>
+    </message>
+    <message id="orbf_080">
+        <source>Температура ДУТ RS-485 3</source>
+        <translation>RS-485 fuel sensor 3 temperature</translation>
+    </message>
+    <message id="orbf_081">
+        <source>Температура ДУТ RS-485 4</source>
+        <translation>RS-485 fuel sensor 4 temperature</translation>
+    </message>
+    <message id="orbf_082">
+        <source>Температура ДУТ RS-485 5</source>
+        <translation>RS-485 fuel sensor 5 temperature</translation>
+    </message>
+    <message id="orbf_083">
+        <source>Температура ДУТ RS-485 6</source>
+        <translation>RS-485 fuel sensor 6 temperature</translation>
+    </message>
+    <message id="orbf_084">
+        <source>ДУТ RS-485 7: уровень и температура</source>
+        <translation>RS-485 fuel sensor 7: level and temperature</translation>
+    </message>
+    <message id="orbf_085">
+        <source>ДУТ RS-485 8: уровень и температура</source>
+        <translation>RS-485 fuel sensor 8: level and temperature</translation>
+    </message>
+    <message id="orbf_086">
+        <source>ДУТ RS-485 9: уровень и температура</source>
+        <translation>RS-485 fuel sensor 9: level and temperature</translation>
+    </message>
+    <message id="orbf_087">
+        <source>ДУТ RS-485 10: уровень и температура</source>
+        <translation>RS-485 fuel sensor 10: level and temperature</translation>
+    </message>
+    <message id="orbf_088">
+        <source>ДУТ RS-485 11: уровень и температура</source>
+        <translation>RS-485 fuel sensor 11: level and temperature</translation>
+    </message>
+    <message id="orbf_089">
+        <source>ДУТ RS-485 12: уровень и температура</source>
+        <translation>RS-485 fuel sensor 12: level and temperature</translation>
+    </message>
+    <message id="orbf_090">
+        <source>ДУТ RS-485 13: уровень и температура</source>
+        <translation>RS-485 fuel sensor 13: level and temperature</translation>
+    </message>
+    <message id="orbf_091">
+        <source>ДУТ RS-485 14: уровень и температура</source>
+        <translation>RS-485 fuel sensor 14: level and temperature</translation>
+    </message>
+    <message id="orbf_092">
+        <source>ДУТ RS-485 15: уровень и температура</source>
+        <translation>RS-485 fuel sensor 15: level and temperature</translation>
+    </message>
+    <message id="orbf_093">
+        <source>ДУТ RS-485 16: уровень и температура</source>
+        <translation>RS-485 fuel sensor 16: level and temperature</translation>
+    </message>
+    <message id="orbf_094">
+        <source>Шины 1–2</source>
+        <translation>Tyres 1–2</translation>
+    </message>
+    <message id="orbf_095">
+        <source>Шины 3–6</source>
+        <translation>Tyres 3–6</translation>
+    </message>
+    <message id="orbf_096">
+        <source>Шины 7–14</source>
+        <translation>Tyres 7–14</translation>
+    </message>
+    <message id="orbf_097">
+        <source>Шины 15–30</source>
+        <translation>Tyres 15–30</translation>
+    </message>
+    <message id="orbf_098">
+        <source>Тахограф: состояние</source>
+        <translation>Tachograph: state</translation>
+    </message>
+    <message id="orbf_099">
+        <source>Тахограф: режим</source>
+        <translation>Tachograph: mode</translation>
+    </message>
+    <message id="orbf_100">
+        <source>Тахограф: флаги</source>
+        <translation>Tachograph: flags</translation>
+    </message>
+    <message id="orbf_101">
+        <source>Тахограф: скорость</source>
+        <translation>Tachograph: speed</translation>
+    </message>
+    <message id="orbf_102">
+        <source>Тахограф: одометр</source>
+        <translation>Tachograph: odometer</translation>
+    </message>
+    <message id="orbf_103">
+        <source>Тахограф: время</source>
+        <translation>Tachograph: time</translation>
+    </message>
+    <message id="orbf_104">
+        <source>Диспетчерское сообщение: текущее</source>
+        <translation>Dispatcher message: current</translation>
+    </message>
+    <message id="orbf_105">
+        <source>Диспетчерское сообщение: последний номер</source>
+        <translation>Dispatcher message: last number</translation>
+    </message>
+    <message id="orbf_106">
+        <source>Акселерометр: изменение ускорения</source>
+        <translation>Accelerometer: acceleration change</translation>
+    </message>
+    <message id="orbf_107">
+        <source>Акселерометр: ускорение по осям X, Y, Z</source>
+        <translation>Accelerometer: X, Y, Z acceleration</translation>
+    </message>
+    <message id="orbf_108">
+        <source>Акселерометр: модуль ускорения</source>
+        <translation>Accelerometer: acceleration magnitude</translation>
+    </message>
+    <message id="orbf_109">
+        <source>Акселерометр: углы наклона</source>
+        <translation>Accelerometer: tilt angles</translation>
+    </message>
+    <message id="orbf_110">
+        <source>Пассажиропоток, датчики 1–2</source>
+        <translation>Passenger counters 1–2</translation>
+    </message>
+    <message id="orbf_111">
+        <source>Пассажиропоток, датчики 3–4</source>
+        <translation>Passenger counters 3–4</translation>
+    </message>
+    <message id="orbf_112">
+        <source>Пассажиропоток, датчики 5–6</source>
+        <translation>Passenger counters 5–6</translation>
+    </message>
+    <message id="orbf_113">
+        <source>Пассажиропоток, датчики 7–8</source>
+        <translation>Passenger counters 7–8</translation>
+    </message>
+    <message id="orbf_114">
+        <source>Пассажиропоток, датчики 9–10</source>
+        <translation>Passenger counters 9–10</translation>
+    </message>
+    <message id="orbf_115">
+        <source>Пассажиропоток, датчики 11–12</source>
+        <translation>Passenger counters 11–12</translation>
+    </message>
+    <message id="orbf_116">
+        <source>Пассажиропоток, датчики 13–14</source>
+        <translation>Passenger counters 13–14</translation>
+    </message>
+    <message id="orbf_117">
+        <source>Пассажиропоток, датчики 15–16</source>
+        <translation>Passenger counters 15–16</translation>
+    </message>
+    <message id="orbf_118">
+        <source>Автоинформатор: состояние</source>
+        <translation>Route announcer: state</translation>
+    </message>
+    <message id="orbf_119">
+        <source>Автоинформатор: геозона</source>
+        <translation>Route announcer: geo-zone</translation>
+    </message>
+    <message id="orbf_120">
+        <source>Автоинформатор: остановка</source>
+        <translation>Route announcer: stop</translation>
+    </message>
+    <message id="orbf_121">
+        <source>Автоинформатор: маршрут</source>
+        <translation>Route announcer: route</translation>
+    </message>
+    <message id="orbf_122">
+        <source>Камера</source>
+        <translation>Camera</translation>
+    </message>
+    <message id="orbf_123">
+        <source>Состояние терминала 2</source>
+        <translation>Terminal state 2</translation>
+    </message>
+    <message id="orbf_124">
+        <source>Состояние модулей 3</source>
+        <translation>Module state 3</translation>
+    </message>
+    <message id="orbf_125">
+        <source>Состояние соединений</source>
+        <translation>Connection state</translation>
+    </message>
+    <message id="orbf_126">
+        <source>Состояние входов 17–24</source>
+        <translation>Input states 17–24</translation>
+    </message>
+    <message id="orbf_127">
+        <source>Счётчик импульсов 3</source>
+        <translation>Pulse counter 3</translation>
+    </message>
+    <message id="orbf_128">
+        <source>Счётчик импульсов 4</source>
+        <translation>Pulse counter 4</translation>
+    </message>
+    <message id="orbf_129">
+        <source>Счётчик импульсов 5</source>
+        <translation>Pulse counter 5</translation>
+    </message>
+    <message id="orbf_130">
+        <source>Счётчик импульсов 6</source>
+        <translation>Pulse counter 6</translation>
+    </message>
+    <message id="orbf_131">
+        <source>Счётчик импульсов 7</source>
+        <translation>Pulse counter 7</translation>
+    </message>
+    <message id="orbf_132">
+        <source>Счётчик импульсов 8</source>
+        <translation>Pulse counter 8</translation>
+    </message>
+    <message id="orbf_133">
+        <source>Частота на входе 3</source>
+        <translation>Input 3 frequency</translation>
+    </message>
+    <message id="orbf_134">
+        <source>Частота на входе 4</source>
+        <translation>Input 4 frequency</translation>
+    </message>
+    <message id="orbf_135">
+        <source>Частота на входе 5</source>
+        <translation>Input 5 frequency</translation>
+    </message>
+    <message id="orbf_136">
+        <source>Частота на входе 6</source>
+        <translation>Input 6 frequency</translation>
+    </message>
+    <message id="orbf_137">
+        <source>Частота на входе 7</source>
+        <translation>Input 7 frequency</translation>
+    </message>
+    <message id="orbf_138">
+        <source>Частота на входе 8</source>
+        <translation>Input 8 frequency</translation>
+    </message>
+    <message id="orbf_139">
+        <source>Акселерометр ТС: состояние</source>
+        <translation>Vehicle accelerometer: state</translation>
+    </message>
+    <message id="orbf_140">
+        <source>Акселерометр ТС: вертикальное ускорение</source>
+        <translation>Vehicle accelerometer: vertical</translation>
+    </message>
+    <message id="orbf_141">
+        <source>Акселерометр ТС: продольное и боковое</source>
+        <translation>Vehicle accelerometer: longitudinal and roll</translation>
+    </message>
+    <message id="orbf_142">
+        <source>Акселерометр ТС: оси X, Y, Z</source>
+        <translation>Vehicle accelerometer: X, Y, Z axes</translation>
+    </message>
+    <message id="orbf_143">
+        <source>Эко-вождение: максимальное ускорение</source>
+        <translation>Eco-driving: peak acceleration</translation>
+    </message>
+    <message id="orbf_144">
+        <source>Эко-вождение: максимальная скорость</source>
+        <translation>Eco-driving: peak speed</translation>
+    </message>
+    <message id="orbf_145">
+        <source>Эко-вождение: превышение скорости</source>
+        <translation>Eco-driving: speeding</translation>
+    </message>
+    <message id="orbf_146">
+        <source>Эко-вождение: события</source>
+        <translation>Eco-driving: events</translation>
+    </message>
+    <message id="orbf_147">
+        <source>Частота ДУТ RS-485 1</source>
+        <translation>RS-485 fuel sensor 1 frequency</translation>
+    </message>
+    <message id="orbf_148">
+        <source>Частота ДУТ RS-485 2</source>
+        <translation>RS-485 fuel sensor 2 frequency</translation>
+    </message>
+    <message id="orbf_149">
+        <source>Частота ДУТ RS-485 3</source>
+        <translation>RS-485 fuel sensor 3 frequency</translation>
+    </message>
+    <message id="orbf_150">
+        <source>Частота ДУТ RS-485 4</source>
+        <translation>RS-485 fuel sensor 4 frequency</translation>
+    </message>
+    <message id="orbf_151">
+        <source>Частота ДУТ RS-485 5</source>
+        <translation>RS-485 fuel sensor 5 frequency</translation>
+    </message>
+    <message id="orbf_152">
+        <source>Частота ДУТ RS-485 6</source>
+        <translation>RS-485 fuel sensor 6 frequency</translation>
+    </message>
+    <message id="orbf_153">
+        <source>Частота ДУТ RS-485 7</source>
+        <translation>RS-485 fuel sensor 7 frequency</translation>
+    </message>
+    <message id="orbf_154">
+        <source>Частота ДУТ RS-485 8</source>
+        <translation>RS-485 fuel sensor 8 frequency</translation>
+    </message>
+    <message id="orbf_155">
+        <source>Частота ДУТ RS-485 9</source>
+        <translation>RS-485 fuel sensor 9 frequency</translation>
+    </message>
+    <message id="orbf_156">
+        <source>Частота ДУТ RS-485 10</source>
+        <translation>RS-485 fuel sensor 10 frequency</translation>
+    </message>
+    <message id="orbf_157">
+        <source>Частота ДУТ RS-485 11</source>
+        <translation>RS-485 fuel sensor 11 frequency</translation>
+    </message>
+    <message id="orbf_158">
+        <source>Частота ДУТ RS-485 12</source>
+        <translation>RS-485 fuel sensor 12 frequency</translation>
+    </message>
+    <message id="orbf_159">
+        <source>Частота ДУТ RS-485 13</source>
+        <translation>RS-485 fuel sensor 13 frequency</translation>
+    </message>
+    <message id="orbf_160">
+        <source>Частота ДУТ RS-485 14</source>
+        <translation>RS-485 fuel sensor 14 frequency</translation>
+    </message>
+    <message id="orbf_161">
+        <source>Частота ДУТ RS-485 15</source>
+        <translation>RS-485 fuel sensor 15 frequency</translation>
+    </message>
+    <message id="orbf_162">
+        <source>Частота ДУТ RS-485 16</source>
+        <translation>RS-485 fuel sensor 16 frequency</translation>
+    </message>
+    <message id="orbf_163">
+        <source>Точная температура 1</source>
+        <translation>High-precision temperature 1</translation>
+    </message>
+    <message id="orbf_164">
+        <source>Точная температура 2</source>
+        <translation>High-precision temperature 2</translation>
+    </message>
+    <message id="orbf_165">
+        <source>Точная температура 3</source>
+        <translation>High-precision temperature 3</translation>
+    </message>
+    <message id="orbf_166">
+        <source>Точная температура 4</source>
+        <translation>High-precision temperature 4</translation>
+    </message>
+    <message id="orbf_167">
+        <source>Влажность 1</source>
+        <translation>Humidity 1</translation>
+    </message>
+    <message id="orbf_168">
+        <source>Влажность 2</source>
+        <translation>Humidity 2</translation>
+    </message>
+    <message id="orbf_169">
+        <source>Влажность 3</source>
+        <translation>Humidity 3</translation>
+    </message>
+    <message id="orbf_170">
+        <source>Влажность 4</source>
+        <translation>Humidity 4</translation>
+    </message>
+    <message id="orbf_171">
+        <source>Расходомер: состояние</source>
+        <translation>Flow meter: state</translation>
+    </message>
+    <message id="orbf_172">
+        <source>Расходомер: ошибки</source>
+        <translation>Flow meter: errors</translation>
+    </message>
+    <message id="orbf_173">
+        <source>Расходомер: общий расход</source>
+        <translation>Flow meter: total fuel</translation>
+    </message>
+    <message id="orbf_174">
+        <source>Расходомер: расход за поездку</source>
+        <translation>Flow meter: trip fuel</translation>
+    </message>
+    <message id="orbf_175">
+        <source>Расходомер: мгновенный расход</source>
+        <translation>Flow meter: current rate</translation>
+    </message>
+    <message id="orbf_176">
+        <source>Расходомер: объём подачи</source>
+        <translation>Flow meter: supply volume</translation>
+    </message>
+    <message id="orbf_177">
+        <source>Расходомер: скорость подачи</source>
+        <translation>Flow meter: supply rate</translation>
+    </message>
+    <message id="orbf_178">
+        <source>Расходомер: температура подачи</source>
+        <translation>Flow meter: supply temperature</translation>
+    </message>
+    <message id="orbf_179">
+        <source>Расходомер: объём обратки</source>
+        <translation>Flow meter: return volume</translation>
+    </message>
+    <message id="orbf_180">
+        <source>Расходомер: скорость обратки</source>
+        <translation>Flow meter: return rate</translation>
+    </message>
+    <message id="orbf_181">
+        <source>Расходомер: температура обратки</source>
+        <translation>Flow meter: return temperature</translation>
+    </message>
+    <message id="orbf_182">
+        <source>Рефрижератор: состояние</source>
+        <translation>Refrigerator: state</translation>
+    </message>
+    <message id="orbf_183">
+        <source>Рефрижератор: температура камеры 1</source>
+        <translation>Refrigerator: chamber 1 temperature</translation>
+    </message>
+    <message id="orbf_184">
+        <source>Рефрижератор: температура камеры 2</source>
+        <translation>Refrigerator: chamber 2 temperature</translation>
+    </message>
+    <message id="orbf_185">
+        <source>Рефрижератор: температура камеры 3</source>
+        <translation>Refrigerator: chamber 3 temperature</translation>
+    </message>
+    <message id="orbf_186">
+        <source>Рефрижератор: заданная температура камеры 1</source>
+        <translation>Refrigerator: chamber 1 set point</translation>
+    </message>
+    <message id="orbf_187">
+        <source>Рефрижератор: заданная температура камеры 2</source>
+        <translation>Refrigerator: chamber 2 set point</translation>
+    </message>
+    <message id="orbf_188">
+        <source>Рефрижератор: заданная температура камеры 3</source>
+        <translation>Refrigerator: chamber 3 set point</translation>
+    </message>
+    <message id="orbf_189">
+        <source>Рефрижератор: температура воздуха</source>
+        <translation>Refrigerator: air temperature</translation>
+    </message>
+    <message id="orbf_190">
+        <source>Рефрижератор: температура охлаждающей жидкости</source>
+        <translation>Refrigerator: coolant temperature</translation>
+    </message>
+    <message id="orbf_191">
+        <source>Рефрижератор: напряжение</source>
+        <translation>Refrigerator: voltage</translation>
+    </message>
+    <message id="orbf_192">
+        <source>Рефрижератор: ток</source>
+        <translation>Refrigerator: current</translation>
+    </message>
+    <message id="orbf_193">
+        <source>Рефрижератор: моточасы от двигателя</source>
+        <translation>Refrigerator: engine hours</translation>
+    </message>
+    <message id="orbf_194">
+        <source>Рефрижератор: моточасы от сети</source>
+        <translation>Refrigerator: mains hours</translation>
+    </message>
+    <message id="orbf_195">
+        <source>Рефрижератор: число ошибок и ошибка 1</source>
+        <translation>Refrigerator: error count and error 1</translation>
+    </message>
+    <message id="orbf_196">
+        <source>Рефрижератор: ошибки 2–3</source>
+        <translation>Refrigerator: errors 2–3</translation>
+    </message>
+    <message id="orbf_197">
+        <source>Рефрижератор: ошибки 4–6</source>
+        <translation>Refrigerator: errors 4–6</translation>
+    </message>
+    <message id="orbf_198">
+        <source>Рефрижератор: режим и обороты двигателя</source>
+        <translation>Refrigerator: engine mode and speed</translation>
+    </message>
+    <message id="orbf_199">
+        <source>Рефрижератор: компрессор</source>
+        <translation>Refrigerator: compressor</translation>
+    </message>
+    <message id="orbf_200">
+        <source>Миллисекунды времени</source>
+        <translation>Time milliseconds</translation>
+    </message>
+    <message id="orbf_201">
+        <source>CAN: состояние систем</source>
+        <translation>CAN: system state</translation>
+    </message>
+    <message id="orbf_202">
+        <source>CAN: событие</source>
+        <translation>CAN: event</translation>
+    </message>
+    <message id="orbf_203">
+        <source>CAN: аварии</source>
+        <translation>CAN: crash flags</translation>
+    </message>
+    <message id="orbf_204">
+        <source>CAN: неисправность (лампа, код)</source>
+        <translation>CAN: fault (lamp, code)</translation>
+    </message>
+    <message id="orbf_205">
+        <source>Моточасы под нагрузкой</source>
+        <translation>Engine hours under load</translation>
+    </message>
+    <message id="orbf_206">
+        <source>Моточасы без нагрузки</source>
+        <translation>Engine hours without load</translation>
+    </message>
+    <message id="orbf_207">
+        <source>Параметр пользователя 1 байт, №1</source>
+        <translation>User parameter, 1 byte, no. 1</translation>
+    </message>
+    <message id="orbf_208">
+        <source>Параметр пользователя 1 байт, №2</source>
+        <translation>User parameter, 1 byte, no. 2</translation>
+    </message>
+    <message id="orbf_209">
+        <source>Параметр пользователя 1 байт, №3</source>
+        <translation>User parameter, 1 byte, no. 3</translation>
+    </message>
+    <message id="orbf_210">
+        <source>Параметр пользователя 1 байт, №4</source>
+        <translation>User parameter, 1 byte, no. 4</translation>
+    </message>
+    <message id="orbf_211">
+        <source>Параметр пользователя 1 байт, №5</source>
+        <translation>User parameter, 1 byte, no. 5</translation>
+    </message>
+    <message id="orbf_212">
+        <source>Параметр пользователя 1 байт, №6</source>
+        <translation>User parameter, 1 byte, no. 6</translation>
+    </message>
+    <message id="orbf_213">
+        <source>Параметр пользователя 1 байт, №7</source>
+        <translation>User parameter, 1 byte, no. 7</translation>
+    </message>
+    <message id="orbf_214">
+        <source>Параметр пользователя 1 байт, №8</source>
+        <translation>User parameter, 1 byte, no. 8</translation>
+    </message>
+    <message id="orbf_215">
+        <source>Параметр пользователя 1 байт, №9</source>
+        <translation>User parameter, 1 byte, no. 9</translation>
+    </message>
+    <message id="orbf_216">
+        <source>Параметр пользователя 1 байт, №10</source>
+        <translation>User parameter, 1 byte, no. 10</translation>
+    </message>
+    <message id="orbf_217">
+        <source>Параметр пользователя 1 байт, №11</source>
+        <translation>User parameter, 1 byte, no. 11</translation>
+    </message>
+    <message id="orbf_218">
+        <source>Параметр пользователя 1 байт, №12</source>
+        <translation>User parameter, 1 byte, no. 12</translation>
+    </message>
+    <message id="orbf_219">
+        <source>Параметр пользователя 1 байт, №13</source>
+        <translation>User parameter, 1 byte, no. 13</translation>
+    </message>
+    <message id="orbf_220">
+        <source>Параметр пользователя 1 байт, №14</source>
+        <translation>User parameter, 1 byte, no. 14</translation>
+    </message>
+    <message id="orbf_221">
+        <source>Параметр пользователя 1 байт, №15</source>
+        <translation>User parameter, 1 byte, no. 15</translation>
+    </message>
+    <message id="orbf_222">
+        <source>Параметр пользователя 1 байт, №16</source>
+        <translation>User parameter, 1 byte, no. 16</translation>
+    </message>
+    <message id="orbf_223">
+        <source>Параметр пользователя 2 байта, №1</source>
+        <translation>User parameter, 2 bytes, no. 1</translation>
+    </message>
+    <message id="orbf_224">
+        <source>Параметр пользователя 2 байта, №2</source>
+        <translation>User parameter, 2 bytes, no. 2</translation>
+    </message>
+    <message id="orbf_225">
+        <source>Параметр пользователя 2 байта, №3</source>
+        <translation>User parameter, 2 bytes, no. 3</translation>
+    </message>
+    <message id="orbf_226">
+        <source>Параметр пользователя 2 байта, №4</source>
+        <translation>User parameter, 2 bytes, no. 4</translation>
+    </message>
+    <message id="orbf_227">
+        <source>Параметр пользователя 2 байта, №5</source>
+        <translation>User parameter, 2 bytes, no. 5</translation>
+    </message>
+    <message id="orbf_228">
+        <source>Параметр пользователя 2 байта, №6</source>
+        <translation>User parameter, 2 bytes, no. 6</translation>
+    </message>
+    <message id="orbf_229">
+        <source>Параметр пользователя 2 байта, №7</source>
+        <translation>User parameter, 2 bytes, no. 7</translation>
+    </message>
+    <message id="orbf_230">
+        <source>Параметр пользователя 2 байта, №8</source>
+        <translation>User parameter, 2 bytes, no. 8</translation>
+    </message>
+    <message id="orbf_231">
+        <source>Параметр пользователя 2 байта, №9</source>
+        <translation>User parameter, 2 bytes, no. 9</translation>
+    </message>
+    <message id="orbf_232">
+        <source>Параметр пользователя 2 байта, №10</source>
+        <translation>User parameter, 2 bytes, no. 10</translation>
+    </message>
+    <message id="orbf_233">
+        <source>Параметр пользователя 2 байта, №11</source>
+        <translation>User parameter, 2 bytes, no. 11</translation>
+    </message>
+    <message id="orbf_234">
+        <source>Параметр пользователя 2 байта, №12</source>
+        <translation>User parameter, 2 bytes, no. 12</translation>
+    </message>
+    <message id="orbf_235">
+        <source>Параметр пользователя 2 байта, №13</source>
+        <translation>User parameter, 2 bytes, no. 13</translation>
+    </message>
+    <message id="orbf_236">
+        <source>Параметр пользователя 2 байта, №14</source>
+        <translation>User parameter, 2 bytes, no. 14</translation>
+    </message>
+    <message id="orbf_237">
+        <source>Параметр пользователя 2 байта, №15</source>
+        <translation>User parameter, 2 bytes, no. 15</translation>
+    </message>
+    <message id="orbf_238">
+        <source>Параметр пользователя 4 байта, №1</source>
+        <translation>User parameter, 4 bytes, no. 1</translation>
+    </message>
+    <message id="orbf_239">
+        <source>Параметр пользователя 4 байта, №2</source>
+        <translation>User parameter, 4 bytes, no. 2</translation>
+    </message>
+    <message id="orbf_240">
+        <source>Параметр пользователя 4 байта, №3</source>
+        <translation>User parameter, 4 bytes, no. 3</translation>
+    </message>
+    <message id="orbf_241">
+        <source>Параметр пользователя 4 байта, №4</source>
+        <translation>User parameter, 4 bytes, no. 4</translation>
+    </message>
+    <message id="orbf_242">
+        <source>Параметр пользователя 4 байта, №5</source>
+        <translation>User parameter, 4 bytes, no. 5</translation>
+    </message>
+    <message id="orbf_243">
+        <source>Параметр пользователя 4 байта, №6</source>
+        <translation>User parameter, 4 bytes, no. 6</translation>
+    </message>
+    <message id="orbf_244">
+        <source>Параметр пользователя 4 байта, №7</source>
+        <translation>User parameter, 4 bytes, no. 7</translation>
+    </message>
+    <message id="orbf_245">
+        <source>Параметр пользователя 4 байта, №8</source>
+        <translation>User parameter, 4 bytes, no. 8</translation>
+    </message>
+    <message id="orbf_246">
+        <source>Параметр пользователя 4 байта, №9</source>
+        <translation>User parameter, 4 bytes, no. 9</translation>
+    </message>
+    <message id="orbf_247">
+        <source>Параметр пользователя 4 байта, №10</source>
+        <translation>User parameter, 4 bytes, no. 10</translation>
+    </message>
+    <message id="orbf_248">
+        <source>Параметр пользователя 4 байта, №11</source>
+        <translation>User parameter, 4 bytes, no. 11</translation>
+    </message>
+    <message id="orbf_249">
+        <source>Параметр пользователя 4 байта, №12</source>
+        <translation>User parameter, 4 bytes, no. 12</translation>
+    </message>
+    <message id="orbf_250">
+        <source>Параметр пользователя 4 байта, №13</source>
+        <translation>User parameter, 4 bytes, no. 13</translation>
+    </message>
+    <message id="orbf_251">
+        <source>Параметр пользователя 4 байта, №14</source>
+        <translation>User parameter, 4 bytes, no. 14</translation>
+    </message>
+    <message id="orbf_252">
+        <source>Параметр пользователя 4 байта, №15</source>
+        <translation>User parameter, 4 bytes, no. 15</translation>
+    </message>
+    <message id="orbf_253">
+        <source>Параметр пользователя 8 байт, №1</source>
+        <translation>User parameter, 8 bytes, no. 1</translation>
+    </message>
+    <message id="orbf_254">
+        <source>Параметр пользователя 8 байт, №2</source>
+        <translation>User parameter, 8 bytes, no. 2</translation>
+    </message>
+    <message id="orbf_255">
+        <source>Параметр пользователя 8 байт, №3</source>
+        <translation>User parameter, 8 bytes, no. 3</translation>
+    </message>
+    <message id="cfgo_001">
+        <source>Основные</source>
+        <translation>Main</translation>
+    </message>
+    <message id="cfgo_002">
+        <source>Навигация</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="cfgo_003">
+        <source>RS-232/485</source>
+        <translation>RS-232/485</translation>
+    </message>
+    <message id="cfgo_004">
+        <source>CAN</source>
+        <translation>CAN</translation>
+    </message>
+    <message id="cfgo_005">
+        <source>Тахограф</source>
+        <translation>Tachograph</translation>
+    </message>
+    <message id="cfgo_006">
+        <source>Дополнительно</source>
+        <translation>More</translation>
+    </message>
+    <message id="cfgo_007">
+        <source>Акселерометр</source>
+        <translation>Accelerometer</translation>
+    </message>
+    <message id="cfgo_008">
+        <source>Расходомер</source>
+        <translation>Flow meter</translation>
+    </message>
+    <message id="cfgo_009">
+        <source>Рефрижератор</source>
+        <translation>Refrigerator</translation>
+    </message>
+    <message id="cfgo_010">
+        <source>Пользовательские</source>
+        <translation>User</translation>
+    </message>
+    <message id="cfgo_015">
+        <source>Поле %1, размер в записи: %2 байт</source>
+        <translation>Field %1, %2 byte(s) in the record</translation>
+    </message>
+    <message id="cfgo_050">
+        <source>Запись и состояние терминала</source>
+        <translation>Record and terminal state</translation>
+    </message>
+    <message id="cfgo_051">
+        <source>Питание</source>
+        <translation>Power</translation>
+    </message>
+    <message id="cfgo_052">
+        <source>Аналоговые входы</source>
+        <translation>Analogue inputs</translation>
+    </message>
+    <message id="cfgo_053">
+        <source>Дискретные входы и выходы</source>
+        <translation>Discrete inputs and outputs</translation>
+    </message>
+    <message id="cfgo_054">
+        <source>Счётчики импульсов и частота</source>
+        <translation>Pulse counters and frequency</translation>
+    </message>
+    <message id="cfgo_055">
+        <source>Моточасы</source>
+        <translation>Engine hours</translation>
+    </message>
+    <message id="cfgo_056">
+        <source>Температура</source>
+        <translation>Temperature</translation>
+    </message>
+    <message id="cfgo_057">
+        <source>Координаты и движение</source>
+        <translation>Position and motion</translation>
+    </message>
+    <message id="cfgo_058">
+        <source>Навигационный приёмник</source>
+        <translation>Navigation receiver</translation>
+    </message>
+    <message id="cfgo_059">
+        <source>Базовые станции</source>
+        <translation>Mobile cells</translation>
+    </message>
+    <message id="cfgo_060">
+        <source>ДУТ RS-485 1–6 и RS-232</source>
+        <translation>RS-485 fuel sensors 1–6 and RS-232</translation>
+    </message>
+    <message id="cfgo_061">
+        <source>Температура ДУТ RS-485</source>
+        <translation>RS-485 fuel sensor temperature</translation>
+    </message>
+    <message id="cfgo_062">
+        <source>ДУТ RS-485 7–16</source>
+        <translation>RS-485 fuel sensors 7–16</translation>
+    </message>
+    <message id="cfgo_063">
+        <source>Частота ДУТ RS-485</source>
+        <translation>RS-485 fuel sensor frequency</translation>
+    </message>
+    <message id="cfgo_064">
+        <source>Данные шины CAN</source>
+        <translation>CAN bus data</translation>
+    </message>
+    <message id="cfgo_065">
+        <source>Состояние систем ТС по CAN</source>
+        <translation>Vehicle systems over CAN</translation>
+    </message>
+    <message id="cfgo_066">
+        <source>Данные тахографа</source>
+        <translation>Tachograph data</translation>
+    </message>
+    <message id="cfgo_021">
+        <source>Датчики давления в шинах</source>
+        <translation>Tyre pressure sensors</translation>
+    </message>
+    <message id="cfgo_067">
+        <source>Диспетчерские сообщения</source>
+        <translation>Dispatcher messages</translation>
+    </message>
+    <message id="cfgo_068">
+        <source>Пассажиропоток</source>
+        <translation>Passenger counters</translation>
+    </message>
+    <message id="cfgo_069">
+        <source>Автоинформатор</source>
+        <translation>Route announcer</translation>
+    </message>
+    <message id="cfgo_070">
+        <source>Камера и акселерометр ТС</source>
+        <translation>Camera and vehicle accelerometer</translation>
+    </message>
+    <message id="cfgo_071">
+        <source>Точная температура</source>
+        <translation>High-precision temperature</translation>
+    </message>
+    <message id="cfgo_072">
+        <source>Влажность</source>
+        <translation>Humidity</translation>
+    </message>
+    <message id="cfgo_022">
+        <source>Нет</source>
+        <translation>None</translation>
+    </message>
+    <message id="cfgo_028">
+        <source>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</source>
+        <translation>Fields 94–97: tyres 1–2, 3–6, 7–14 and 15–30</translation>
+    </message>
+    <message id="cfgo_073">
+        <source>Акселерометр терминала</source>
+        <translation>Terminal accelerometer</translation>
+    </message>
+    <message id="cfgo_074">
+        <source>Акселерометр ТС и эко-вождение</source>
+        <translation>Vehicle accelerometer and eco-driving</translation>
+    </message>
+    <message id="cfgo_075">
+        <source>Расходомер топлива</source>
+        <translation>Fuel flow meter</translation>
+    </message>
+    <message id="cfgo_076">
+        <source>Рефрижераторная установка</source>
+        <translation>Refrigerator unit</translation>
+    </message>
+    <message id="cfgo_077">
+        <source>Параметры 1 байт</source>
+        <translation>1-byte parameters</translation>
+    </message>
+    <message id="cfgo_078">
+        <source>Параметры 2 байта</source>
+        <translation>2-byte parameters</translation>
+    </message>
+    <message id="cfgo_079">
+        <source>Параметры 4 байта</source>
+        <translation>4-byte parameters</translation>
+    </message>
+    <message id="cfgo_080">
+        <source>Параметры 8 байт</source>
+        <translation>8-byte parameters</translation>
+    </message>
+    <message id="cfgo_023">
+        <source>Целое без знака</source>
+        <translation>Unsigned integer</translation>
+    </message>
+    <message id="cfgo_024">
+        <source>Целое со знаком</source>
+        <translation>Signed integer</translation>
+    </message>
+    <message id="cfgo_025">
+        <source>Шестнадцатеричное</source>
+        <translation>Hexadecimal</translation>
+    </message>
+    <message id="cfgo_026">
+        <source>С плавающей точкой</source>
+        <translation>Floating point</translation>
+    </message>
+    <message id="cfgo_027">
+        <source>Название параметра</source>
+        <translation>Parameter name</translation>
+    </message>
+    <message id="cfgo_014">
+        <source>Запись</source>
+        <translation>Record</translation>
+    </message>
+    <message id="cfgo_011">
+        <source>ORBA 1 (поля 1–69)</source>
+        <translation>ORBA 1 (fields 1–69)</translation>
+    </message>
+    <message id="cfgo_012">
+        <source>ORBA 2 (поля 1–122)</source>
+        <translation>ORBA 2 (fields 1–122)</translation>
+    </message>
+    <message id="cfgo_013">
+        <source>ORBA 3 (поля 1–255)</source>
+        <translation>ORBA 3 (fields 1–255)</translation>
+    </message>
+    <message id="cfgo_017">
+        <source>По вкладкам, байт: %1</source>
+        <translation>By tab, bytes: %1</translation>
+    </message>
+    <message id="cfgo_016">
+        <source>Запись занимает %1 байт, больше допустимых %2: терминал не сможет сохранять такие записи. Снимите
+</source>
+        <translation>The record takes %1 bytes, more than the %2 the terminal can store: it would not keep such records. Untick some fields; user parameters stay locked until then.</translation>
+    </message>
+    <message id="cfgo_019">
+        <source>Файл %1 не является конфигурацией с набором полей записи.</source>
+        <translation>The file %1 is not a configuration with a record field set.</translation>
+    </message>
+    <message id="cfgo_018">
+        <source>Набор полей из файла конфигурации</source>
+        <translation>Record field set from a configuration file</translation>
+    </message>
+    <message id="cfgo_020">
+        <source>Файлы конфигурации (*.xml);;Все файлы (*)</source>
+        <translation>Configuration files (*.xml);;All files (*)</translation>
+    </message>
+    <message id="cfgo_029">
+        <source>Ошибка</source>
+        <translation>Error</translation>
+    </message>
+    <message id="cfgo_030">
+        <source></source>
+        <translation>Protocol generation:</translation>
+    </message>
+    <message id="cfgo_031">
+        <source></source>
+        <translation>Which fields the terminal can record: ORBA 1 fields 1–69, ORBA 2 1–122, ORBA 3 1–255</translation>
+    </message>
+    <message id="cfgo_032">
+        <source></source>
+        <translation>Record size, bytes:</translation>
+    </message>
+    <message id="cfgo_033">
+        <source></source>
+        <translation>Sum of the ticked fields&apos; sizes; at most 512 bytes</translation>
+    </message>
+    <message id="cfgo_034">
+        <source></source>
+        <translation>Find a field by name on all tabs</translation>
+    </message>
+    <message id="cfgo_035">
+        <source></source>
+        <translation>Find a field…</translation>
+    </message>
+    <message id="cfgo_036">
+        <source></source>
+        <translation>Ticked only</translation>
+    </message>
+    <message id="cfgo_037">
+        <source></source>
+        <translation>Field sets:</translation>
+    </message>
+    <message id="cfgo_038">
+        <source></source>
+        <translation>Default</translation>
+    </message>
+    <message id="cfgo_039">
+        <source></source>
+        <translation>The fields the terminal records by default</translation>
+    </message>
+    <message id="cfgo_040">
+        <source></source>
+        <translation>Navigation only</translation>
+    </message>
+    <message id="cfgo_041">
+        <source></source>
+        <translation>Number, event, time, position, altitude, speed, course and mileage</translation>
+    </message>
+    <message id="cfgo_042">
+        <source></source>
+        <translation>From a file…</translation>
+    </message>
+    <message id="cfgo_043">
+        <source></source>
+        <translation>Take the field set from another configuration file</translation>
+    </message>
+    <message id="cmpc_001">
+        <source>Сравнение конфигураций</source>
+        <translation>Compare configurations</translation>
+    </message>
+    <message id="cmpc_002">
+        <source>Раздел / узел</source>
+        <translation>Section / node</translation>
+    </message>
+    <message id="cmpc_003">
+        <source>Ключ</source>
+        <translation>Key</translation>
+    </message>
+    <message id="cmpc_004">
+        <source>Название</source>
+        <translation>Name</translation>
+    </message>
+    <message id="cmpc_005">
+        <source>В редакторе</source>
+        <translation>In the editor</translation>
+    </message>
+    <message id="cmpc_006">
+        <source>В другой</source>
+        <translation>In the other</translation>
+    </message>
+    <message id="cmpc_007">
+        <source>Сравнение с: %1</source>
+        <translation>Compared with: %1</translation>
+    </message>
+    <message id="cmpc_008">
+        <source></source>
+        <translation>No differences.</translation>
+    </message>
+    <message id="cmpc_009">
+        <source></source>
+        <translation>Differences: %1</translation>
+    </message>
+    <message id="cmpc_010">
+        <source>(нет)</source>
+        <translation>(none)</translation>
+    </message>
+    <message id="cmpc_011">
+        <source>(корень)</source>
+        <translation>(root)</translation>
+    </message>
+    <message id="cfgx_002">
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</source>
+        <translation>Terminal settings this editor has no page for. They are kept and written to the terminal unchanged; values can be edited (double-click a row).</translation>
+    </message>
+    <message id="cfgx_003">
+        <source>Фильтр:</source>
+        <translation>Filter:</translation>
+    </message>
+    <message id="cfgx_004">
+        <source>Показать только узлы, ключи и значения, содержащие этот текст</source>
+        <translation>Show only the nodes, keys and values containing this text</translation>
+    </message>
+    <message id="cfgx_005">
+        <source>Разделы конфигурации, которые терминал прислал сверх страниц редактора</source>
+        <translation>Configuration sections the terminal sent beyond the editor&apos;s pages</translation>
+    </message>
+    <message id="cfgx_006">
+        <source>Узел</source>
+        <translation>Node</translation>
+    </message>
+    <message id="cfgx_007">
+        <source>Ключ</source>
+        <translation>Key</translation>
+    </message>
+    <message id="cfgx_008">
+        <source>Значение</source>
+        <translation>Value</translation>
+    </message>
+    <message id="cfgx_001">
+        <source>Прочие настройки</source>
+        <translation>Other settings</translation>
+    </message>
+    <message id="wcfg_002">
+        <source>Новая</source>
+        <translation>New</translation>
+    </message>
+    <message id="wcfg_003">
+        <source>Новая конфигурация со значениями по умолчанию</source>
+        <translation>A new configuration with default values</translation>
+    </message>
+    <message id="wcfg_004">
+        <source>Открыть...</source>
+        <translation>Open...</translation>
+    </message>
+    <message id="wcfg_005">
+        <source>Открыть файл конфигурации</source>
+        <translation>Open a configuration file</translation>
+    </message>
+    <message id="wcfg_006">
+        <source>Сохранить</source>
+        <translation>Save</translation>
+    </message>
+    <message id="wcfg_007">
+        <source>Сохранить конфигурацию в её файл</source>
+        <translation>Save the configuration to its file</translation>
+    </message>
+    <message id="wcfg_008">
+        <source>Сохранить как...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message id="wcfg_009">
+        <source>Сохранить конфигурацию в другой файл</source>
+        <translation>Save the configuration to another file</translation>
+    </message>
+    <message id="wcfg_010">
+        <source>Прочитать из терминала</source>
+        <translation>Read from terminal</translation>
+    </message>
+    <message id="wcfg_011">
+        <source>Прочитать конфигурацию из подключённого терминала</source>
+        <translation>Read the configuration from the connected terminal</translation>
+    </message>
+    <message id="wcfg_012">
+        <source>Записать в терминал</source>
+        <translation>Write to terminal</translation>
+    </message>
+    <message id="wcfg_013">
+        <source>Записать конфигурацию в подключённый терминал</source>
+        <translation>Write the configuration to the connected terminal</translation>
+    </message>
+    <message id="wcfg_014">
+        <source>По умолчанию</source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="wcfg_015">
+        <source>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</source>
+        <translation>Reset the pages&apos; settings to their defaults; the terminal&apos;s other settings stay</translation>
+    </message>
+    <message id="wcfg_016">
+        <source>Сравнить</source>
+        <translation>Compare</translation>
+    </message>
+    <message id="wcfg_017">
+        <source>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</source>
+        <translation>Compare the configuration with a file or with the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_019">
+        <source>Переключить полный и простой редактор</source>
+        <translation>Switch between the full and the simple editor</translation>
+    </message>
+    <message id="wcfg_030">
+        <source></source>
+        <translation>the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_020">
+        <source>С файлом...</source>
+        <translation>With a file...</translation>
+    </message>
+    <message id="wcfg_021">
+        <source>С последней прочитанной из терминала</source>
+        <translation>With the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_022">
+        <source>строка %1, столбец %2: %3</source>
+        <translation>line %1, column %2: %3</translation>
+    </message>
+    <message id="wcfg_023">
+        <source>файл не найден</source>
+        <translation>file not found</translation>
+    </message>
+    <message id="wcfg_024">
+        <source>файл пуст</source>
+        <translation>the file is empty</translation>
+    </message>
+    <message id="wcfg_025">
+        <source>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</source>
+        <translation>not a terminal configuration (no «DEVICE» root element)</translation>
+    </message>
+    <message id="wcfg_026">
+        <source>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</source>
+        <translation>Cannot open the configuration file «%1»:
+%2.
+
+The editor keeps the configuration it had.</translation>
+    </message>
+    <message id="wcfg_027">
+        <source>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</source>
+        <translation>Cannot write the file «%1»:
+%2.
+
+The old file is unchanged.</translation>
+    </message>
+    <message id="wcfg_028">
+        <source>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</source>
+        <translation>No configuration has been read from the terminal yet: nothing to compare with.</translation>
+    </message>
+    <message id="wcfg_018">
+        <source>Простой редактор</source>
+        <translation>Simple editor</translation>
+    </message>
+    <message id="wcfg_029">
+        <source>Полный редактор</source>
+        <translation>Full editor</translation>
+    </message>
+    <message id="wcfg_031">
+        <source>Конфигурация изменена. Сохранить изменения?</source>
+        <translation>The configuration has changed. Save the changes?</translation>
+    </message>
+    <message id="wcfg_032">
+        <source>Сохранить</source>
+        <translation>Save</translation>
+    </message>
+    <message id="wcfg_033">
+        <source>Не сохранять</source>
+        <translation>Don&apos;t save</translation>
+    </message>
+    <message id="wcfg_034">
+        <source>Отмена</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="wcfg_035">
+        <source>Файлы конфигурации (*.xml)</source>
+        <translation>Configuration files (*.xml)</translation>
+    </message>
+    <message id="cfgl_001">
+        <source>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</source>
+        <translation>The main track settings. The rest of the configuration is kept unchanged.</translation>
+    </message>
+    <message id="cfgl_002">
+        <source>Период записи в движении, с:</source>
+        <translation>Period while moving, s:</translation>
+    </message>
+    <message id="cfgl_003">
+        <source>Интервал между точками трека в движении, от 0 до 99999 с</source>
+        <translation>Interval between track points while moving, 0 to 99999 s</translation>
+    </message>
+    <message id="cfgl_004">
+        <source>Дистанция, м:</source>
+        <translation>Distance, m:</translation>
+    </message>
+    <message id="cfgl_005">
+        <source>Точка трека через каждые N метров, от 1 до 10000 м</source>
+        <translation>A track point every N metres, 1 to 10000 m</translation>
+    </message>
+    <message id="cfgl_006">
+        <source>Угол поворота, °:</source>
+        <translation>Turn angle, °:</translation>
+    </message>
+    <message id="cfgl_007">
+        <source>Точка трека при повороте на этот угол, от 1 до 90°</source>
+        <translation>A track point on a turn by this angle, 1 to 90°</translation>
+    </message>
+    <message id="cfgl_008">
+        <source>Период записи на стоянке, с:</source>
+        <translation>Period while stopped, s:</translation>
+    </message>
+    <message id="cfgl_009">
+        <source>Интервал между точками трека на стоянке, от 0 до 99999 с</source>
+        <translation>Interval between track points while stopped, 0 to 99999 s</translation>
+    </message>
+    <message id="cfgl_010">
+        <source>Поколение протокола:</source>
+        <translation>Protocol generation:</translation>
+    </message>
+    <message id="cfgl_011">
+        <source>Формат записей телеметрии ORBA: 1, 2 или 3</source>
+        <translation>ORBA telemetry record format: 1, 2 or 3</translation>
+    </message>
+    <message id="cfgl_012">
+        <source>ORBA 1</source>
+        <translation>ORBA 1</translation>
+    </message>
+    <message id="cfgl_013">
+        <source>ORBA 2</source>
+        <translation>ORBA 2</translation>
+    </message>
+    <message id="cfgl_014">
+        <source>ORBA 3</source>
+        <translation>ORBA 3</translation>
+    </message>
 </context>
 </TS>

@@ -843,5 +843,2023 @@
         <source>Номер зоны остановки: от 1 до 65535</source>
         <translation>Номер зоны остановки: от 1 до 65535</translation>
     </message>
+    <message id="cfgt3_007">
+        <source>Ставить точки только в движении (правило старт/стоп)</source>
+        <translation>Ставить точки только в движении (правило старт/стоп)</translation>
+    </message>
+    <message id="cfgt3_008">
+        <source>Ставить точку при превышении скорости</source>
+        <translation>Ставить точку при превышении скорости</translation>
+    </message>
+    <message id="cfgt3_009">
+        <source>Порог скорости, км/ч</source>
+        <translation>Порог скорости, км/ч</translation>
+    </message>
+    <message id="cfgt3_010">
+        <source>Правило поворота</source>
+        <translation>Правило поворота</translation>
+    </message>
+    <message id="cfgt3_013">
+        <source>Угол поворота, °</source>
+        <translation>Угол поворота, °</translation>
+    </message>
+    <message id="cfgt3_014">
+        <source>Ставить точку по расстоянию, м</source>
+        <translation>Ставить точку по расстоянию, м</translation>
+    </message>
+    <message id="cfgt3_015">
+        <source>Расстояние, м</source>
+        <translation>Расстояние, м</translation>
+    </message>
+    <message id="cfgt3_016">
+        <source>Ставить точку по таймеру в движении, с</source>
+        <translation>Ставить точку по таймеру в движении, с</translation>
+    </message>
+    <message id="cfgt3_017">
+        <source>Таймер в движении, с</source>
+        <translation>Таймер в движении, с</translation>
+    </message>
+    <message id="cfgt3_018">
+        <source>Признаки движения для таймера</source>
+        <translation>Признаки движения для таймера</translation>
+    </message>
+    <message id="cfgt3_023">
+        <source>Таймер на стоянке, с</source>
+        <translation>Таймер на стоянке, с</translation>
+    </message>
+    <message id="cfgt3_025">
+        <source>Не ставить точки ближе, м</source>
+        <translation>Не ставить точки ближе, м</translation>
+    </message>
+    <message id="cfgt3_026">
+        <source>Минимальное расстояние между точками, м</source>
+        <translation>Минимальное расстояние между точками, м</translation>
+    </message>
+    <message id="cfgt3_027">
+        <source>Не ставить точки чаще, с</source>
+        <translation>Не ставить точки чаще, с</translation>
+    </message>
+    <message id="cfgt3_028">
+        <source>Минимальный интервал между точками, с</source>
+        <translation>Минимальный интервал между точками, с</translation>
+    </message>
+    <message id="cfgt3_029">
+        <source>Фильтр координат</source>
+        <translation>Фильтр координат</translation>
+    </message>
+    <message id="cfgt3_031">
+        <source>Минимум спутников</source>
+        <translation>Минимум спутников</translation>
+    </message>
+    <message id="cfgt3_032">
+        <source>Максимальный HDOP</source>
+        <translation>Максимальный HDOP</translation>
+    </message>
+    <message id="cfgt3_033">
+        <source>Максимальная скорость, км/ч</source>
+        <translation>Максимальная скорость, км/ч</translation>
+    </message>
+    <message id="cfgt3_034">
+        <source>Максимальное ускорение</source>
+        <translation>Максимальное ускорение</translation>
+    </message>
+    <message id="cfgt3_035">
+        <source>Максимальный скачок, м</source>
+        <translation>Максимальный скачок, м</translation>
+    </message>
+    <message id="cfgt3_036">
+        <source>Отбраковок подряд, не более</source>
+        <translation>Отбраковок подряд, не более</translation>
+    </message>
+    <message id="cfgt3_037">
+        <source>Минимальная высота, м</source>
+        <translation>Минимальная высота, м</translation>
+    </message>
+    <message id="cfgt3_038">
+        <source>Максимальная высота, м</source>
+        <translation>Максимальная высота, м</translation>
+    </message>
+    <message id="cfgt3_039">
+        <source>Расхождение с временем сети, с</source>
+        <translation>Расхождение с временем сети, с</translation>
+    </message>
+    <message id="cfgt3_040">
+        <source>Координаты на стоянке</source>
+        <translation>Координаты на стоянке</translation>
+    </message>
+    <message id="cfgt3_044">
+        <source>Признаки стоянки</source>
+        <translation>Признаки стоянки</translation>
+    </message>
+    <message id="cfgt3_051">
+        <source>Режим стоянки</source>
+        <translation>Режим стоянки</translation>
+    </message>
+    <message id="cfgt3_056">
+        <source>Время до стоянки, с</source>
+        <translation>Время до стоянки, с</translation>
+    </message>
+    <message id="cfgt3_057">
+        <source>Спутниковые системы</source>
+        <translation>Спутниковые системы</translation>
+    </message>
+    <message id="cfgt3_058">
+        <source>Помощь A-GPS</source>
+        <translation>Помощь A-GPS</translation>
+    </message>
+    <message id="cfgt3_059">
+        <source>Прогноз орбит (EPO)</source>
+        <translation>Прогноз орбит (EPO)</translation>
+    </message>
+    <message id="cfgt3_060">
+        <source>Маска возвышения спутников, °</source>
+        <translation>Маска возвышения спутников, °</translation>
+    </message>
+    <message id="cfgt3_061">
+        <source>Система координат</source>
+        <translation>Система координат</translation>
+    </message>
+    <message id="cfgt3_064">
+        <source>Приёмник</source>
+        <translation>Приёмник</translation>
+    </message>
+    <message id="cfgt3_067">
+        <source>Таймер холодного рестарта приёмника</source>
+        <translation>Таймер холодного рестарта приёмника</translation>
+    </message>
+    <message id="cfgt3_071">
+        <source>Период в движении, с</source>
+        <translation>Период в движении, с</translation>
+    </message>
+    <message id="cfgt3_072">
+        <source>Признаки движения</source>
+        <translation>Признаки движения</translation>
+    </message>
+    <message id="cfgt3_073">
+        <source>Период на стоянке, с (0 — выключено)</source>
+        <translation>Период на стоянке, с (0 — выключено)</translation>
+    </message>
+    <message id="cfgt3_070">
+        <source>Источники</source>
+        <translation>Источники</translation>
+    </message>
+    <message id="cfgt3_069">
+        <source>Позиционирование для телеметрии</source>
+        <translation>Позиционирование для телеметрии</translation>
+    </message>
+    <message id="cfgt3_074">
+        <source>Сервис локации</source>
+        <translation>Сервис локации</translation>
+    </message>
+    <message id="cfgt3_075">
+        <source>Ключ доступа</source>
+        <translation>Ключ доступа</translation>
+    </message>
+    <message id="cfgt3_076">
+        <source>Условие</source>
+        <translation>Условие</translation>
+    </message>
+    <message id="cfgt3_077">
+        <source>Добавлять в телеметрию</source>
+        <translation>Добавлять в телеметрию</translation>
+    </message>
+    <message id="cfgt3_078">
+        <source>Фильтр координат локатора</source>
+        <translation>Фильтр координат локатора</translation>
+    </message>
+    <message id="cfgt3_079">
+        <source>Предельная скорость, км/ч</source>
+        <translation>Предельная скорость, км/ч</translation>
+    </message>
+    <message id="cfgt3_080">
+        <source>Отбраковок подряд до принятия</source>
+        <translation>Отбраковок подряд до принятия</translation>
+    </message>
+    <message id="cfgt3_081">
+        <source>Записывать отбракованные координаты</source>
+        <translation>Записывать отбракованные координаты</translation>
+    </message>
+    <message id="cfgt3_082">
+        <source>Перепроверять по Wi-Fi</source>
+        <translation>Перепроверять по Wi-Fi</translation>
+    </message>
+    <message id="cfgt3_083">
+        <source>Перепроверять по GNSS</source>
+        <translation>Перепроверять по GNSS</translation>
+    </message>
+    <message id="cfgt3_084">
+        <source>Фильтр точек доступа</source>
+        <translation>Фильтр точек доступа</translation>
+    </message>
+    <message id="cfgt3_085">
+        <source>Минимальный уровень точки доступа, дБм</source>
+        <translation>Минимальный уровень точки доступа, дБм</translation>
+    </message>
+    <message id="cfgt3_087">
+        <source>Чёрный список, строка %1</source>
+        <translation>Чёрный список, строка %1</translation>
+    </message>
+    <message id="cfgt3_065">
+        <source>При отсутствии координат GNSS</source>
+        <translation>При отсутствии координат GNSS</translation>
+    </message>
+    <message id="cfgt3_066">
+        <source>Всегда</source>
+        <translation>Всегда</translation>
+    </message>
+    <message id="cfgt3_001">
+        <source>Трек</source>
+        <translation>Трек</translation>
+    </message>
+    <message id="cfgt3_100">
+        <source>Диапазон: %1..%2</source>
+        <translation>Диапазон: %1..%2</translation>
+    </message>
+    <message id="cfgt3_102">
+        <source>Диапазон: %1..%2; 0 — выключено</source>
+        <translation>Диапазон: %1..%2; 0 — выключено</translation>
+    </message>
+    <message id="cfgt3_101">
+        <source></source>
+        <translation>Когда ставить точку</translation>
+    </message>
+    <message id="cfgt3_011">
+        <source></source>
+        <translation>По углу поворота, °</translation>
+    </message>
+    <message id="cfgt3_012">
+        <source></source>
+        <translation>По изменению направления</translation>
+    </message>
+    <message id="cfgt3_019">
+        <source></source>
+        <translation>Вход 1</translation>
+    </message>
+    <message id="cfgt3_020">
+        <source></source>
+        <translation>Зажигание</translation>
+    </message>
+    <message id="cfgt3_021">
+        <source></source>
+        <translation>Тахометр</translation>
+    </message>
+    <message id="cfgt3_022">
+        <source></source>
+        <translation>Датчик вибрации</translation>
+    </message>
+    <message id="cfgt3_024">
+        <source></source>
+        <translation>Ограничение частоты точек</translation>
+    </message>
+    <message id="cfgt3_002">
+        <source></source>
+        <translation>Точки трека</translation>
+    </message>
+    <message id="cfgt3_030">
+        <source></source>
+        <translation>Отбраковка координат</translation>
+    </message>
+    <message id="cfgt3_041">
+        <source></source>
+        <translation>Не усреднять</translation>
+    </message>
+    <message id="cfgt3_042">
+        <source></source>
+        <translation>Усреднять</translation>
+    </message>
+    <message id="cfgt3_043">
+        <source></source>
+        <translation>Фиксировать точку</translation>
+    </message>
+    <message id="cfgt3_049">
+        <source></source>
+        <translation>Акселерометр</translation>
+    </message>
+    <message id="cfgt3_050">
+        <source></source>
+        <translation>Акселерометр (SH5)</translation>
+    </message>
+    <message id="cfgt3_003">
+        <source></source>
+        <translation>Фильтрация</translation>
+    </message>
+    <message id="cfgt3_104">
+        <source></source>
+        <translation>Стоянка</translation>
+    </message>
+    <message id="cfgt3_052">
+        <source></source>
+        <translation>По датчику движения</translation>
+    </message>
+    <message id="cfgt3_053">
+        <source></source>
+        <translation>По настройкам акселерометра</translation>
+    </message>
+    <message id="cfgt3_054">
+        <source></source>
+        <translation>Акселерометр…</translation>
+    </message>
+    <message id="cfgt3_055">
+        <source></source>
+        <translation>Стоянка определяется акселерометром</translation>
+    </message>
+    <message id="cfgt3_103">
+        <source></source>
+        <translation>Приёмник GNSS</translation>
+    </message>
+    <message id="cfgt3_062">
+        <source></source>
+        <translation>WGS-84 (мировая)</translation>
+    </message>
+    <message id="cfgt3_063">
+        <source></source>
+        <translation>ПЗ-90</translation>
+    </message>
+    <message id="cfgt3_068">
+        <source></source>
+        <translation>Помощь приёмнику</translation>
+    </message>
+    <message id="cfgt3_098">
+        <source></source>
+        <translation>Встроенный</translation>
+    </message>
+    <message id="cfgt3_099">
+        <source></source>
+        <translation>Внешний</translation>
+    </message>
+    <message id="cfgt3_004">
+        <source></source>
+        <translation>Приёмник и стоянка</translation>
+    </message>
+    <message id="cfgt3_107">
+        <source></source>
+        <translation>Использовать</translation>
+    </message>
+    <message id="cfgt3_095">
+        <source></source>
+        <translation>Нет</translation>
+    </message>
+    <message id="cfgt3_096">
+        <source></source>
+        <translation>Координаты</translation>
+    </message>
+    <message id="cfgt3_097">
+        <source></source>
+        <translation>Координаты и точки доступа</translation>
+    </message>
+    <message id="cfgt3_086">
+        <source></source>
+        <translation>Чёрный список…</translation>
+    </message>
+    <message id="cfgt3_005">
+        <source></source>
+        <translation>Локатор</translation>
+    </message>
+    <message id="cfgt3_088">
+        <source></source>
+        <translation>Точки доступа Wi-Fi</translation>
+    </message>
+    <message id="cfgt3_090">
+        <source></source>
+        <translation>Модуль Wi-Fi…</translation>
+    </message>
+    <message id="cfgt3_089">
+        <source></source>
+        <translation>Сотовые станции (LBS)</translation>
+    </message>
+    <message id="cfgt3_093">
+        <source></source>
+        <translation>Чёрный список точек доступа</translation>
+    </message>
+    <message id="cfgt3_094">
+        <source></source>
+        <translation>Имя точки доступа</translation>
+    </message>
+    <message id="cfgt3_106">
+        <source></source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message id="cfgt3_105">
+        <source></source>
+        <translation>Закрыть</translation>
+    </message>
+    <message id="cfgt3_091">
+        <source></source>
+        <translation>На стоянке</translation>
+    </message>
+    <message id="cfgt3_047">
+        <source>GPS + ГЛОНАСС</source>
+        <translation>GPS + ГЛОНАСС</translation>
+    </message>
+    <message id="cfgt3_048">
+        <source>GPS и BeiDou</source>
+        <translation>GPS и BeiDou</translation>
+    </message>
+    <message id="cfgt3_045">
+        <source>Только GPS</source>
+        <translation>Только GPS</translation>
+    </message>
+    <message id="cfgt3_046">
+        <source>ГЛОНАСС</source>
+        <translation>ГЛОНАСС</translation>
+    </message>
+    <message id="orbf_001">
+        <source>Номер записи</source>
+        <translation>Номер записи</translation>
+    </message>
+    <message id="orbf_002">
+        <source>Код события</source>
+        <translation>Код события</translation>
+    </message>
+    <message id="orbf_003">
+        <source>Время</source>
+        <translation>Время</translation>
+    </message>
+    <message id="orbf_004">
+        <source>Состояние терминала</source>
+        <translation>Состояние терминала</translation>
+    </message>
+    <message id="orbf_005">
+        <source>Состояние модулей 1</source>
+        <translation>Состояние модулей 1</translation>
+    </message>
+    <message id="orbf_006">
+        <source>Состояние модулей 2</source>
+        <translation>Состояние модулей 2</translation>
+    </message>
+    <message id="orbf_007">
+        <source>Уровень сигнала GSM</source>
+        <translation>Уровень сигнала GSM</translation>
+    </message>
+    <message id="orbf_008">
+        <source>Состояние навигации</source>
+        <translation>Состояние навигации</translation>
+    </message>
+    <message id="orbf_009">
+        <source>Время последних достоверных координат</source>
+        <translation>Время последних достоверных координат</translation>
+    </message>
+    <message id="orbf_010">
+        <source>Широта</source>
+        <translation>Широта</translation>
+    </message>
+    <message id="orbf_011">
+        <source>Долгота</source>
+        <translation>Долгота</translation>
+    </message>
+    <message id="orbf_012">
+        <source>Высота</source>
+        <translation>Высота</translation>
+    </message>
+    <message id="orbf_013">
+        <source>Скорость</source>
+        <translation>Скорость</translation>
+    </message>
+    <message id="orbf_014">
+        <source>Курс</source>
+        <translation>Курс</translation>
+    </message>
+    <message id="orbf_015">
+        <source>Пробег</source>
+        <translation>Пробег</translation>
+    </message>
+    <message id="orbf_016">
+        <source>Расстояние от предыдущей точки</source>
+        <translation>Расстояние от предыдущей точки</translation>
+    </message>
+    <message id="orbf_017">
+        <source>Время в движении, с</source>
+        <translation>Время в движении, с</translation>
+    </message>
+    <message id="orbf_018">
+        <source>Секунд с предыдущей записи</source>
+        <translation>Секунд с предыдущей записи</translation>
+    </message>
+    <message id="orbf_019">
+        <source>Напряжение питания</source>
+        <translation>Напряжение питания</translation>
+    </message>
+    <message id="orbf_020">
+        <source>Напряжение резервного аккумулятора</source>
+        <translation>Напряжение резервного аккумулятора</translation>
+    </message>
+    <message id="orbf_021">
+        <source>Напряжение на аналоговом входе 1</source>
+        <translation>Напряжение на аналоговом входе 1</translation>
+    </message>
+    <message id="orbf_022">
+        <source>Напряжение на аналоговом входе 2</source>
+        <translation>Напряжение на аналоговом входе 2</translation>
+    </message>
+    <message id="orbf_023">
+        <source>Напряжение на аналоговом входе 3</source>
+        <translation>Напряжение на аналоговом входе 3</translation>
+    </message>
+    <message id="orbf_024">
+        <source>Напряжение на аналоговом входе 4</source>
+        <translation>Напряжение на аналоговом входе 4</translation>
+    </message>
+    <message id="orbf_025">
+        <source>Напряжение на аналоговом входе 5</source>
+        <translation>Напряжение на аналоговом входе 5</translation>
+    </message>
+    <message id="orbf_026">
+        <source>Напряжение на аналоговом входе 6</source>
+        <translation>Напряжение на аналоговом входе 6</translation>
+    </message>
+    <message id="orbf_027">
+        <source>Напряжение на аналоговом входе 7</source>
+        <translation>Напряжение на аналоговом входе 7</translation>
+    </message>
+    <message id="orbf_028">
+        <source>Напряжение на аналоговом входе 8</source>
+        <translation>Напряжение на аналоговом входе 8</translation>
+    </message>
+    <message id="orbf_029">
+        <source>Состояние входов 1–8</source>
+        <translation>Состояние входов 1–8</translation>
+    </message>
+    <message id="orbf_030">
+        <source>Состояние входов 9–16</source>
+        <translation>Состояние входов 9–16</translation>
+    </message>
+    <message id="orbf_031">
+        <source>Состояние выходов 1–8</source>
+        <translation>Состояние выходов 1–8</translation>
+    </message>
+    <message id="orbf_032">
+        <source>Состояние выходов 9–16</source>
+        <translation>Состояние выходов 9–16</translation>
+    </message>
+    <message id="orbf_033">
+        <source>Счётчик импульсов 1</source>
+        <translation>Счётчик импульсов 1</translation>
+    </message>
+    <message id="orbf_034">
+        <source>Счётчик импульсов 2</source>
+        <translation>Счётчик импульсов 2</translation>
+    </message>
+    <message id="orbf_035">
+        <source>Частота на входе 1</source>
+        <translation>Частота на входе 1</translation>
+    </message>
+    <message id="orbf_036">
+        <source>Частота на входе 2</source>
+        <translation>Частота на входе 2</translation>
+    </message>
+    <message id="orbf_037">
+        <source>Моточасы</source>
+        <translation>Моточасы</translation>
+    </message>
+    <message id="orbf_038">
+        <source>Уровень топлива ДУТ RS-485 1</source>
+        <translation>Уровень топлива ДУТ RS-485 1</translation>
+    </message>
+    <message id="orbf_039">
+        <source>Уровень топлива ДУТ RS-485 2</source>
+        <translation>Уровень топлива ДУТ RS-485 2</translation>
+    </message>
+    <message id="orbf_040">
+        <source>Уровень топлива ДУТ RS-485 3</source>
+        <translation>Уровень топлива ДУТ RS-485 3</translation>
+    </message>
+    <message id="orbf_041">
+        <source>Уровень топлива ДУТ RS-485 4</source>
+        <translation>Уровень топлива ДУТ RS-485 4</translation>
+    </message>
+    <message id="orbf_042">
+        <source>Уровень топлива ДУТ RS-485 5</source>
+        <translation>Уровень топлива ДУТ RS-485 5</translation>
+    </message>
+    <message id="orbf_043">
+        <source>Уровень топлива ДУТ RS-485 6</source>
+        <translation>Уровень топлива ДУТ RS-485 6</translation>
+    </message>
+    <message id="orbf_044">
+        <source>Уровень топлива ДУТ RS-232</source>
+        <translation>Уровень топлива ДУТ RS-232</translation>
+    </message>
+    <message id="orbf_045">
+        <source>Температура, датчик 1</source>
+        <translation>Температура, датчик 1</translation>
+    </message>
+    <message id="orbf_046">
+        <source>Температура, датчик 2</source>
+        <translation>Температура, датчик 2</translation>
+    </message>
+    <message id="orbf_047">
+        <source>Температура, датчик 3</source>
+        <translation>Температура, датчик 3</translation>
+    </message>
+    <message id="orbf_048">
+        <source>Температура, датчик 4</source>
+        <translation>Температура, датчик 4</translation>
+    </message>
+    <message id="orbf_049">
+        <source>Температура, датчик 5</source>
+        <translation>Температура, датчик 5</translation>
+    </message>
+    <message id="orbf_050">
+        <source>Температура, датчик 6</source>
+        <translation>Температура, датчик 6</translation>
+    </message>
+    <message id="orbf_051">
+        <source>Температура, датчик 7</source>
+        <translation>Температура, датчик 7</translation>
+    </message>
+    <message id="orbf_052">
+        <source>Температура, датчик 8</source>
+        <translation>Температура, датчик 8</translation>
+    </message>
+    <message id="orbf_053">
+        <source>CAN: уровень топлива</source>
+        <translation>CAN: уровень топлива</translation>
+    </message>
+    <message id="orbf_054">
+        <source>CAN: расход топлива</source>
+        <translation>CAN: расход топлива</translation>
+    </message>
+    <message id="orbf_055">
+        <source>CAN: обороты двигателя</source>
+        <translation>CAN: обороты двигателя</translation>
+    </message>
+    <message id="orbf_056">
+        <source>CAN: температура охлаждающей жидкости</source>
+        <translation>CAN: температура охлаждающей жидкости</translation>
+    </message>
+    <message id="orbf_057">
+        <source>CAN: полный пробег</source>
+        <translation>CAN: полный пробег</translation>
+    </message>
+    <message id="orbf_058">
+        <source>CAN: нагрузка на ось 1</source>
+        <translation>CAN: нагрузка на ось 1</translation>
+    </message>
+    <message id="orbf_059">
+        <source>CAN: нагрузка на ось 2</source>
+        <translation>CAN: нагрузка на ось 2</translation>
+    </message>
+    <message id="orbf_060">
+        <source>CAN: нагрузка на ось 3</source>
+        <translation>CAN: нагрузка на ось 3</translation>
+    </message>
+    <message id="orbf_061">
+        <source>CAN: нагрузка на ось 4</source>
+        <translation>CAN: нагрузка на ось 4</translation>
+    </message>
+    <message id="orbf_062">
+        <source>CAN: нагрузка на ось 5</source>
+        <translation>CAN: нагрузка на ось 5</translation>
+    </message>
+    <message id="orbf_063">
+        <source>CAN: положение педали газа</source>
+        <translation>CAN: положение педали газа</translation>
+    </message>
+    <message id="orbf_064">
+        <source>CAN: положение педали тормоза</source>
+        <translation>CAN: положение педали тормоза</translation>
+    </message>
+    <message id="orbf_065">
+        <source>CAN: нагрузка двигателя</source>
+        <translation>CAN: нагрузка двигателя</translation>
+    </message>
+    <message id="orbf_066">
+        <source>CAN: уровень топлива после фильтра</source>
+        <translation>CAN: уровень топлива после фильтра</translation>
+    </message>
+    <message id="orbf_067">
+        <source>CAN: время работы двигателя</source>
+        <translation>CAN: время работы двигателя</translation>
+    </message>
+    <message id="orbf_068">
+        <source>CAN: до технического обслуживания</source>
+        <translation>CAN: до технического обслуживания</translation>
+    </message>
+    <message id="orbf_069">
+        <source>CAN: скорость</source>
+        <translation>CAN: скорость</translation>
+    </message>
+    <message id="orbf_070">
+        <source>Спутники по навигационным системам</source>
+        <translation>Спутники по навигационным системам</translation>
+    </message>
+    <message id="orbf_071">
+        <source>Точность (HDOP, PDOP)</source>
+        <translation>Точность (HDOP, PDOP)</translation>
+    </message>
+    <message id="orbf_072">
+        <source>Режим навигации и число спутников</source>
+        <translation>Режим навигации и число спутников</translation>
+    </message>
+    <message id="orbf_073">
+        <source>Точные координаты приёмника</source>
+        <translation>Точные координаты приёмника</translation>
+    </message>
+    <message id="orbf_074">
+        <source>Высота по приёмнику</source>
+        <translation>Высота по приёмнику</translation>
+    </message>
+    <message id="orbf_075">
+        <source>Курс по приёмнику</source>
+        <translation>Курс по приёмнику</translation>
+    </message>
+    <message id="orbf_076">
+        <source>Скорость по приёмнику</source>
+        <translation>Скорость по приёмнику</translation>
+    </message>
+    <message id="orbf_077">
+        <source>Базовые станции (LBS)</source>
+        <translation>Базовые станции (LBS)</translation>
+    </message>
+    <message id="orbf_078">
+        <source>Температура ДУТ RS-485 1</source>
+        <translation>Температура ДУТ RS-485 1</translation>
+    </message>
+    <message id="orbf_079">
+        <source>Температура ДУТ RS-485 2</source>
+        <translation>Температура ДУТ RS-485 2</translation>
+    </message>
+    <message id="orbf_080">
+        <source>Температура ДУТ RS-485 3</source>
+        <translation>Температура ДУТ RS-485 3</translation>
+    </message>
+    <message id="orbf_081">
+        <source>Температура ДУТ RS-485 4</source>
+        <translation>Температура ДУТ RS-485 4</translation>
+    </message>
+    <message id="orbf_082">
+        <source>Температура ДУТ RS-485 5</source>
+        <translation>Температура ДУТ RS-485 5</translation>
+    </message>
+    <message id="orbf_083">
+        <source>Температура ДУТ RS-485 6</source>
+        <translation>Температура ДУТ RS-485 6</translation>
+    </message>
+    <message id="orbf_084">
+        <source>ДУТ RS-485 7: уровень и температура</source>
+        <translation>ДУТ RS-485 7: уровень и температура</translation>
+    </message>
+    <message id="orbf_085">
+        <source>ДУТ RS-485 8: уровень и температура</source>
+        <translation>ДУТ RS-485 8: уровень и температура</translation>
+    </message>
+    <message id="orbf_086">
+        <source>ДУТ RS-485 9: уровень и температура</source>
+        <translation>ДУТ RS-485 9: уровень и температура</translation>
+    </message>
+    <message id="orbf_087">
+        <source>ДУТ RS-485 10: уровень и температура</source>
+        <translation>ДУТ RS-485 10: уровень и температура</translation>
+    </message>
+    <message id="orbf_088">
+        <source>ДУТ RS-485 11: уровень и температура</source>
+        <translation>ДУТ RS-485 11: уровень и температура</translation>
+    </message>
+    <message id="orbf_089">
+        <source>ДУТ RS-485 12: уровень и температура</source>
+        <translation>ДУТ RS-485 12: уровень и температура</translation>
+    </message>
+    <message id="orbf_090">
+        <source>ДУТ RS-485 13: уровень и температура</source>
+        <translation>ДУТ RS-485 13: уровень и температура</translation>
+    </message>
+    <message id="orbf_091">
+        <source>ДУТ RS-485 14: уровень и температура</source>
+        <translation>ДУТ RS-485 14: уровень и температура</translation>
+    </message>
+    <message id="orbf_092">
+        <source>ДУТ RS-485 15: уровень и температура</source>
+        <translation>ДУТ RS-485 15: уровень и температура</translation>
+    </message>
+    <message id="orbf_093">
+        <source>ДУТ RS-485 16: уровень и температура</source>
+        <translation>ДУТ RS-485 16: уровень и температура</translation>
+    </message>
+    <message id="orbf_094">
+        <source>Шины 1–2</source>
+        <translation>Шины 1–2</translation>
+    </message>
+    <message id="orbf_095">
+        <source>Шины 3–6</source>
+        <translation>Шины 3–6</translation>
+    </message>
+    <message id="orbf_096">
+        <source>Шины 7–14</source>
+        <translation>Шины 7–14</translation>
+    </message>
+    <message id="orbf_097">
+        <source>Шины 15–30</source>
+        <translation>Шины 15–30</translation>
+    </message>
+    <message id="orbf_098">
+        <source>Тахограф: состояние</source>
+        <translation>Тахограф: состояние</translation>
+    </message>
+    <message id="orbf_099">
+        <source>Тахограф: режим</source>
+        <translation>Тахограф: режим</translation>
+    </message>
+    <message id="orbf_100">
+        <source>Тахограф: флаги</source>
+        <translation>Тахограф: флаги</translation>
+    </message>
+    <message id="orbf_101">
+        <source>Тахограф: скорость</source>
+        <translation>Тахограф: скорость</translation>
+    </message>
+    <message id="orbf_102">
+        <source>Тахограф: одометр</source>
+        <translation>Тахограф: одометр</translation>
+    </message>
+    <message id="orbf_103">
+        <source>Тахограф: время</source>
+        <translation>Тахограф: время</translation>
+    </message>
+    <message id="orbf_104">
+        <source>Диспетчерское сообщение: текущее</source>
+        <translation>Диспетчерское сообщение: текущее</translation>
+    </message>
+    <message id="orbf_105">
+        <source>Диспетчерское сообщение: последний номер</source>
+        <translation>Диспетчерское сообщение: последний номер</translation>
+    </message>
+    <message id="orbf_106">
+        <source>Акселерометр: изменение ускорения</source>
+        <translation>Акселерометр: изменение ускорения</translation>
+    </message>
+    <message id="orbf_107">
+        <source>Акселерометр: ускорение по осям X, Y, Z</source>
+        <translation>Акселерометр: ускорение по осям X, Y, Z</translation>
+    </message>
+    <message id="orbf_108">
+        <source>Акселерометр: модуль ускорения</source>
+        <translation>Акселерометр: модуль ускорения</translation>
+    </message>
+    <message id="orbf_109">
+        <source>Акселерометр: углы наклона</source>
+        <translation>Акселерометр: углы наклона</translation>
+    </message>
+    <message id="orbf_110">
+        <source>Пассажиропоток, датчики 1–2</source>
+        <translation>Пассажиропоток, датчики 1–2</translation>
+    </message>
+    <message id="orbf_111">
+        <source>Пассажиропоток, датчики 3–4</source>
+        <translation>Пассажиропоток, датчики 3–4</translation>
+    </message>
+    <message id="orbf_112">
+        <source>Пассажиропоток, датчики 5–6</source>
+        <translation>Пассажиропоток, датчики 5–6</translation>
+    </message>
+    <message id="orbf_113">
+        <source>Пассажиропоток, датчики 7–8</source>
+        <translation>Пассажиропоток, датчики 7–8</translation>
+    </message>
+    <message id="orbf_114">
+        <source>Пассажиропоток, датчики 9–10</source>
+        <translation>Пассажиропоток, датчики 9–10</translation>
+    </message>
+    <message id="orbf_115">
+        <source>Пассажиропоток, датчики 11–12</source>
+        <translation>Пассажиропоток, датчики 11–12</translation>
+    </message>
+    <message id="orbf_116">
+        <source>Пассажиропоток, датчики 13–14</source>
+        <translation>Пассажиропоток, датчики 13–14</translation>
+    </message>
+    <message id="orbf_117">
+        <source>Пассажиропоток, датчики 15–16</source>
+        <translation>Пассажиропоток, датчики 15–16</translation>
+    </message>
+    <message id="orbf_118">
+        <source>Автоинформатор: состояние</source>
+        <translation>Автоинформатор: состояние</translation>
+    </message>
+    <message id="orbf_119">
+        <source>Автоинформатор: геозона</source>
+        <translation>Автоинформатор: геозона</translation>
+    </message>
+    <message id="orbf_120">
+        <source>Автоинформатор: остановка</source>
+        <translation>Автоинформатор: остановка</translation>
+    </message>
+    <message id="orbf_121">
+        <source>Автоинформатор: маршрут</source>
+        <translation>Автоинформатор: маршрут</translation>
+    </message>
+    <message id="orbf_122">
+        <source>Камера</source>
+        <translation>Камера</translation>
+    </message>
+    <message id="orbf_123">
+        <source>Состояние терминала 2</source>
+        <translation>Состояние терминала 2</translation>
+    </message>
+    <message id="orbf_124">
+        <source>Состояние модулей 3</source>
+        <translation>Состояние модулей 3</translation>
+    </message>
+    <message id="orbf_125">
+        <source>Состояние соединений</source>
+        <translation>Состояние соединений</translation>
+    </message>
+    <message id="orbf_126">
+        <source>Состояние входов 17–24</source>
+        <translation>Состояние входов 17–24</translation>
+    </message>
+    <message id="orbf_127">
+        <source>Счётчик импульсов 3</source>
+        <translation>Счётчик импульсов 3</translation>
+    </message>
+    <message id="orbf_128">
+        <source>Счётчик импульсов 4</source>
+        <translation>Счётчик импульсов 4</translation>
+    </message>
+    <message id="orbf_129">
+        <source>Счётчик импульсов 5</source>
+        <translation>Счётчик импульсов 5</translation>
+    </message>
+    <message id="orbf_130">
+        <source>Счётчик импульсов 6</source>
+        <translation>Счётчик импульсов 6</translation>
+    </message>
+    <message id="orbf_131">
+        <source>Счётчик импульсов 7</source>
+        <translation>Счётчик импульсов 7</translation>
+    </message>
+    <message id="orbf_132">
+        <source>Счётчик импульсов 8</source>
+        <translation>Счётчик импульсов 8</translation>
+    </message>
+    <message id="orbf_133">
+        <source>Частота на входе 3</source>
+        <translation>Частота на входе 3</translation>
+    </message>
+    <message id="orbf_134">
+        <source>Частота на входе 4</source>
+        <translation>Частота на входе 4</translation>
+    </message>
+    <message id="orbf_135">
+        <source>Частота на входе 5</source>
+        <translation>Частота на входе 5</translation>
+    </message>
+    <message id="orbf_136">
+        <source>Частота на входе 6</source>
+        <translation>Частота на входе 6</translation>
+    </message>
+    <message id="orbf_137">
+        <source>Частота на входе 7</source>
+        <translation>Частота на входе 7</translation>
+    </message>
+    <message id="orbf_138">
+        <source>Частота на входе 8</source>
+        <translation>Частота на входе 8</translation>
+    </message>
+    <message id="orbf_139">
+        <source>Акселерометр ТС: состояние</source>
+        <translation>Акселерометр ТС: состояние</translation>
+    </message>
+    <message id="orbf_140">
+        <source>Акселерометр ТС: вертикальное ускорение</source>
+        <translation>Акселерометр ТС: вертикальное ускорение</translation>
+    </message>
+    <message id="orbf_141">
+        <source>Акселерометр ТС: продольное и боковое</source>
+        <translation>Акселерометр ТС: продольное и боковое</translation>
+    </message>
+    <message id="orbf_142">
+        <source>Акселерометр ТС: оси X, Y, Z</source>
+        <translation>Акселерометр ТС: оси X, Y, Z</translation>
+    </message>
+    <message id="orbf_143">
+        <source>Эко-вождение: максимальное ускорение</source>
+        <translation>Эко-вождение: максимальное ускорение</translation>
+    </message>
+    <message id="orbf_144">
+        <source>Эко-вождение: максимальная скорость</source>
+        <translation>Эко-вождение: максимальная скорость</translation>
+    </message>
+    <message id="orbf_145">
+        <source>Эко-вождение: превышение скорости</source>
+        <translation>Эко-вождение: превышение скорости</translation>
+    </message>
+    <message id="orbf_146">
+        <source>Эко-вождение: события</source>
+        <translation>Эко-вождение: события</translation>
+    </message>
+    <message id="orbf_147">
+        <source>Частота ДУТ RS-485 1</source>
+        <translation>Частота ДУТ RS-485 1</translation>
+    </message>
+    <message id="orbf_148">
+        <source>Частота ДУТ RS-485 2</source>
+        <translation>Частота ДУТ RS-485 2</translation>
+    </message>
+    <message id="orbf_149">
+        <source>Частота ДУТ RS-485 3</source>
+        <translation>Частота ДУТ RS-485 3</translation>
+    </message>
+    <message id="orbf_150">
+        <source>Частота ДУТ RS-485 4</source>
+        <translation>Частота ДУТ RS-485 4</translation>
+    </message>
+    <message id="orbf_151">
+        <source>Частота ДУТ RS-485 5</source>
+        <translation>Частота ДУТ RS-485 5</translation>
+    </message>
+    <message id="orbf_152">
+        <source>Частота ДУТ RS-485 6</source>
+        <translation>Частота ДУТ RS-485 6</translation>
+    </message>
+    <message id="orbf_153">
+        <source>Частота ДУТ RS-485 7</source>
+        <translation>Частота ДУТ RS-485 7</translation>
+    </message>
+    <message id="orbf_154">
+        <source>Частота ДУТ RS-485 8</source>
+        <translation>Частота ДУТ RS-485 8</translation>
+    </message>
+    <message id="orbf_155">
+        <source>Частота ДУТ RS-485 9</source>
+        <translation>Частота ДУТ RS-485 9</translation>
+    </message>
+    <message id="orbf_156">
+        <source>Частота ДУТ RS-485 10</source>
+        <translation>Частота ДУТ RS-485 10</translation>
+    </message>
+    <message id="orbf_157">
+        <source>Частота ДУТ RS-485 11</source>
+        <translation>Частота ДУТ RS-485 11</translation>
+    </message>
+    <message id="orbf_158">
+        <source>Частота ДУТ RS-485 12</source>
+        <translation>Частота ДУТ RS-485 12</translation>
+    </message>
+    <message id="orbf_159">
+        <source>Частота ДУТ RS-485 13</source>
+        <translation>Частота ДУТ RS-485 13</translation>
+    </message>
+    <message id="orbf_160">
+        <source>Частота ДУТ RS-485 14</source>
+        <translation>Частота ДУТ RS-485 14</translation>
+    </message>
+    <message id="orbf_161">
+        <source>Частота ДУТ RS-485 15</source>
+        <translation>Частота ДУТ RS-485 15</translation>
+    </message>
+    <message id="orbf_162">
+        <source>Частота ДУТ RS-485 16</source>
+        <translation>Частота ДУТ RS-485 16</translation>
+    </message>
+    <message id="orbf_163">
+        <source>Точная температура 1</source>
+        <translation>Точная температура 1</translation>
+    </message>
+    <message id="orbf_164">
+        <source>Точная температура 2</source>
+        <translation>Точная температура 2</translation>
+    </message>
+    <message id="orbf_165">
+        <source>Точная температура 3</source>
+        <translation>Точная температура 3</translation>
+    </message>
+    <message id="orbf_166">
+        <source>Точная температура 4</source>
+        <translation>Точная температура 4</translation>
+    </message>
+    <message id="orbf_167">
+        <source>Влажность 1</source>
+        <translation>Влажность 1</translation>
+    </message>
+    <message id="orbf_168">
+        <source>Влажность 2</source>
+        <translation>Влажность 2</translation>
+    </message>
+    <message id="orbf_169">
+        <source>Влажность 3</source>
+        <translation>Влажность 3</translation>
+    </message>
+    <message id="orbf_170">
+        <source>Влажность 4</source>
+        <translation>Влажность 4</translation>
+    </message>
+    <message id="orbf_171">
+        <source>Расходомер: состояние</source>
+        <translation>Расходомер: состояние</translation>
+    </message>
+    <message id="orbf_172">
+        <source>Расходомер: ошибки</source>
+        <translation>Расходомер: ошибки</translation>
+    </message>
+    <message id="orbf_173">
+        <source>Расходомер: общий расход</source>
+        <translation>Расходомер: общий расход</translation>
+    </message>
+    <message id="orbf_174">
+        <source>Расходомер: расход за поездку</source>
+        <translation>Расходомер: расход за поездку</translation>
+    </message>
+    <message id="orbf_175">
+        <source>Расходомер: мгновенный расход</source>
+        <translation>Расходомер: мгновенный расход</translation>
+    </message>
+    <message id="orbf_176">
+        <source>Расходомер: объём подачи</source>
+        <translation>Расходомер: объём подачи</translation>
+    </message>
+    <message id="orbf_177">
+        <source>Расходомер: скорость подачи</source>
+        <translation>Расходомер: скорость подачи</translation>
+    </message>
+    <message id="orbf_178">
+        <source>Расходомер: температура подачи</source>
+        <translation>Расходомер: температура подачи</translation>
+    </message>
+    <message id="orbf_179">
+        <source>Расходомер: объём обратки</source>
+        <translation>Расходомер: объём обратки</translation>
+    </message>
+    <message id="orbf_180">
+        <source>Расходомер: скорость обратки</source>
+        <translation>Расходомер: скорость обратки</translation>
+    </message>
+    <message id="orbf_181">
+        <source>Расходомер: температура обратки</source>
+        <translation>Расходомер: температура обратки</translation>
+    </message>
+    <message id="orbf_182">
+        <source>Рефрижератор: состояние</source>
+        <translation>Рефрижератор: состояние</translation>
+    </message>
+    <message id="orbf_183">
+        <source>Рефрижератор: температура камеры 1</source>
+        <translation>Рефрижератор: температура камеры 1</translation>
+    </message>
+    <message id="orbf_184">
+        <source>Рефрижератор: температура камеры 2</source>
+        <translation>Рефрижератор: температура камеры 2</translation>
+    </message>
+    <message id="orbf_185">
+        <source>Рефрижератор: температура камеры 3</source>
+        <translation>Рефрижератор: температура камеры 3</translation>
+    </message>
+    <message id="orbf_186">
+        <source>Рефрижератор: заданная температура камеры 1</source>
+        <translation>Рефрижератор: заданная температура камеры 1</translation>
+    </message>
+    <message id="orbf_187">
+        <source>Рефрижератор: заданная температура камеры 2</source>
+        <translation>Рефрижератор: заданная температура камеры 2</translation>
+    </message>
+    <message id="orbf_188">
+        <source>Рефрижератор: заданная температура камеры 3</source>
+        <translation>Рефрижератор: заданная температура камеры 3</translation>
+    </message>
+    <message id="orbf_189">
+        <source>Рефрижератор: температура воздуха</source>
+        <translation>Рефрижератор: температура воздуха</translation>
+    </message>
+    <message id="orbf_190">
+        <source>Рефрижератор: температура охлаждающей жидкости</source>
+        <translation>Рефрижератор: температура охлаждающей жидкости</translation>
+    </message>
+    <message id="orbf_191">
+        <source>Рефрижератор: напряжение</source>
+        <translation>Рефрижератор: напряжение</translation>
+    </message>
+    <message id="orbf_192">
+        <source>Рефрижератор: ток</source>
+        <translation>Рефрижератор: ток</translation>
+    </message>
+    <message id="orbf_193">
+        <source>Рефрижератор: моточасы от двигателя</source>
+        <translation>Рефрижератор: моточасы от двигателя</translation>
+    </message>
+    <message id="orbf_194">
+        <source>Рефрижератор: моточасы от сети</source>
+        <translation>Рефрижератор: моточасы от сети</translation>
+    </message>
+    <message id="orbf_195">
+        <source>Рефрижератор: число ошибок и ошибка 1</source>
+        <translation>Рефрижератор: число ошибок и ошибка 1</translation>
+    </message>
+    <message id="orbf_196">
+        <source>Рефрижератор: ошибки 2–3</source>
+        <translation>Рефрижератор: ошибки 2–3</translation>
+    </message>
+    <message id="orbf_197">
+        <source>Рефрижератор: ошибки 4–6</source>
+        <translation>Рефрижератор: ошибки 4–6</translation>
+    </message>
+    <message id="orbf_198">
+        <source>Рефрижератор: режим и обороты двигателя</source>
+        <translation>Рефрижератор: режим и обороты двигателя</translation>
+    </message>
+    <message id="orbf_199">
+        <source>Рефрижератор: компрессор</source>
+        <translation>Рефрижератор: компрессор</translation>
+    </message>
+    <message id="orbf_200">
+        <source>Миллисекунды времени</source>
+        <translation>Миллисекунды времени</translation>
+    </message>
+    <message id="orbf_201">
+        <source>CAN: состояние систем</source>
+        <translation>CAN: состояние систем</translation>
+    </message>
+    <message id="orbf_202">
+        <source>CAN: событие</source>
+        <translation>CAN: событие</translation>
+    </message>
+    <message id="orbf_203">
+        <source>CAN: аварии</source>
+        <translation>CAN: аварии</translation>
+    </message>
+    <message id="orbf_204">
+        <source>CAN: неисправность (лампа, код)</source>
+        <translation>CAN: неисправность (лампа, код)</translation>
+    </message>
+    <message id="orbf_205">
+        <source>Моточасы под нагрузкой</source>
+        <translation>Моточасы под нагрузкой</translation>
+    </message>
+    <message id="orbf_206">
+        <source>Моточасы без нагрузки</source>
+        <translation>Моточасы без нагрузки</translation>
+    </message>
+    <message id="orbf_207">
+        <source>Параметр пользователя 1 байт, №1</source>
+        <translation>Параметр пользователя 1 байт, №1</translation>
+    </message>
+    <message id="orbf_208">
+        <source>Параметр пользователя 1 байт, №2</source>
+        <translation>Параметр пользователя 1 байт, №2</translation>
+    </message>
+    <message id="orbf_209">
+        <source>Параметр пользователя 1 байт, №3</source>
+        <translation>Параметр пользователя 1 байт, №3</translation>
+    </message>
+    <message id="orbf_210">
+        <source>Параметр пользователя 1 байт, №4</source>
+        <translation>Параметр пользователя 1 байт, №4</translation>
+    </message>
+    <message id="orbf_211">
+        <source>Параметр пользователя 1 байт, №5</source>
+        <translation>Параметр пользователя 1 байт, №5</translation>
+    </message>
+    <message id="orbf_212">
+        <source>Параметр пользователя 1 байт, №6</source>
+        <translation>Параметр пользователя 1 байт, №6</translation>
+    </message>
+    <message id="orbf_213">
+        <source>Параметр пользователя 1 байт, №7</source>
+        <translation>Параметр пользователя 1 байт, №7</translation>
+    </message>
+    <message id="orbf_214">
+        <source>Параметр пользователя 1 байт, №8</source>
+        <translation>Параметр пользователя 1 байт, №8</translation>
+    </message>
+    <message id="orbf_215">
+        <source>Параметр пользователя 1 байт, №9</source>
+        <translation>Параметр пользователя 1 байт, №9</translation>
+    </message>
+    <message id="orbf_216">
+        <source>Параметр пользователя 1 байт, №10</source>
+        <translation>Параметр пользователя 1 байт, №10</translation>
+    </message>
+    <message id="orbf_217">
+        <source>Параметр пользователя 1 байт, №11</source>
+        <translation>Параметр пользователя 1 байт, №11</translation>
+    </message>
+    <message id="orbf_218">
+        <source>Параметр пользователя 1 байт, №12</source>
+        <translation>Параметр пользователя 1 байт, №12</translation>
+    </message>
+    <message id="orbf_219">
+        <source>Параметр пользователя 1 байт, №13</source>
+        <translation>Параметр пользователя 1 байт, №13</translation>
+    </message>
+    <message id="orbf_220">
+        <source>Параметр пользователя 1 байт, №14</source>
+        <translation>Параметр пользователя 1 байт, №14</translation>
+    </message>
+    <message id="orbf_221">
+        <source>Параметр пользователя 1 байт, №15</source>
+        <translation>Параметр пользователя 1 байт, №15</translation>
+    </message>
+    <message id="orbf_222">
+        <source>Параметр пользователя 1 байт, №16</source>
+        <translation>Параметр пользователя 1 байт, №16</translation>
+    </message>
+    <message id="orbf_223">
+        <source>Параметр пользователя 2 байта, №1</source>
+        <translation>Параметр пользователя 2 байта, №1</translation>
+    </message>
+    <message id="orbf_224">
+        <source>Параметр пользователя 2 байта, №2</source>
+        <translation>Параметр пользователя 2 байта, №2</translation>
+    </message>
+    <message id="orbf_225">
+        <source>Параметр пользователя 2 байта, №3</source>
+        <translation>Параметр пользователя 2 байта, №3</translation>
+    </message>
+    <message id="orbf_226">
+        <source>Параметр пользователя 2 байта, №4</source>
+        <translation>Параметр пользователя 2 байта, №4</translation>
+    </message>
+    <message id="orbf_227">
+        <source>Параметр пользователя 2 байта, №5</source>
+        <translation>Параметр пользователя 2 байта, №5</translation>
+    </message>
+    <message id="orbf_228">
+        <source>Параметр пользователя 2 байта, №6</source>
+        <translation>Параметр пользователя 2 байта, №6</translation>
+    </message>
+    <message id="orbf_229">
+        <source>Параметр пользователя 2 байта, №7</source>
+        <translation>Параметр пользователя 2 байта, №7</translation>
+    </message>
+    <message id="orbf_230">
+        <source>Параметр пользователя 2 байта, №8</source>
+        <translation>Параметр пользователя 2 байта, №8</translation>
+    </message>
+    <message id="orbf_231">
+        <source>Параметр пользователя 2 байта, №9</source>
+        <translation>Параметр пользователя 2 байта, №9</translation>
+    </message>
+    <message id="orbf_232">
+        <source>Параметр пользователя 2 байта, №10</source>
+        <translation>Параметр пользователя 2 байта, №10</translation>
+    </message>
+    <message id="orbf_233">
+        <source>Параметр пользователя 2 байта, №11</source>
+        <translation>Параметр пользователя 2 байта, №11</translation>
+    </message>
+    <message id="orbf_234">
+        <source>Параметр пользователя 2 байта, №12</source>
+        <translation>Параметр пользователя 2 байта, №12</translation>
+    </message>
+    <message id="orbf_235">
+        <source>Параметр пользователя 2 байта, №13</source>
+        <translation>Параметр пользователя 2 байта, №13</translation>
+    </message>
+    <message id="orbf_236">
+        <source>Параметр пользователя 2 байта, №14</source>
+        <translation>Параметр пользователя 2 байта, №14</translation>
+    </message>
+    <message id="orbf_237">
+        <source>Параметр пользователя 2 байта, №15</source>
+        <translation>Параметр пользователя 2 байта, №15</translation>
+    </message>
+    <message id="orbf_238">
+        <source>Параметр пользователя 4 байта, №1</source>
+        <translation>Параметр пользователя 4 байта, №1</translation>
+    </message>
+    <message id="orbf_239">
+        <source>Параметр пользователя 4 байта, №2</source>
+        <translation>Параметр пользователя 4 байта, №2</translation>
+    </message>
+    <message id="orbf_240">
+        <source>Параметр пользователя 4 байта, №3</source>
+        <translation>Параметр пользователя 4 байта, №3</translation>
+    </message>
+    <message id="orbf_241">
+        <source>Параметр пользователя 4 байта, №4</source>
+        <translation>Параметр пользователя 4 байта, №4</translation>
+    </message>
+    <message id="orbf_242">
+        <source>Параметр пользователя 4 байта, №5</source>
+        <translation>Параметр пользователя 4 байта, №5</translation>
+    </message>
+    <message id="orbf_243">
+        <source>Параметр пользователя 4 байта, №6</source>
+        <translation>Параметр пользователя 4 байта, №6</translation>
+    </message>
+    <message id="orbf_244">
+        <source>Параметр пользователя 4 байта, №7</source>
+        <translation>Параметр пользователя 4 байта, №7</translation>
+    </message>
+    <message id="orbf_245">
+        <source>Параметр пользователя 4 байта, №8</source>
+        <translation>Параметр пользователя 4 байта, №8</translation>
+    </message>
+    <message id="orbf_246">
+        <source>Параметр пользователя 4 байта, №9</source>
+        <translation>Параметр пользователя 4 байта, №9</translation>
+    </message>
+    <message id="orbf_247">
+        <source>Параметр пользователя 4 байта, №10</source>
+        <translation>Параметр пользователя 4 байта, №10</translation>
+    </message>
+    <message id="orbf_248">
+        <source>Параметр пользователя 4 байта, №11</source>
+        <translation>Параметр пользователя 4 байта, №11</translation>
+    </message>
+    <message id="orbf_249">
+        <source>Параметр пользователя 4 байта, №12</source>
+        <translation>Параметр пользователя 4 байта, №12</translation>
+    </message>
+    <message id="orbf_250">
+        <source>Параметр пользователя 4 байта, №13</source>
+        <translation>Параметр пользователя 4 байта, №13</translation>
+    </message>
+    <message id="orbf_251">
+        <source>Параметр пользователя 4 байта, №14</source>
+        <translation>Параметр пользователя 4 байта, №14</translation>
+    </message>
+    <message id="orbf_252">
+        <source>Параметр пользователя 4 байта, №15</source>
+        <translation>Параметр пользователя 4 байта, №15</translation>
+    </message>
+    <message id="orbf_253">
+        <source>Параметр пользователя 8 байт, №1</source>
+        <translation>Параметр пользователя 8 байт, №1</translation>
+    </message>
+    <message id="orbf_254">
+        <source>Параметр пользователя 8 байт, №2</source>
+        <translation>Параметр пользователя 8 байт, №2</translation>
+    </message>
+    <message id="orbf_255">
+        <source>Параметр пользователя 8 байт, №3</source>
+        <translation>Параметр пользователя 8 байт, №3</translation>
+    </message>
+    <message id="cfgo_001">
+        <source>Основные</source>
+        <translation>Основные</translation>
+    </message>
+    <message id="cfgo_002">
+        <source>Навигация</source>
+        <translation>Навигация</translation>
+    </message>
+    <message id="cfgo_003">
+        <source>RS-232/485</source>
+        <translation>RS-232/485</translation>
+    </message>
+    <message id="cfgo_004">
+        <source>CAN</source>
+        <translation>CAN</translation>
+    </message>
+    <message id="cfgo_005">
+        <source>Тахограф</source>
+        <translation>Тахограф</translation>
+    </message>
+    <message id="cfgo_006">
+        <source>Дополнительно</source>
+        <translation>Дополнительно</translation>
+    </message>
+    <message id="cfgo_007">
+        <source>Акселерометр</source>
+        <translation>Акселерометр</translation>
+    </message>
+    <message id="cfgo_008">
+        <source>Расходомер</source>
+        <translation>Расходомер</translation>
+    </message>
+    <message id="cfgo_009">
+        <source>Рефрижератор</source>
+        <translation>Рефрижератор</translation>
+    </message>
+    <message id="cfgo_010">
+        <source>Пользовательские</source>
+        <translation>Пользовательские</translation>
+    </message>
+    <message id="cfgo_015">
+        <source>Поле %1, размер в записи: %2 байт</source>
+        <translation>Поле %1, размер в записи: %2 байт</translation>
+    </message>
+    <message id="cfgo_050">
+        <source>Запись и состояние терминала</source>
+        <translation>Запись и состояние терминала</translation>
+    </message>
+    <message id="cfgo_051">
+        <source>Питание</source>
+        <translation>Питание</translation>
+    </message>
+    <message id="cfgo_052">
+        <source>Аналоговые входы</source>
+        <translation>Аналоговые входы</translation>
+    </message>
+    <message id="cfgo_053">
+        <source>Дискретные входы и выходы</source>
+        <translation>Дискретные входы и выходы</translation>
+    </message>
+    <message id="cfgo_054">
+        <source>Счётчики импульсов и частота</source>
+        <translation>Счётчики импульсов и частота</translation>
+    </message>
+    <message id="cfgo_055">
+        <source>Моточасы</source>
+        <translation>Моточасы</translation>
+    </message>
+    <message id="cfgo_056">
+        <source>Температура</source>
+        <translation>Температура</translation>
+    </message>
+    <message id="cfgo_057">
+        <source>Координаты и движение</source>
+        <translation>Координаты и движение</translation>
+    </message>
+    <message id="cfgo_058">
+        <source>Навигационный приёмник</source>
+        <translation>Навигационный приёмник</translation>
+    </message>
+    <message id="cfgo_059">
+        <source>Базовые станции</source>
+        <translation>Базовые станции</translation>
+    </message>
+    <message id="cfgo_060">
+        <source>ДУТ RS-485 1–6 и RS-232</source>
+        <translation>ДУТ RS-485 1–6 и RS-232</translation>
+    </message>
+    <message id="cfgo_061">
+        <source>Температура ДУТ RS-485</source>
+        <translation>Температура ДУТ RS-485</translation>
+    </message>
+    <message id="cfgo_062">
+        <source>ДУТ RS-485 7–16</source>
+        <translation>ДУТ RS-485 7–16</translation>
+    </message>
+    <message id="cfgo_063">
+        <source>Частота ДУТ RS-485</source>
+        <translation>Частота ДУТ RS-485</translation>
+    </message>
+    <message id="cfgo_064">
+        <source>Данные шины CAN</source>
+        <translation>Данные шины CAN</translation>
+    </message>
+    <message id="cfgo_065">
+        <source>Состояние систем ТС по CAN</source>
+        <translation>Состояние систем ТС по CAN</translation>
+    </message>
+    <message id="cfgo_066">
+        <source>Данные тахографа</source>
+        <translation>Данные тахографа</translation>
+    </message>
+    <message id="cfgo_021">
+        <source>Датчики давления в шинах</source>
+        <translation>Датчики давления в шинах</translation>
+    </message>
+    <message id="cfgo_067">
+        <source>Диспетчерские сообщения</source>
+        <translation>Диспетчерские сообщения</translation>
+    </message>
+    <message id="cfgo_068">
+        <source>Пассажиропоток</source>
+        <translation>Пассажиропоток</translation>
+    </message>
+    <message id="cfgo_069">
+        <source>Автоинформатор</source>
+        <translation>Автоинформатор</translation>
+    </message>
+    <message id="cfgo_070">
+        <source>Камера и акселерометр ТС</source>
+        <translation>Камера и акселерометр ТС</translation>
+    </message>
+    <message id="cfgo_071">
+        <source>Точная температура</source>
+        <translation>Точная температура</translation>
+    </message>
+    <message id="cfgo_072">
+        <source>Влажность</source>
+        <translation>Влажность</translation>
+    </message>
+    <message id="cfgo_022">
+        <source>Нет</source>
+        <translation>Нет</translation>
+    </message>
+    <message id="cfgo_028">
+        <source>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</source>
+        <translation>Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30</translation>
+    </message>
+    <message id="cfgo_073">
+        <source>Акселерометр терминала</source>
+        <translation>Акселерометр терминала</translation>
+    </message>
+    <message id="cfgo_074">
+        <source>Акселерометр ТС и эко-вождение</source>
+        <translation>Акселерометр ТС и эко-вождение</translation>
+    </message>
+    <message id="cfgo_075">
+        <source>Расходомер топлива</source>
+        <translation>Расходомер топлива</translation>
+    </message>
+    <message id="cfgo_076">
+        <source>Рефрижераторная установка</source>
+        <translation>Рефрижераторная установка</translation>
+    </message>
+    <message id="cfgo_077">
+        <source>Параметры 1 байт</source>
+        <translation>Параметры 1 байт</translation>
+    </message>
+    <message id="cfgo_078">
+        <source>Параметры 2 байта</source>
+        <translation>Параметры 2 байта</translation>
+    </message>
+    <message id="cfgo_079">
+        <source>Параметры 4 байта</source>
+        <translation>Параметры 4 байта</translation>
+    </message>
+    <message id="cfgo_080">
+        <source>Параметры 8 байт</source>
+        <translation>Параметры 8 байт</translation>
+    </message>
+    <message id="cfgo_023">
+        <source>Целое без знака</source>
+        <translation>Целое без знака</translation>
+    </message>
+    <message id="cfgo_024">
+        <source>Целое со знаком</source>
+        <translation>Целое со знаком</translation>
+    </message>
+    <message id="cfgo_025">
+        <source>Шестнадцатеричное</source>
+        <translation>Шестнадцатеричное</translation>
+    </message>
+    <message id="cfgo_026">
+        <source>С плавающей точкой</source>
+        <translation>С плавающей точкой</translation>
+    </message>
+    <message id="cfgo_027">
+        <source>Название параметра</source>
+        <translation>Название параметра</translation>
+    </message>
+    <message id="cfgo_014">
+        <source>Запись</source>
+        <translation>Запись</translation>
+    </message>
+    <message id="cfgo_011">
+        <source>ORBA 1 (поля 1–69)</source>
+        <translation>ORBA 1 (поля 1–69)</translation>
+    </message>
+    <message id="cfgo_012">
+        <source>ORBA 2 (поля 1–122)</source>
+        <translation>ORBA 2 (поля 1–122)</translation>
+    </message>
+    <message id="cfgo_013">
+        <source>ORBA 3 (поля 1–255)</source>
+        <translation>ORBA 3 (поля 1–255)</translation>
+    </message>
+    <message id="cfgo_017">
+        <source>По вкладкам, байт: %1</source>
+        <translation>По вкладкам, байт: %1</translation>
+    </message>
+    <message id="cfgo_016">
+        <source>Запись занимает %1 байт, больше допустимых %2: терминал не сможет сохранять такие записи. Снимите
+</source>
+        <translation>Запись занимает %1 байт, больше допустимых %2: терминал не сможет сохранять такие записи. Снимите
+</translation>
+    </message>
+    <message id="cfgo_019">
+        <source>Файл %1 не является конфигурацией с набором полей записи.</source>
+        <translation>Файл %1 не является конфигурацией с набором полей записи.</translation>
+    </message>
+    <message id="cfgo_018">
+        <source>Набор полей из файла конфигурации</source>
+        <translation>Набор полей из файла конфигурации</translation>
+    </message>
+    <message id="cfgo_020">
+        <source>Файлы конфигурации (*.xml);;Все файлы (*)</source>
+        <translation>Файлы конфигурации (*.xml);;Все файлы (*)</translation>
+    </message>
+    <message id="cfgo_029">
+        <source>Ошибка</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message id="cfgo_030">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_031">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_032">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_033">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_034">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_035">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_036">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_037">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_038">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_039">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_040">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_041">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_042">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cfgo_043">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cmpc_001">
+        <source>Сравнение конфигураций</source>
+        <translation>Сравнение конфигураций</translation>
+    </message>
+    <message id="cmpc_002">
+        <source>Раздел / узел</source>
+        <translation>Раздел / узел</translation>
+    </message>
+    <message id="cmpc_003">
+        <source>Ключ</source>
+        <translation>Ключ</translation>
+    </message>
+    <message id="cmpc_004">
+        <source>Название</source>
+        <translation>Название</translation>
+    </message>
+    <message id="cmpc_005">
+        <source>В редакторе</source>
+        <translation>В редакторе</translation>
+    </message>
+    <message id="cmpc_006">
+        <source>В другой</source>
+        <translation>В другой</translation>
+    </message>
+    <message id="cmpc_007">
+        <source>Сравнение с: %1</source>
+        <translation>Сравнение с: %1</translation>
+    </message>
+    <message id="cmpc_008">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cmpc_009">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="cmpc_010">
+        <source>(нет)</source>
+        <translation>(нет)</translation>
+    </message>
+    <message id="cmpc_011">
+        <source>(корень)</source>
+        <translation>(корень)</translation>
+    </message>
+    <message id="cfgx_002">
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</source>
+        <translation>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</translation>
+    </message>
+    <message id="cfgx_003">
+        <source>Фильтр:</source>
+        <translation>Фильтр:</translation>
+    </message>
+    <message id="cfgx_004">
+        <source>Показать только узлы, ключи и значения, содержащие этот текст</source>
+        <translation>Показать только узлы, ключи и значения, содержащие этот текст</translation>
+    </message>
+    <message id="cfgx_005">
+        <source>Разделы конфигурации, которые терминал прислал сверх страниц редактора</source>
+        <translation>Разделы конфигурации, которые терминал прислал сверх страниц редактора</translation>
+    </message>
+    <message id="cfgx_006">
+        <source>Узел</source>
+        <translation>Узел</translation>
+    </message>
+    <message id="cfgx_007">
+        <source>Ключ</source>
+        <translation>Ключ</translation>
+    </message>
+    <message id="cfgx_008">
+        <source>Значение</source>
+        <translation>Значение</translation>
+    </message>
+    <message id="cfgx_001">
+        <source>Прочие настройки</source>
+        <translation>Прочие настройки</translation>
+    </message>
+    <message id="wcfg_002">
+        <source>Новая</source>
+        <translation>Новая</translation>
+    </message>
+    <message id="wcfg_003">
+        <source>Новая конфигурация со значениями по умолчанию</source>
+        <translation>Новая конфигурация со значениями по умолчанию</translation>
+    </message>
+    <message id="wcfg_004">
+        <source>Открыть...</source>
+        <translation>Открыть...</translation>
+    </message>
+    <message id="wcfg_005">
+        <source>Открыть файл конфигурации</source>
+        <translation>Открыть файл конфигурации</translation>
+    </message>
+    <message id="wcfg_006">
+        <source>Сохранить</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message id="wcfg_007">
+        <source>Сохранить конфигурацию в её файл</source>
+        <translation>Сохранить конфигурацию в её файл</translation>
+    </message>
+    <message id="wcfg_008">
+        <source>Сохранить как...</source>
+        <translation>Сохранить как...</translation>
+    </message>
+    <message id="wcfg_009">
+        <source>Сохранить конфигурацию в другой файл</source>
+        <translation>Сохранить конфигурацию в другой файл</translation>
+    </message>
+    <message id="wcfg_010">
+        <source>Прочитать из терминала</source>
+        <translation>Прочитать из терминала</translation>
+    </message>
+    <message id="wcfg_011">
+        <source>Прочитать конфигурацию из подключённого терминала</source>
+        <translation>Прочитать конфигурацию из подключённого терминала</translation>
+    </message>
+    <message id="wcfg_012">
+        <source>Записать в терминал</source>
+        <translation>Записать в терминал</translation>
+    </message>
+    <message id="wcfg_013">
+        <source>Записать конфигурацию в подключённый терминал</source>
+        <translation>Записать конфигурацию в подключённый терминал</translation>
+    </message>
+    <message id="wcfg_014">
+        <source>По умолчанию</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message id="wcfg_015">
+        <source>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</source>
+        <translation>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</translation>
+    </message>
+    <message id="wcfg_016">
+        <source>Сравнить</source>
+        <translation>Сравнить</translation>
+    </message>
+    <message id="wcfg_017">
+        <source>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</source>
+        <translation>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</translation>
+    </message>
+    <message id="wcfg_019">
+        <source>Переключить полный и простой редактор</source>
+        <translation>Переключить полный и простой редактор</translation>
+    </message>
+    <message id="wcfg_030">
+        <source></source>
+        <translation></translation>
+    </message>
+    <message id="wcfg_020">
+        <source>С файлом...</source>
+        <translation>С файлом...</translation>
+    </message>
+    <message id="wcfg_021">
+        <source>С последней прочитанной из терминала</source>
+        <translation>С последней прочитанной из терминала</translation>
+    </message>
+    <message id="wcfg_022">
+        <source>строка %1, столбец %2: %3</source>
+        <translation>строка %1, столбец %2: %3</translation>
+    </message>
+    <message id="wcfg_023">
+        <source>файл не найден</source>
+        <translation>файл не найден</translation>
+    </message>
+    <message id="wcfg_024">
+        <source>файл пуст</source>
+        <translation>файл пуст</translation>
+    </message>
+    <message id="wcfg_025">
+        <source>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</source>
+        <translation>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</translation>
+    </message>
+    <message id="wcfg_026">
+        <source>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</source>
+        <translation>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</translation>
+    </message>
+    <message id="wcfg_027">
+        <source>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</source>
+        <translation>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</translation>
+    </message>
+    <message id="wcfg_028">
+        <source>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</source>
+        <translation>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</translation>
+    </message>
+    <message id="wcfg_018">
+        <source>Простой редактор</source>
+        <translation>Простой редактор</translation>
+    </message>
+    <message id="wcfg_029">
+        <source>Полный редактор</source>
+        <translation>Полный редактор</translation>
+    </message>
+    <message id="wcfg_031">
+        <source>Конфигурация изменена. Сохранить изменения?</source>
+        <translation>Конфигурация изменена. Сохранить изменения?</translation>
+    </message>
+    <message id="wcfg_032">
+        <source>Сохранить</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message id="wcfg_033">
+        <source>Не сохранять</source>
+        <translation>Не сохранять</translation>
+    </message>
+    <message id="wcfg_034">
+        <source>Отмена</source>
+        <translation>Отмена</translation>
+    </message>
+    <message id="wcfg_035">
+        <source>Файлы конфигурации (*.xml)</source>
+        <translation>Файлы конфигурации (*.xml)</translation>
+    </message>
+    <message id="cfgl_001">
+        <source>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</source>
+        <translation>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</translation>
+    </message>
+    <message id="cfgl_002">
+        <source>Период записи в движении, с:</source>
+        <translation>Период записи в движении, с:</translation>
+    </message>
+    <message id="cfgl_003">
+        <source>Интервал между точками трека в движении, от 0 до 99999 с</source>
+        <translation>Интервал между точками трека в движении, от 0 до 99999 с</translation>
+    </message>
+    <message id="cfgl_004">
+        <source>Дистанция, м:</source>
+        <translation>Дистанция, м:</translation>
+    </message>
+    <message id="cfgl_005">
+        <source>Точка трека через каждые N метров, от 1 до 10000 м</source>
+        <translation>Точка трека через каждые N метров, от 1 до 10000 м</translation>
+    </message>
+    <message id="cfgl_006">
+        <source>Угол поворота, °:</source>
+        <translation>Угол поворота, °:</translation>
+    </message>
+    <message id="cfgl_007">
+        <source>Точка трека при повороте на этот угол, от 1 до 90°</source>
+        <translation>Точка трека при повороте на этот угол, от 1 до 90°</translation>
+    </message>
+    <message id="cfgl_008">
+        <source>Период записи на стоянке, с:</source>
+        <translation>Период записи на стоянке, с:</translation>
+    </message>
+    <message id="cfgl_009">
+        <source>Интервал между точками трека на стоянке, от 0 до 99999 с</source>
+        <translation>Интервал между точками трека на стоянке, от 0 до 99999 с</translation>
+    </message>
+    <message id="cfgl_010">
+        <source>Поколение протокола:</source>
+        <translation>Поколение протокола:</translation>
+    </message>
+    <message id="cfgl_011">
+        <source>Формат записей телеметрии ORBA: 1, 2 или 3</source>
+        <translation>Формат записей телеметрии ORBA: 1, 2 или 3</translation>
+    </message>
+    <message id="cfgl_012">
+        <source>ORBA 1</source>
+        <translation>ORBA 1</translation>
+    </message>
+    <message id="cfgl_013">
+        <source>ORBA 2</source>
+        <translation>ORBA 2</translation>
+    </message>
+    <message id="cfgl_014">
+        <source>ORBA 3</source>
+        <translation>ORBA 3</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,648 @@
+#include "config_model/config_keys.h"
+
+#include "config_model/parameters.h"
+#include "config_model/xml_workdata.h"
+#include "config_model/zrk_track_caps.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <memory>
+
+namespace zrk::cfg {
+
+namespace {
+
+using T = KeyType;
+const QString kIntZero = QStringLiteral("0");
+const QString kIntOne = QStringLiteral("1");
+const QVector<int> kZeroOne { 0, 1 };
+const QVector<int> kAveragingModes { 0, 1, 3 }; // 2 is never written
+
+KeyDecl integer(const char* group, const char* key, int readDefault, int reset, int min, int max,
+    const char* label)
+{
+    KeyDecl d;
+    d.group = QLatin1String(group);
+    d.key = QLatin1String(key);
+    d.type = T::Integer;
+    d.readDefault = QString::number(readDefault);
+    d.resetValue = QString::number(reset);
+    d.min = min;
+    d.max = max;
+    d.labelId = label;
+    return d;
+}
+
+KeyDecl choice(const char* group, const char* key, int readDefault, int reset, QVector<int> choices,
+    const char* label)
+{
+    KeyDecl d = integer(group, key, readDefault, reset, choices.first(), choices.last(), label);
+    d.choices = std::move(choices);
+    return d;
+}
+
+KeyDecl boolean(const char* group, const char* key, bool readDefault, bool reset, const char* label)
+{
+    KeyDecl d;
+    d.group = QLatin1String(group);
+    d.key = QLatin1String(key);
+    d.type = T::Bool;
+    d.readDefault = readDefault ? kIntOne : kIntZero;
+    d.resetValue = reset ? kIntOne : kIntZero;
+    d.min = 0;
+    d.max = 1;
+    d.labelId = label;
+    return d;
+}
+
+KeyDecl text(const char* group, const char* key, const QString& readDefault, const QString& reset,
+    const char* label)
+{
+    KeyDecl d;
+    d.group = QLatin1String(group);
+    d.key = QLatin1String(key);
+    d.type = T::Text;
+    d.readDefault = readDefault;
+    d.resetValue = reset;
+    d.labelId = label;
+    return d;
+}
+
+KeyDecl flags(const char* group, const char* key, int length, const QString& readDefault,
+    const QString& reset, const char* label)
+{
+    KeyDecl d = text(group, key, readDefault, reset, label);
+    d.type = T::Flags;
+    d.length = length;
+    return d;
+}
+
+QString oneDecimal(double value)
+{
+    return QString::number(value, 'f', 1);
+}
+
+// Flag strings are read padded on the right with "0" and cut to their length.
+QString fitFlags(const QString& value, int length)
+{
+    return value.left(length).leftJustified(length, QLatin1Char('0'));
+}
+
+} // namespace
+
+int BranchDecl::indexOf(const QString& group, const QString& key) const
+{
+    for (int i = 0; i < keys.size(); ++i) {
+        if (keys[i].group == group && keys[i].key == key)
+            return i;
+    }
+    return -1;
+}
+
+BranchDecl trackBranch(const ZRK_Track_Caps& caps)
+{
+    BranchDecl b;
+    b.top = QStringLiteral("TRACK");
+    b.groups = QStringList { QStringLiteral("POINTS"), QStringLiteral("LIMPOINT"),
+        QStringLiteral("COORDFLT"), QStringLiteral("COORDAVER"), QStringLiteral("MOVESENS") };
+    const QString hdop = oneDecimal(double(caps.maxHdopDefault));
+    auto& k = b.keys;
+    //% "Ставить точки только в движении (правило старт/стоп)"
+    k << boolean("POINTS", "useMoveSens", true, true, QT_TRID_NOOP("cfgt3_007"));
+    //% "Ставить точку при превышении скорости"
+    k << boolean("POINTS", "useMaxSpeed", false, false, QT_TRID_NOOP("cfgt3_008"));
+    //% "Порог скорости, км/ч"
+    k << integer("POINTS", "maxSpeed", 100, 100, 1, 180, QT_TRID_NOOP("cfgt3_009"));
+    //% "Правило поворота"
+    k << integer("POINTS", "angleMode", 2, 2, 0, 2, QT_TRID_NOOP("cfgt3_010"));
+    //% "Угол поворота, °"
+    k << integer("POINTS", "angle", 5, 5, 1, 90, QT_TRID_NOOP("cfgt3_013"));
+    //% "Ставить точку по расстоянию, м"
+    k << boolean("POINTS", "useDist", true, true, QT_TRID_NOOP("cfgt3_014"));
+    //% "Расстояние, м"
+    k << integer("POINTS", "dist", 500, 500, 1, 10000, QT_TRID_NOOP("cfgt3_015"));
+    //% "Ставить точку по таймеру в движении, с"
+    k << boolean("POINTS", "useTimer", true, true, QT_TRID_NOOP("cfgt3_016"));
+    //% "Таймер в движении, с"
+    k << integer("POINTS", "moveTimer", 60, 60, 0, 99999, QT_TRID_NOOP("cfgt3_017"));
+    //% "Признаки движения для таймера"
+    k << flags("POINTS", "moveTimerSens", 4, "0000", "0000", QT_TRID_NOOP("cfgt3_018"));
+    //% "Таймер на стоянке, с"
+    k << integer("POINTS", "stopTimer", 600, 600, 0, 99999, QT_TRID_NOOP("cfgt3_023"));
+
+    //% "Не ставить точки ближе, м"
+    k << boolean("LIMPOINT", "blockDist", true, true, QT_TRID_NOOP("cfgt3_025"));
+    //% "Минимальное расстояние между точками, м"
+    k << integer("LIMPOINT", "dist", 10, 10, 1, 200, QT_TRID_NOOP("cfgt3_026"));
+    //% "Не ставить точки чаще, с"
+    k << boolean("LIMPOINT", "blockTimer", false, false, QT_TRID_NOOP("cfgt3_027"));
+    //% "Минимальный интервал между точками, с"
+    k << integer("LIMPOINT", "timer", 5, 5, 1, 99999, QT_TRID_NOOP("cfgt3_028"));
+
+    //% "Фильтр координат"
+    k << boolean("COORDFLT", "use", true, true, QT_TRID_NOOP("cfgt3_029"));
+    //% "Минимум спутников"
+    k << integer("COORDFLT", "minSats", 4, 4, 1, 255, QT_TRID_NOOP("cfgt3_031"));
+    KeyDecl maxHdop = text("COORDFLT", "maxHDOP", hdop, hdop,
+        //% "Максимальный HDOP"
+        QT_TRID_NOOP("cfgt3_032"));
+    maxHdop.type = T::Decimal;
+    maxHdop.min = 1; // 0.1
+    maxHdop.max = 1000; // the widget's own upper bound, 100.0
+    k << maxHdop;
+    //% "Максимальная скорость, км/ч"
+    k << integer("COORDFLT", "maxSpeed", 200, 200, 1, 1500, QT_TRID_NOOP("cfgt3_033"));
+    //% "Максимальное ускорение"
+    k << integer("COORDFLT", "maxAccel", 25, 25, 1, 100, QT_TRID_NOOP("cfgt3_034"));
+    //% "Максимальный скачок, м"
+    k << integer("COORDFLT", "maxDist", 100, 100, 1, 500, QT_TRID_NOOP("cfgt3_035"));
+    //% "Отбраковок подряд, не более"
+    k << integer("COORDFLT", "maxFilterCnt", 5, 5, 0, 250, QT_TRID_NOOP("cfgt3_036"));
+    //% "Минимальная высота, м"
+    k << integer("COORDFLT", "minAlt", -100, -100, -32768, 32767, QT_TRID_NOOP("cfgt3_037"));
+    //% "Максимальная высота, м"
+    k << integer("COORDFLT", "maxAlt", 3000, 3000, -32768, 32767, QT_TRID_NOOP("cfgt3_038"));
+    if (caps.rejectDeltaNtp) {
+        //% "Расхождение с временем сети, с"
+        k << integer("COORDFLT", "deltaNTP", 5, 5, 0, 255, QT_TRID_NOOP("cfgt3_039"));
+    }
+
+    //% "Координаты на стоянке"
+    k << choice("COORDAVER", "mode", 1, 1, kAveragingModes, QT_TRID_NOOP("cfgt3_040"));
+    const int sensorLength = caps.avgSensorCount >= 5 ? 5 : 4;
+    //% "Признаки стоянки"
+    k << flags("COORDAVER", "sensors", sensorLength, caps.avgSensorsDefault,
+        fitFlags(caps.avgSensorsDefault, sensorLength), QT_TRID_NOOP("cfgt3_044"));
+
+    //% "Режим стоянки"
+    k << choice("MOVESENS", "mode", 1, 1, kZeroOne, QT_TRID_NOOP("cfgt3_051"));
+    //% "Время до стоянки, с"
+    k << integer("MOVESENS", "stopTimer", 30, 30, 0, 65535, QT_TRID_NOOP("cfgt3_056"));
+
+    if (caps.gnssPresent) {
+        b.groups << QStringLiteral("GNSS");
+        //% "Спутниковые системы"
+        k << text("GNSS", "mode", caps.gnssModeDefault, caps.gnssModeDefault, QT_TRID_NOOP("cfgt3_057"));
+        if (caps.gnssAgps) {
+            //% "Помощь A-GPS"
+            k << boolean("GNSS", "useAGPS", true, true, QT_TRID_NOOP("cfgt3_058"));
+        }
+        if (caps.gnssEpo) {
+            //% "Прогноз орбит (EPO)"
+            k << boolean("GNSS", "useEPO", false, false, QT_TRID_NOOP("cfgt3_059"));
+        }
+        if (caps.gnssAngle) {
+            //% "Маска возвышения спутников, °"
+            k << integer("GNSS", "angle", 5, 5, 0, 90, QT_TRID_NOOP("cfgt3_060"));
+        }
+        if (caps.gnssDatum) {
+            //% "Система координат"
+            k << choice("GNSS", "datum", 0, 0, kZeroOne, QT_TRID_NOOP("cfgt3_061"));
+        }
+        if (caps.gnssReceiver) {
+            //% "Приёмник"
+            k << integer("GNSS", "receiver", 0, 0, 0, 255, QT_TRID_NOOP("cfgt3_064"));
+        }
+        if (caps.coldRestartTimer) {
+            //% "Таймер холодного рестарта приёмника"
+            k << integer("GNSS", "coldRstTimer", 5, 0, 0, 255, QT_TRID_NOOP("cfgt3_067"));
+        }
+    }
+    return b;
+}
+
+// The black list's rows as a fresh terminal has them: phone hotspots and the like.
+const QStringList& blackListDefaults()
+{
+    static const QStringList rows { QStringLiteral("70mai"), QStringLiteral("galaxy"),
+        QStringLiteral("iphone"), QStringLiteral("honor"), QStringLiteral("realme"),
+        QStringLiteral("redmi"), QStringLiteral("vivo"), QStringLiteral("samsung"),
+        QStringLiteral("xiaomi"), QStringLiteral("zte"), QString(), QString() };
+    return rows;
+}
+
+BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
+{
+    BranchDecl b;
+    b.top = QStringLiteral("LOCATOR");
+    auto& k = b.keys;
+    // The two period widgets share their keys; only the timers' defaults and minimums differ.
+    auto period = [&k](const char* group, int readMove, int resetMove, int minMove, int minStop) {
+        //% "Период в движении, с"
+        k << integer(group, "moveTimer", readMove, resetMove, minMove, 65535, QT_TRID_NOOP("cfgt3_071"));
+        //% "Признаки движения"
+        k << flags(group, "moveSens", 4, "0000", "0000", QT_TRID_NOOP("cfgt3_072"));
+        //% "Период на стоянке, с (0 — выключено)"
+        KeyDecl stop = integer(group, "stopTimer", 0, 0, minStop, 65535, QT_TRID_NOOP("cfgt3_073"));
+        stop.zeroMeansOff = true;
+        k << stop;
+    };
+    //% "Источники"
+    const char* sourceLabel = QT_TRID_NOOP("cfgt3_070");
+    if (caps.locatorTlm) {
+        b.groups << QStringLiteral("TLM");
+        //% "Позиционирование для телеметрии"
+        k << boolean("TLM", "use", false, false, QT_TRID_NOOP("cfgt3_069"));
+        k << flags("TLM", "source", 2, "10", "10", sourceLabel);
+        period("TLM", 60, 20, 10, 10);
+    }
+    if (caps.locatorGlobal) {
+        b.groups << QStringLiteral("GLOBAL");
+        //% "Сервис локации"
+        k << boolean("GLOBAL", "use", false, false, QT_TRID_NOOP("cfgt3_074"));
+        //% "Ключ доступа"
+        k << text("GLOBAL", "key", QString(), QString(), QT_TRID_NOOP("cfgt3_075"));
+        //% "Условие"
+        k << choice("GLOBAL", "condition", 0, 0, kZeroOne, QT_TRID_NOOP("cfgt3_076"));
+        if (caps.locatorAddTlm) {
+            //% "Добавлять в телеметрию"
+            KeyDecl add = integer("GLOBAL", "addTlm", 0, 0, 0, 2, QT_TRID_NOOP("cfgt3_077"));
+            add.keptOnReset = true;
+            k << add;
+        }
+        k << flags("GLOBAL", "source", 2, "10", "10", sourceLabel);
+        period("GLOBAL", 60, 60, 20, 20);
+
+        if (caps.locatorCoordFilter) {
+            b.groups << QStringLiteral("COORDFILT");
+            //% "Фильтр координат локатора"
+            k << boolean("COORDFILT", "use", true, true, QT_TRID_NOOP("cfgt3_078"));
+            //% "Предельная скорость, км/ч"
+            k << integer("COORDFILT", "speed", 130, 130, 0, 255, QT_TRID_NOOP("cfgt3_079"));
+            //% "Отбраковок подряд до принятия"
+            k << integer("COORDFILT", "rejCnt", 2, 2, 0, 255, QT_TRID_NOOP("cfgt3_080"));
+            //% "Записывать отбракованные координаты"
+            k << boolean("COORDFILT", "bbWrite", false, false, QT_TRID_NOOP("cfgt3_081"));
+            if (caps.locatorRecheckWifi) {
+                //% "Перепроверять по Wi-Fi"
+                k << boolean("COORDFILT", "recheckWiFi", true, true, QT_TRID_NOOP("cfgt3_082"));
+            }
+            //% "Перепроверять по GNSS"
+            k << boolean("COORDFILT", "recheckGNSS", true, true, QT_TRID_NOOP("cfgt3_083"));
+        }
+        if (caps.locatorApFilter) {
+            b.groups << QStringLiteral("APFILT");
+            //% "Фильтр точек доступа"
+            k << boolean("APFILT", "use", true, true, QT_TRID_NOOP("cfgt3_084"));
+            //% "Минимальный уровень точки доступа, дБм"
+            k << integer("APFILT", "rxLvl", -65, -65, -128, 127, QT_TRID_NOOP("cfgt3_085"));
+        }
+        if (caps.locatorBlackList) {
+            b.groups << QStringLiteral("BLIST");
+            const QStringList& rows = blackListDefaults();
+            for (int i = 0; i < rows.size(); ++i) {
+                const QByteArray key = "bm" + QByteArray::number(i + 1);
+                //% "Чёрный список, строка %1"
+                KeyDecl row = text("BLIST", "", rows[i], rows[i], QT_TRID_NOOP("cfgt3_087"));
+                row.key = QString::fromLatin1(key);
+                k << row;
+            }
+        }
+    }
+    return b;
+}
+
+const QVector<BranchDecl>& declaredBranches()
+{
+    // Write order of the window: record field set ("PROTOCOL"), then track and locator.
+    static const QVector<BranchDecl> branches = [] {
+        const ZRK_Track_Caps caps = zrkTrackCaps();
+        QVector<BranchDecl> list;
+        list << trackBranch(caps);
+        const BranchDecl locator = locatorBranch(caps);
+        if (!locator.keys.isEmpty())
+            list << locator;
+        return list;
+    }();
+    return branches;
+}
+
+const BranchDecl* declaredBranch(const QString& top)
+{
+    for (const BranchDecl& b : declaredBranches()) {
+        if (b.top == top)
+            return &b;
+    }
+    return nullptr;
+}
+
+const KeyDecl* findDeclaredKey(const QString& node, const QString& key)
+{
+    const int slash = node.indexOf(QLatin1Char('/'));
+    const QString top = slash < 0 ? QString() : node.left(slash);
+    const QString group = slash < 0 ? node : node.mid(slash + 1);
+    for (const BranchDecl& b : declaredBranches()) {
+        if (!top.isEmpty() && b.top != top)
+            continue;
+        // A key on the top node itself is named by the top node alone.
+        const QString g = (slash < 0 && group == b.top) ? QString() : group;
+        const int i = b.indexOf(g, key);
+        if (i >= 0)
+            return &b.keys[i];
+    }
+    return nullptr;
+}
+
+QString declaredKeyLabel(const KeyDecl& decl)
+{
+    if (!decl.labelId)
+        return decl.key;
+    const QString label = qtTrId(decl.labelId);
+    if (!label.contains(QLatin1String("%1")))
+        return label;
+    // Numbered rows ("bm7") carry their number in the label.
+    static const QRegularExpression trailingNumber(QStringLiteral("(\\d+)$"));
+    return label.arg(trailingNumber.match(decl.key).captured(1));
+}
+
+QString normalizedValue(const KeyDecl& decl, const QString& value)
+{
+    switch (decl.type) {
+    case T::Integer: {
+        const int v = value.toInt();
+        if (decl.zeroMeansOff && v == 0)
+            return kIntZero;
+        return QString::number(std::clamp(v, decl.min, decl.max));
+    }
+    case T::Bool:
+        return value.toInt() != 0 ? kIntOne : kIntZero;
+    case T::Flags:
+        return fitFlags(value, decl.length);
+    case T::Decimal:
+        return oneDecimal(std::clamp(value.toDouble(), decl.min / 10.0, decl.max / 10.0));
+    case T::Text:
+        break;
+    }
+    return value;
+}
+
+Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
+{
+    Values values;
+    values.reserve(branch.keys.size());
+    std::unique_ptr<CXMLWorkData> top(root ? root->createNode(branch.top.toLatin1().constData(), 0) : nullptr);
+    QString openGroup;
+    std::unique_ptr<CXMLWorkData> node;
+    for (const KeyDecl& d : branch.keys) {
+        if (!node || d.group != openGroup) {
+            openGroup = d.group;
+            if (d.group.isEmpty())
+                node.reset();
+            else
+                node.reset(top ? top->createNode(d.group.toLatin1().constData(), 0) : nullptr);
+        }
+        const CXMLWorkData* from = d.group.isEmpty() ? top.get() : node.get();
+        if (!from) {
+            values << d.readDefault;
+            continue;
+        }
+        const QByteArray key = d.key.toLatin1();
+        switch (d.type) {
+        case T::Integer:
+            values << QString::number(from->readInteger(key.constData(), d.readDefault.toInt()));
+            break;
+        case T::Bool:
+            values << (from->readBool(key.constData(), d.readDefault != kIntZero) ? kIntOne : kIntZero);
+            break;
+        case T::Decimal:
+            values << oneDecimal(double(from->readFloat(key.constData(), d.readDefault.toFloat())));
+            break;
+        case T::Text:
+        case T::Flags:
+            values << from->readString(key.constData(), d.readDefault);
+            break;
+        }
+    }
+    return values;
+}
+
+void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& values)
+{
+    if (!root || branch.keys.isEmpty())
+        return;
+    std::unique_ptr<CXMLWorkData> top(root->createNode(branch.top.toLatin1().constData(), 0));
+    if (!top)
+        return;
+    top->clearNode();
+    top->writeString(kPageKey, branch.top);
+    auto writeKey = [&values](CXMLWorkData* node, const KeyDecl& d, int i) {
+        const QByteArray key = d.key.toLatin1();
+        const QString value = i < values.size() ? values[i] : d.resetValue;
+        switch (d.type) {
+        case T::Integer:
+            node->writeInteger(key.constData(), value.toInt());
+            break;
+        case T::Bool:
+            node->writeBool(key.constData(), value.toInt() != 0);
+            break;
+        case T::Decimal:
+        case T::Text:
+        case T::Flags:
+            node->writeString(key.constData(), value);
+            break;
+        }
+    };
+    for (int i = 0; i < branch.keys.size(); ++i) {
+        if (branch.keys[i].group.isEmpty())
+            writeKey(top.get(), branch.keys[i], i);
+    }
+    for (const QString& group : branch.groups) {
+        std::unique_ptr<CXMLWorkData> node(top->createNode(group.toLatin1().constData(), 3));
+        if (!node)
+            continue;
+        node->clearNode();
+        for (int i = 0; i < branch.keys.size(); ++i) {
+            if (branch.keys[i].group == group)
+                writeKey(node.get(), branch.keys[i], i);
+        }
+        node->writeParameters();
+    }
+    top->writeParameters();
+}
+
+Values resetValues(const BranchDecl& branch)
+{
+    Values values;
+    values.reserve(branch.keys.size());
+    for (const KeyDecl& d : branch.keys)
+        values << d.resetValue;
+    return values;
+}
+
+void writeConfigHeader(CXMLWorkData* root, const QString& model, const QString& vendor)
+{
+    if (!root)
+        return;
+    root->writeString(kHeaderModel, model);
+    root->writeString(kHeaderVersion, QString::fromLatin1(kVersionText));
+    root->writeString(kHeaderCreator, QString::fromLatin1(kCreatorText));
+    root->writeString(kHeaderVendor, vendor);
+}
+
+QByteArray renderNewConfiguration(const QString& model, const QString& vendor)
+{
+    coreSzCreateMemo memo { 0, nullptr, nullptr };
+    zrk_StartSZMemo(&memo);
+    if (!memo.handle)
+        return QByteArray();
+    {
+        CXMLWorkData root(memo.handle, kRootNode);
+        root.clearNode();
+        writeConfigHeader(&root, model, vendor);
+        for (const BranchDecl& b : declaredBranches())
+            writeBranch(&root, b, resetValues(b));
+        root.writeParameters();
+    }
+    zrk_GetSZMemo(&memo);
+    QByteArray bytes(memo.size, '\0');
+    memo.data = reinterpret_cast<unsigned char*>(bytes.data());
+    zrk_StopSZMemo(&memo);
+    return bytes;
+}
+
+// ---- lint ----------------------------------------------------------------------------------------
+
+namespace {
+
+QString expectedText(const KeyDecl& d)
+{
+    switch (d.type) {
+    case T::Integer:
+        if (!d.choices.isEmpty()) {
+            QStringList c;
+            for (int v : d.choices)
+                c << QString::number(v);
+            return QStringLiteral("one of ") + c.join(QStringLiteral(", "));
+        }
+        if (d.zeroMeansOff)
+            return QStringLiteral("0 or an integer %1..%2").arg(d.min).arg(d.max);
+        return QStringLiteral("an integer %1..%2").arg(d.min).arg(d.max);
+    case T::Bool:
+        return QStringLiteral("0 or 1");
+    case T::Flags:
+        return QStringLiteral("%1 flags of 0/1").arg(d.length);
+    case T::Decimal:
+        return QStringLiteral("a number with one decimal, %1..%2").arg(oneDecimal(d.min / 10.0), oneDecimal(d.max / 10.0));
+    case T::Text:
+        break;
+    }
+    return QString();
+}
+
+bool valueFits(const KeyDecl& d, const QString& value)
+{
+    switch (d.type) {
+    case T::Integer: {
+        bool ok = false;
+        const int v = value.toInt(&ok);
+        if (!ok)
+            return false;
+        if (!d.choices.isEmpty())
+            return d.choices.contains(v);
+        return (d.zeroMeansOff && v == 0) || (v >= d.min && v <= d.max);
+    }
+    case T::Bool:
+        return value == kIntZero || value == kIntOne;
+    case T::Flags: {
+        static const QRegularExpression bits(QStringLiteral("^[01]*$"));
+        return value.size() == d.length && bits.match(value).hasMatch();
+    }
+    case T::Decimal: {
+        static const QRegularExpression decimal(QStringLiteral("^\\d+\\.\\d$"));
+        const double v = value.toDouble();
+        return decimal.match(value).hasMatch() && v >= d.min / 10.0 - 1e-9 && v <= d.max / 10.0 + 1e-9;
+    }
+    case T::Text:
+        break;
+    }
+    return true;
+}
+
+// The values an element holds as they would be written: attributes by name, the last one winning.
+QVector<QPair<QString, QString>> attributesOf(const CXMLWorkData& node)
+{
+    QVector<QPair<QString, QString>> out;
+    for (int i = 0; i < node.params.count; ++i) {
+        const COneParameter& p = node.params.items[i];
+        if (p.isNode)
+            continue;
+        const QString name = QString::fromLocal8Bit(p.name);
+        QString value;
+        p.asQString(value);
+        auto it = std::find_if(out.begin(), out.end(), [&name](const auto& a) { return a.first == name; });
+        if (it != out.end())
+            it->second = value;
+        else
+            out.append({ name, value });
+    }
+    return out;
+}
+
+} // namespace
+
+QVector<LintFinding> lintConfiguration(CXMLWorkData* root)
+{
+    QVector<LintFinding> findings;
+    if (!root)
+        return findings;
+    for (int t = 0; t < root->params.count; ++t) {
+        const COneParameter& topItem = root->params.items[t];
+        const BranchDecl* branch = topItem.isNode ? declaredBranch(QString::fromLocal8Bit(topItem.name)) : nullptr;
+        if (!branch || !topItem.tag)
+            continue;
+        CXMLWorkData top(root->serializer(), topItem.tag);
+        for (const auto& [name, value] : attributesOf(top)) {
+            if (name == QLatin1String(kPageKey)) {
+                if (value != branch->top)
+                    findings.append({ branch->top, name, value, branch->top });
+            } else if (branch->indexOf(QString(), name) < 0) {
+                findings.append({ branch->top, name, value, QStringLiteral("no such key") });
+            }
+        }
+        QStringList seen;
+        for (int g = 0; g < top.params.count; ++g) {
+            const COneParameter& groupItem = top.params.items[g];
+            if (!groupItem.isNode || !groupItem.tag)
+                continue;
+            const QString group = QString::fromLocal8Bit(groupItem.name);
+            const QString path = branch->top + QLatin1Char('/') + group;
+            if (!branch->groups.contains(group)) {
+                findings.append({ path, QString(), QString(), QStringLiteral("no such node") });
+                continue;
+            }
+            if (seen.contains(group)) {
+                findings.append({ path, QString(), QString(), QStringLiteral("one such node") });
+                continue;
+            }
+            seen << group;
+            CXMLWorkData node(root->serializer(), groupItem.tag);
+            const auto attributes = attributesOf(node);
+            for (const auto& [name, value] : attributes) {
+                const int i = branch->indexOf(group, name);
+                if (i < 0)
+                    findings.append({ path, name, value, QStringLiteral("no such key") });
+                else if (!valueFits(branch->keys[i], value))
+                    findings.append({ path, name, value, expectedText(branch->keys[i]) });
+            }
+            // The altitude window keeps 100 m between its ends.
+            const int minAlt = branch->indexOf(group, QStringLiteral("minAlt"));
+            const int maxAlt = branch->indexOf(group, QStringLiteral("maxAlt"));
+            if (minAlt >= 0 && maxAlt >= 0) {
+                QString lo, hi;
+                for (const auto& [name, value] : attributes) {
+                    if (name == QLatin1String("minAlt"))
+                        lo = value;
+                    else if (name == QLatin1String("maxAlt"))
+                        hi = value;
+                }
+                if (!lo.isEmpty() && !hi.isEmpty() && lo.toInt() > hi.toInt() - 100)
+                    findings.append({ path, QStringLiteral("minAlt"), lo,
+                        QStringLiteral("at most maxAlt - 100 (%1)").arg(hi.toInt() - 100) });
+            }
+        }
+    }
+    return findings;
+}
+
+} // namespace zrk::cfg

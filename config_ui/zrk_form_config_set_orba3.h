@@ -1,0 +1,462 @@
+#pragma once
+
+// The record field-set page: which fields the terminal puts into each ORBA record and which
+// protocol generation it uses. Ten tabs each own the check boxes of a group of mask positions;
+// the page joins their positions into the 255-character mask and keeps the record size under
+// the terminal's limit.
+
+#include "config_model/orba_fieldset.h"
+
+#include <QMap>
+#include <QSet>
+#include <QVector>
+#include <QWidget>
+
+class CXMLWorkData;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLineEdit;
+class QVBoxLayout;
+namespace Ui {
+class ZRK_Designer_Form_Config_Set_Orba3;
+class ZRK_Designer_Form_Config_Set_Orba3_Tab;
+}
+
+// One group of field boxes. Every tab overrides the operations of the spans it owns; the base
+// keeps the boxes, built from each tab's list of positions, and the rules all boxes share.
+class ZRK_Form_Config_Set_Orba3_Tab : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab(QWidget* parent = nullptr);
+    ~ZRK_Form_Config_Set_Orba3_Tab() override;
+
+    // A titled group of positions; the boxes appear in the listed order.
+    struct Section
+    {
+        const char* titleId;
+        QVector<int> positions;
+    };
+
+    QString tabTitle() const;
+    QList<int> positions() const; // every mask position this tab writes
+    QCheckBox* box(int pos) const { return m_boxes.value(pos); }
+    // Bytes the ticked positions of this tab add within generation index 0..2.
+    virtual int tickedSize(int generation) const;
+    bool isPositionShown(int pos) const; // shown for this device (filters aside)
+    int shownCount(const QVector<int>& positions) const;
+    // Shows only boxes whose label contains text (any case) and, when asked, only ticked ones;
+    // returns the number of boxes left in sight.
+    int applyFilter(const QString& text, bool onlyTicked);
+
+public slots:
+    virtual void deviceConnect() { }
+    virtual void deviceDisconnect() { }
+    virtual void setDefaultParam() { }
+    virtual void setFormEnabled(bool enabled) { Q_UNUSED(enabled) }
+    virtual void translateForm() { }
+    virtual void getStrFormat_Orba_1(QString& mask) { Q_UNUSED(mask) }
+    virtual void getStrFormat_Orba_2(QString& mask) { Q_UNUSED(mask) }
+    virtual void getStrFormat_Orba_3(QString& mask) { Q_UNUSED(mask) }
+    virtual void setStrFormat_Orba_1(QString mask) { Q_UNUSED(mask) }
+    virtual void setStrFormat_Orba_2(QString mask) { Q_UNUSED(mask) }
+    virtual void setStrFormat_Orba_3(QString mask) { Q_UNUSED(mask) }
+    virtual void setFormat_Enabled_Orba_1(bool enabled) { Q_UNUSED(enabled) }
+    virtual void setFormat_Enabled_Orba_2(bool enabled) { Q_UNUSED(enabled) }
+    virtual void setFormat_Enabled_Orba_3(bool enabled) { Q_UNUSED(enabled) }
+
+signals:
+    // A position of this tab changed from the user's hand or a setter.
+    void positionToggled(int pos, bool on);
+
+protected:
+    void buildSections(const char* titleId, const QVector<Section>& sections, int columns = 2);
+    QGroupBox* makeSection(const char* titleId);
+    QCheckBox* makeBox(int pos, QGroupBox* section);
+    void setTitleId(const char* titleId) { m_titleId = titleId; }
+    QVBoxLayout* boxesLayout() const;
+    void refreshSections();
+    void translateBoxes();
+    // The shared work behind the per-span operations: generation g is 1, 2 or 3.
+    void writeSpan(QString& mask, int g) const;
+    void readSpan(const QString& mask, int g);
+    void enableSpan(int g, bool enabled);
+    // Device description: a box absent on this model is hidden; an always-recorded one is ticked
+    // and locked; a box the model keeps as it stands is locked with its state.
+    void showPosition(int pos, bool shown);
+    void showFirst(const QVector<int>& positions, int count);
+    void forcePosition(int pos, bool forced); // always recorded: ticked and locked
+    void lockPosition(int pos, bool locked); // kept as it stands: locked with its state
+    void refreshBox(int pos);
+    void notifyToggled(int pos, bool on);
+
+    QMap<int, QCheckBox*> m_boxes;
+    QMap<QCheckBox*, QGroupBox*> m_sectionOf;
+    QVector<QPair<QGroupBox*, const char*>> m_sections;
+
+private:
+    Ui::ZRK_Designer_Form_Config_Set_Orba3_Tab* ui;
+    const char* m_titleId = nullptr;
+    bool m_spanEnabled[4] = { true, true, true, true };
+    QSet<int> m_hidden; // absent on this model
+    QSet<int> m_locked;
+    QSet<int> m_forced;
+    QSet<int> m_filtered; // out of the filter's sight
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_Main : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    // deviceType picks which of the two boxes carries positions 3, 4 and 5.
+    explicit ZRK_Form_Config_Set_Orba3_Tab_Main(int deviceType, QWidget* parent = nullptr);
+    int deviceType() const { return m_deviceType; }
+    QCheckBox* alternateBox(int pos) const { return m_alternate.value(pos); }
+
+    void setDeviceUseState(bool state, bool state2);
+    void setDeviceAlwaysUseState(bool state, bool state2);
+    void setDeviceUseModule(bool module1, bool module2, bool module3);
+    void setDeviceAlwaysUseModule(bool module1, bool module2, bool module3);
+    void setDeviceUseGSM(bool gsm, bool connections);
+    void setDeviceUseMotochas(bool motochas, bool loadOn, bool loadOff);
+    void setDeviceEnabledMotochasMore(bool enabled);
+    void setMaxCountLinesOut(int count);
+    void setMaxCountStateIn(int count);
+    void setMaxCountLinesIn(int count);
+    void setMaxCountSensorsTemp(int count);
+    void setDeviceUseReservPower(bool use);
+    bool isUseReservPower() const { return m_useReserv; }
+
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_1(QString& mask) override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_1(QString mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_1(bool enabled) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+
+private:
+    int m_deviceType;
+    bool m_useReserv = true;
+    QMap<int, QCheckBox*> m_alternate; // the boxes of positions 3..5 the other device type uses
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_Navi : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_Navi(QWidget* parent = nullptr);
+    void setDeviceUseNaviMore(bool naviMore, bool preciseCoord);
+    void setDeviceUseLBS(bool use);
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_1(QString& mask) override;
+    void getStrFormat_Orba_2(QString& mask) override;
+    void setStrFormat_Orba_1(QString mask) override;
+    void setStrFormat_Orba_2(QString mask) override;
+    void setFormat_Enabled_Orba_1(bool enabled) override;
+    void setFormat_Enabled_Orba_2(bool enabled) override;
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_RS : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    ZRK_Form_Config_Set_Orba3_Tab_RS(bool rs232, bool rs485Temp, bool rs485Freq, QWidget* parent = nullptr);
+    void setRS485_FLS_MaxCount(int count);
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_1(QString& mask) override;
+    void getStrFormat_Orba_2(QString& mask) override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_1(QString mask) override;
+    void setStrFormat_Orba_2(QString mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_1(bool enabled) override;
+    void setFormat_Enabled_Orba_2(bool enabled) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+
+private:
+    bool m_rs485Temp;
+    bool m_rs485Freq;
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_CAN : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_CAN(QWidget* parent = nullptr);
+    void setDeviceUseCANState(bool use);
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_1(QString& mask) override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_1(QString mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_1(bool enabled) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_Taho : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_Taho(QWidget* parent = nullptr);
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_2(QString& mask) override;
+    void setStrFormat_Orba_2(QString mask) override;
+    void setFormat_Enabled_Orba_2(bool enabled) override;
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_More : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_More(QWidget* parent = nullptr);
+    QComboBox* tiresBox() const { return m_tires; }
+    int tickedSize(int generation) const override;
+    // "0000", "1000", "1100", "1110", "1111" for tyre-count index 0..4.
+    static QString tiresText(int index);
+    static int tiresIndex(const QString& fourChars);
+
+    void setDeviceUsePassager(bool use);
+    void setDeviceUseTires(bool use);
+    void setDeviceUseDisp(bool use);
+    void setDeviceUseVAccelAxels(bool use);
+    void setDeviceUseAinf(bool use);
+    void setDeviceUseCamera(bool use);
+    void setMaxCountHighPrecisionTemp(int count);
+    void setMaxCountHighPrecisionHumidity(int count);
+
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_2(QString& mask) override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_2(QString mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_2(bool enabled) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+
+private slots:
+    void slot_currentIndexChanged_Tires(int index);
+
+private:
+    QComboBox* m_tires = nullptr;
+    QGroupBox* m_tiresGroup = nullptr;
+    int m_tiresIndex = 0;
+    bool m_orba2Enabled = true;
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_Accel : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_Accel(QWidget* parent = nullptr);
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_2(QString& mask) override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_2(QString mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_2(bool enabled) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_FFS : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_FFS(QWidget* parent = nullptr);
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+};
+
+class ZRK_Form_Config_Set_Orba3_Tab_Refr : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_Refr(QWidget* parent = nullptr);
+public slots:
+    void translateForm() override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+};
+
+// The user parameters: each of positions 206..254 with a name and a display type.
+class ZRK_Form_Config_Set_Orba3_Tab_User : public ZRK_Form_Config_Set_Orba3_Tab
+{
+    Q_OBJECT
+public:
+    explicit ZRK_Form_Config_Set_Orba3_Tab_User(QWidget* parent = nullptr);
+    void readUserParam(CXMLWorkData* root);
+    void writeUserParam(CXMLWorkData* root);
+    zrk::fieldset::UserParams userParams() const;
+    void setUserParams(const zrk::fieldset::UserParams& params);
+    QLineEdit* nameEdit(int pos) const { return m_names.value(pos); }
+    QComboBox* typeBox(int pos) const { return m_types.value(pos); }
+
+public slots:
+    void setDefaultParam() override;
+    void setFormEnabled(bool enabled) override;
+    void translateForm() override;
+    void getStrFormat_Orba_3(QString& mask) override;
+    void setStrFormat_Orba_3(QString mask) override;
+    void setFormat_Enabled_Orba_3(bool enabled) override;
+
+private:
+    void fillTypes(QComboBox* box, int group);
+    QMap<int, QLineEdit*> m_names;
+    QMap<int, QComboBox*> m_types;
+};
+
+class ZRK_Form_Config_Set_Orba3 : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ZRK_Form_Config_Set_Orba3(QWidget* parent = nullptr);
+    ~ZRK_Form_Config_Set_Orba3() override;
+
+    void applyCaps();
+    void translateForm();
+    void initForm();
+    QString getTabTitle() const { return m_tabTitle; }
+    void setDefaultParam();
+    void readFormParam(CXMLWorkData* root);
+    void writeFormParam(CXMLWorkData* root);
+    void deviceConnect();
+    void deviceDisconnect();
+    void setFormEnabled(bool enabled);
+    void setTabIndex(int index) { m_tabIndex = index; }
+    int getTabIndex() const { return m_tabIndex; }
+
+    QString getStrFormat() const;
+    void setStrFormat(const QString& mask);
+    QString getTypeDFProtocol() const;
+    void setTypeDFProtocol(const QString& format);
+    // The mask "new" and reset start from: the defaults with this model's feature positions.
+    QString defaultMask() const;
+
+    void setProtocol_CurSize_Inc(int bytes);
+    void setProtocol_CurSize_Dec(int bytes);
+    void setFormatSize();
+    int getProtocol_CurSize() const { return m_curSize; }
+    bool isExcessSize() const { return m_excessSize; }
+    // Recounts the size from the boxes (after bulk changes) and applies the limit.
+    void recountSize();
+    QString sizeBreakdown() const;
+
+    void readUserParam(CXMLWorkData* root);
+    void writeUserParam(CXMLWorkData* root);
+
+    void openTab(int value); // 2: the page's first tab; 201..210: its tabs in creation order
+    void openTabAccel();
+    void openTabCan();
+    void openTabUser();
+
+    // Presets: the default field set, navigation only, or the mask of another configuration file.
+    void applyPresetDefault();
+    void applyPresetNavigation();
+    bool applyPresetFromFile(const QString& path, QString* error = nullptr);
+    // Filter across tabs: boxes whose label holds text, optionally ticked ones only.
+    int applyFilter(const QString& text, bool onlyTicked);
+
+    // Device description, forwarded to the tab that holds the boxes.
+    void setDeviceUseState(bool state, bool state2);
+    void setUseDefState2(bool use) { m_useDefState2 = use; }
+    bool isUseDefState2() const { return m_useDefState2; }
+    void setDeviceAlwaysUseState(bool state, bool state2);
+    void setDeviceUseModule(bool module1, bool module2, bool module3);
+    void setDeviceAlwaysUseModule(bool module1, bool module2, bool module3);
+    void setDeviceUseGSM(bool gsm, bool connections);
+    void setDeviceUseMotochas(bool motochas, bool loadOn, bool loadOff);
+    void setDeviceEnabledMotochasMore(bool enabled);
+    void setMaxCountLinesOut(int count);
+    void setMaxCountStateIn(int count);
+    void setMaxCountLinesIn(int count);
+    void setMaxCountSensorsTemp(int count);
+    void setDeviceUseNaviMore(bool naviMore, bool preciseCoord);
+    void setDeviceUseLBS(bool use);
+    void setDeviceUseCANState(bool use);
+    void setDeviceUsePassager(bool use);
+    void setDeviceUseTires(bool use);
+    void setDeviceUseDisp(bool use);
+    void setDeviceUseVAccelAxels(bool use);
+    void setDeviceUseAinf(bool use);
+    void setDeviceUseCamera(bool use);
+    void setMaxCountHighPrecisionTemp(int count);
+    void setMaxCountHighPrecisionHumidity(int count);
+    void setRS485_FLS_MaxCount(int count);
+    void setDeviceUseReservPower(bool use);
+
+    // The tabs; null until created.
+    QList<ZRK_Form_Config_Set_Orba3_Tab*> tabs() const { return m_tabs; }
+    ZRK_Form_Config_Set_Orba3_Tab_Main* tabMain() const { return m_tabMain; }
+    ZRK_Form_Config_Set_Orba3_Tab_Navi* tabNavi() const { return m_tabNavi; }
+    ZRK_Form_Config_Set_Orba3_Tab_RS* tabRS() const { return m_tabRS; }
+    ZRK_Form_Config_Set_Orba3_Tab_CAN* tabCAN() const { return m_tabCAN; }
+    ZRK_Form_Config_Set_Orba3_Tab_Taho* tabTaho() const { return m_tabTaho; }
+    ZRK_Form_Config_Set_Orba3_Tab_More* tabMore() const { return m_tabMore; }
+    ZRK_Form_Config_Set_Orba3_Tab_Accel* tabAccel() const { return m_tabAccel; }
+    ZRK_Form_Config_Set_Orba3_Tab_FFS* tabFFS() const { return m_tabFFS; }
+    ZRK_Form_Config_Set_Orba3_Tab_Refr* tabRefr() const { return m_tabRefr; }
+    ZRK_Form_Config_Set_Orba3_Tab_User* tabUser() const { return m_tabUser; }
+    Ui::ZRK_Designer_Form_Config_Set_Orba3* form() const { return ui; }
+
+signals:
+    void notify_Excess_Size(bool excess);
+
+protected:
+    void createTab_Main(int deviceType);
+    void createTab_Navi();
+    void createTab_RS(bool rs232, bool rs485Temp, bool rs485Freq);
+    void createTab_CAN();
+    void createTab_Taho();
+    void createTab_Accel();
+    void createTab_Refr();
+    void createTab_FFS();
+    void createTab_More();
+    void createTab_User();
+
+private slots:
+    void slot_currentIndexChanged_FlashFormat(int index);
+    void slot_textChanged_Filter(const QString& text);
+    void slot_stateChanged_OnlyTicked(int state);
+    void slot_pressed_PresetDefault();
+    void slot_pressed_PresetNavi();
+    void slot_pressed_PresetFile();
+    void slot_positionToggled(int pos, bool on);
+
+private:
+    void addTab(ZRK_Form_Config_Set_Orba3_Tab* tab);
+    void applyGeneration(int index);
+    void setStrFormatQuiet(const QString& mask);
+
+    Ui::ZRK_Designer_Form_Config_Set_Orba3* ui;
+    QString m_tabTitle;
+    int m_tabIndex = -1;
+    int m_curSize = 0;
+    bool m_excessSize = false;
+    bool m_useDefState2 = false;
+    bool m_bulk = false; // many boxes change at once: count once at the end
+    QString m_defMask;
+    QList<ZRK_Form_Config_Set_Orba3_Tab*> m_tabs;
+    ZRK_Form_Config_Set_Orba3_Tab_Main* m_tabMain = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_Navi* m_tabNavi = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_RS* m_tabRS = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_CAN* m_tabCAN = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_Taho* m_tabTaho = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_More* m_tabMore = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_Accel* m_tabAccel = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_FFS* m_tabFFS = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_Refr* m_tabRefr = nullptr;
+    ZRK_Form_Config_Set_Orba3_Tab_User* m_tabUser = nullptr;
+};

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "config_model/config_keys.h"
+#include "config_model/zrk_track_caps.h"
+
+#include <QHash>
+#include <QWidget>
+
+#include <functional>
+
+class CXMLWorkData;
+class QAbstractButton;
+class QRadioButton;
+class QSpinBox;
+class ZRK_Form_Config_Track_Locator_BList;
+namespace Ui {
+class ZRK_Designer_Form_Config_Track;
+}
+
+// The track page: when points are laid down, their density, the coordinate filter, averaging
+// while stopped, parking, the satellite receiver ("TRACK") and alternative positioning
+// ("LOCATOR"). Widgets are bound to the declared keys; the rules below are the special ones.
+class ZRK_Form_Config_Track : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ZRK_Form_Config_Track(QWidget* parent = nullptr);
+    // A page for other capabilities than this model's (other models of the family, tests).
+    explicit ZRK_Form_Config_Track(const ZRK_Track_Caps& caps, QWidget* parent = nullptr);
+    ~ZRK_Form_Config_Track() override;
+
+    void applyCaps();
+    void translateForm();
+    void initForm();
+    QString getTabTitle() const { return m_tabTitle; }
+    void setDefaultParam();
+    void readFormParam(CXMLWorkData* root);
+    void writeFormParam(CXMLWorkData* root);
+    void deviceConnect();
+    void deviceDisconnect();
+    void setFormEnabled(bool enabled);
+    void setTabIndex(int index) { m_tabIndex = index; }
+    int getTabIndex() const { return m_tabIndex; }
+
+    const ZRK_Track_Caps& caps() const { return m_caps; }
+
+    QString getTmrFlags() const;
+    void setTmrFlags(const QString& flags);
+    QString getSensorAverage() const;
+    void setSensorAverage(const QString& flags);
+    int getParkingMode() const;
+    void setParkingMode(int mode);
+    QString getGnssMode() const;
+    void setGnssMode(const QString& mode);
+    int getGnssCoord() const;
+    void setGnssCoord(int datum);
+    int getLocConditionCode4Name(const QString& text) const;
+    QString getLocConditionName4Code(int code) const;
+    QRadioButton* gnssButton(int index) const;
+    static QString getFloatToStr(float value, int decimals);
+    // Enables the density-limit group while any point rule (angle, direction, distance, timer) is on.
+    void setRestrictionEnabled();
+
+    // The two branches as the page holds them, in declaration order.
+    zrk::cfg::Values trackValues() const;
+    zrk::cfg::Values locatorValues() const;
+    ZRK_Form_Config_Track_Locator_BList* blackList() const { return m_blackList; }
+
+signals:
+    void openTabAccelRequested();
+    void openTabRSRequested();
+    void speedingParamChanged(bool on);
+
+private slots:
+    void slot_stateChanged_Always_checkBox_MaxSpeed(int state);
+    void slot_stateChanged_Additional_checkBox_Corner(int state);
+    void slot_stateChanged_Additional_checkBox_Direction(int state);
+    void slot_stateChanged_Additional_checkBox_Distance(int state);
+    void slot_stateChanged_Additional_checkBox_Timer(int state);
+    void slot_stateChanged_checkBox_BlockDist(int state);
+    void slot_stateChanged_checkBox_BlockTimer(int state);
+    void slot_stateChanged_checkBox_CoordFlt_Use(int state);
+    void slot_valueChanged_spinBox_MinAlt(int value);
+    void slot_valueChanged_spinBox_MaxAlt(int value);
+    void slot_stateChanged_checkBox_DeltaNtp(int state);
+    void slot_clicked_Coord_Stop_radioButton_NotAverage(bool checked);
+    void slot_clicked_Coord_Stop_radioButton_Average(bool checked);
+    void slot_clicked_Coord_Stop_radioButton_Fixed(bool checked);
+    void slot_clicked_radioButton_ParkingMode_1(bool checked);
+    void slot_clicked_radioButton_ParkingMode_2(bool checked);
+    void slot_pressed_pushButton_ParkingAccel();
+    void slot_stateChanged_checkBox_ColdRstTimer(int state);
+    void slot_stateChanged_checkBox_Tlm_Use(int state);
+    void slot_stateChanged_checkBox_Loc_Use(int state);
+    void slot_toggled_groupBox_CoordFlt_Use(bool on);
+    void slot_stateChanged_checkBox_CoordFlt_RejCnt(int state);
+    void slot_toggled_groupBox_ApFLT_Use(bool on);
+    void slot_pressed_pushButton_BlackList();
+
+private:
+    // How one declared key meets the form: a getter and setter over the key's text value, and
+    // the widget that shows it (for its tooltip).
+    struct Binding
+    {
+        std::function<QString()> get;
+        std::function<void(const QString&)> set;
+        QWidget* widget = nullptr;
+    };
+    void bind(QHash<QString, Binding>& map, const char* group, const char* key, Binding binding);
+    QVector<Binding> alignBindings(const zrk::cfg::BranchDecl& branch, QHash<QString, Binding>& map);
+    void setCounter(QAbstractButton* box, QSpinBox* spin, int value, int onValue);
+    void applyCounter(QSpinBox* spin, bool on, int onValue);
+    void enableSensorAverageForMode();
+    void setRangeTips();
+    void bindTrack();
+    void bindLocator();
+    void applyValues(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings,
+        const zrk::cfg::Values& values, bool reset);
+    zrk::cfg::Values collect(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings) const;
+    void runDependentSlots();
+
+    ZRK_Track_Caps m_caps;
+    Ui::ZRK_Designer_Form_Config_Track* ui;
+    zrk::cfg::BranchDecl m_trackDecl;
+    zrk::cfg::BranchDecl m_locatorDecl;
+    QVector<Binding> m_trackBind;
+    QVector<Binding> m_locatorBind;
+    ZRK_Form_Config_Track_Locator_BList* m_blackList = nullptr;
+    QString m_tabTitle;
+    int m_tabIndex = -1;
+};
