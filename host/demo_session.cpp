@@ -163,5 +163,6 @@ int ZrkDemoSession::run()
     ok = grabScreen(QStringLiteral("screen")) && ok;
     about->hide();
     wait->hide();
+    ok = runGeoSteps() && ok;
     return ok ? 0 : 1;
 }

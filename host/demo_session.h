@@ -33,6 +33,7 @@ private:
     bool grab(QWidget* widget, const QString& name);
     bool grabScreen(const QString& name);
     static QWidget* topLevel(const char* className);
+    bool runGeoSteps();
 
     ZrkHostWindow& m_window;
     QString m_plugin;

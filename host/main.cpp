@@ -6,6 +6,7 @@
 #include "host_window.h"
 #include "plugin_loader.h"
 #include "sim_config.h"
+#include "sim_sdcard.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -71,6 +72,8 @@ int main(int argc, char* argv[])
         ZrkHostDispatcher dispatcher(loader);
         ZrkHostWindow window(loader, dispatcher);
         new ZrkSimConfig(dispatcher, &window);
+        auto* sdCard = new ZrkSimSdCard(dispatcher, &window);
+        window.addDockWidget(Qt::RightDockWidgetArea, sdCard->createDock());
         if (parser.isSet(demo)) {
             ZrkDemoSession session(window, plugin, parser.value(demo));
             status = session.run();

@@ -16,8 +16,10 @@ int runPacketCommand(const QString& name, const QStringList& args, QTextStream& 
 int runCrcCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
 int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
 int runConfigCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
+int runGeoCommand(const QString& name, const QStringList& args, QTextStream& out, QTextStream& err);
 
 extern const char* const kPacketUsage;
 extern const char* const kCrcUsage;
 extern const char* const kDecodeUsage;
 extern const char* const kConfigUsage;
+extern const char* const kGeoUsage;

@@ -14,6 +14,7 @@ const ToolCommand kCommands[] = {
     { "crc32", nullptr, runCrcCommand },
     { "decode", kDecodeUsage, runDecodeCommand },
     { "config", kConfigUsage, runConfigCommand },
+    { "geo", kGeoUsage, runGeoCommand },
 };
 
 void printUsage(QTextStream& s)

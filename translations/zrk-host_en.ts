@@ -363,5 +363,25 @@ Allowed values: 1 to 3600 s. Default: 30 s.</translation>
         <source>%1: полный редактор, из терминала «%2»</source>
         <translation>%1: full editor, from the terminal «%2»</translation>
     </message>
+    <message id="host_500">
+        <source>SD-карта терминала</source>
+        <translation>Terminal&apos;s SD card</translation>
+    </message>
+    <message id="host_501">
+        <source>Файлы, записанные модулем на SD-карту имитируемого терминала (сообщение 2400)</source>
+        <translation>Files the plug-in wrote to the simulated terminal&apos;s SD card (message 2400)</translation>
+    </message>
+    <message id="host_502">
+        <source>(карты нет)</source>
+        <translation>(no card)</translation>
+    </message>
+    <message id="host_503">
+        <source>(пусто)</source>
+        <translation>(empty)</translation>
+    </message>
+    <message id="host_504">
+        <source>%1 — %2 байт</source>
+        <translation>%1 — %2 bytes</translation>
+    </message>
 </context>
 </TS>

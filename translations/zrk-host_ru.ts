@@ -363,5 +363,25 @@
         <source>%1: полный редактор, из терминала «%2»</source>
         <translation>%1: полный редактор, из терминала «%2»</translation>
     </message>
+    <message id="host_500">
+        <source>SD-карта терминала</source>
+        <translation>SD-карта терминала</translation>
+    </message>
+    <message id="host_501">
+        <source>Файлы, записанные модулем на SD-карту имитируемого терминала (сообщение 2400)</source>
+        <translation>Файлы, записанные модулем на SD-карту имитируемого терминала (сообщение 2400)</translation>
+    </message>
+    <message id="host_502">
+        <source>(карты нет)</source>
+        <translation>(карты нет)</translation>
+    </message>
+    <message id="host_503">
+        <source>(пусто)</source>
+        <translation>(пусто)</translation>
+    </message>
+    <message id="host_504">
+        <source>%1 — %2 байт</source>
+        <translation>%1 — %2 байт</translation>
+    </message>
 </context>
 </TS>

@@ -19,10 +19,12 @@
 // For diagnostics, the handle of this plug-in points to a QObject (the device object) whose
 // read-only properties describe its state; other plug-ins of the family need not do so.
 
+#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
 #include <cstddef>
+#include <cstring>
 
 // ---- callback and export signatures ----------------------------------------------------------
 
@@ -218,6 +220,93 @@ struct szAccelParam;
 struct szAccelReset;
 struct szCmdAccelParam;
 struct szBluetoothDevice;
-struct szSDFile;
 struct szQueryTaho;
 struct szCmndAINF;
+
+// ---- SD-card files (2400 -> 2401) -------------------------------------------------------------
+//
+// The plug-in writes files to the terminal's SD card (the geo-information page: "GeoZones.cfg" and
+// its companions) one request at a time. It sends 2400 with wParam = szSDFile*; the host carries
+// the request to the terminal, fills `result` before returning, and answers every request it
+// accepted with 2401 (wParam = QByteArray*, the reply below), possibly from inside the 2400 call.
+// A request is complete in itself (it names its file), so a host may serve it without keeping
+// state between calls; "open" and "close" bracket a transfer for terminals that need it.
+//
+// Sequence the plug-in uses to write one file: open (size 1) -> write (offset 0, 4 KB at most per
+// request) ... -> close; "delete" and "list" stand alone.
+
+enum zrk_SDFileOperation : quint32
+{
+    ZRK_SD_OPEN = 1, // size 0: open for reading (the file must exist); 1: create or truncate for writing
+    ZRK_SD_READ = 2, // size bytes from offset (fewer at the end of the file)
+    ZRK_SD_WRITE = 3, // data at offset; the file grows as needed, a gap reads as zeros
+    ZRK_SD_DELETE = 4,
+    ZRK_SD_CLOSE = 5,
+    ZRK_SD_LIST = 6, // fileName ignored: every file on the card
+};
+
+enum zrk_SDFileResult : qint32
+{
+    ZRK_SD_OK = 0,
+    ZRK_SD_NOT_FOUND = 1, // read, delete, or open for reading of a file that is not there
+    ZRK_SD_NO_CARD = 2, // no terminal or no card
+    ZRK_SD_CARD_FULL = 3, // the write would pass the card's capacity; nothing was written
+    ZRK_SD_BAD_REQUEST = 4, // unknown operation, empty or too long name, size above the limit
+};
+
+// Longest file name (UTF-8 bytes) and the most bytes one read or write may carry.
+enum : int
+{
+    ZRK_SD_NAME_MAX = 255,
+    ZRK_SD_CHUNK_MAX = 4096,
+};
+
+// wParam of 2400. Owned by the plug-in; valid only during the call. It carries Qt values rather
+// than a fixed layout: plug-in and host share one process and one Qt, as with szDirPath, and a
+// file's bytes need not be copied into a fixed buffer.
+struct szSDFile
+{
+    quint32 operation = 0; // zrk_SDFileOperation
+    QString fileName; // path on the card, "/" separated, no leading "/" ("GeoZones.cfg")
+    QByteArray data; // write: the bytes; other operations: empty
+    quint32 offset = 0; // read, write: position in the file
+    quint32 size = 0; // read: bytes wanted; open: 0 read, 1 write
+    qint32 result = ZRK_SD_NO_CARD; // filled by the host: zrk_SDFileResult
+};
+
+// wParam of 2401: a QByteArray holding this fixed header (little-endian, packed, 16 bytes), then
+// the file name (nameLength bytes of UTF-8), then the payload: read: the bytes read; list: one line
+// per file, "<name>\t<size in decimal>\n" in UTF-8, sorted by name; other operations: nothing.
+#pragma pack(push, 1)
+struct szSDFileReplyHeader
+{
+    quint8 operation; // 0: echo of the request's operation
+    qint8 result; // 1: zrk_SDFileResult
+    quint16 nameLength; // 2
+    quint32 offset; // 4: echo of the request's offset
+    quint32 fileSize; // 8: the file's size after the operation (list: number of files)
+    quint32 payloadLength; // 12
+};
+#pragma pack(pop)
+static_assert(sizeof(szSDFileReplyHeader) == 16, "szSDFileReplyHeader is 16 bytes");
+static_assert(offsetof(szSDFileReplyHeader, fileSize) == 8, "szSDFileReplyHeader layout");
+
+// Splits a 2401 reply; false (outputs untouched) when it is shorter than its header says.
+inline bool zrkParseSDFileReply(const QByteArray& reply, szSDFileReplyHeader* header, QString* name,
+                                QByteArray* payload)
+{
+    szSDFileReplyHeader h;
+    if (reply.size() < int(sizeof h))
+        return false;
+    memcpy(&h, reply.constData(), sizeof h);
+    const qint64 need = qint64(sizeof h) + h.nameLength + h.payloadLength;
+    if (need > reply.size())
+        return false;
+    if (header)
+        *header = h;
+    if (name)
+        *name = QString::fromUtf8(reply.constData() + sizeof h, h.nameLength);
+    if (payload)
+        *payload = reply.mid(int(sizeof h) + h.nameLength, int(h.payloadLength));
+    return true;
+}

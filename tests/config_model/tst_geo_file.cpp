@@ -1,0 +1,386 @@
+// Geo data, the geo file, GeoZones.cfg and zrk-tool geo.
+#include "../common/tool_run.h"
+#include "config_files.h"
+#include "config_model/geo_file.h"
+#include "translations/catalogue.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace zrktest;
+
+namespace {
+
+// Two zones (one Cyrillic, one with markup in its name), a route with three stops, two speed
+// zones, two sounds and non-default defaults.
+coreAinfData smallSet()
+{
+    coreAinfData d;
+    coreGeoZone a;
+    a.id = 1;
+    a.name = QStringLiteral("Депо №1");
+    a.lat = 55.751244;
+    a.lon = 37.618423;
+    a.size = 150;
+    a.angle = 90;
+    a.gob = 0x45;
+    a.outputs = QStringLiteral("1000000000000001");
+    a.spdmode = QStringLiteral("2");
+    coreGeoZone b;
+    b.id = 3;
+    b.name = QStringLiteral("Stop <A> & \"B\"");
+    b.lat = -33.5;
+    b.lon = -70.25;
+    d.zones = { a, b };
+    coreGeoRoute r;
+    r.id = 7;
+    r.number = QStringLiteral("12");
+    r.chr = QStringLiteral("А");
+    r.begin = QStringLiteral("Депо");
+    r.end = QStringLiteral("Вокзал");
+    r.flags = 0x0B;
+    r.setsnd = 2;
+    r.stops = { { GeoStop_Terminal, 1, 1, QStringLiteral("Депо"), QStringLiteral("1,2") },
+        { GeoStop_Stop, 3, 2, QStringLiteral("Рынок"), QStringLiteral("3") },
+        { GeoStop_Waypoint, 1, 3, QString(), QString() } };
+    d.routes = { r };
+    coreSpeedZone s1;
+    s1.id = 1;
+    s1.title = QStringLiteral("Город");
+    s1.limitsnd = 4;
+    s1.delay = 3;
+    coreSpeedZone s2;
+    s2.id = 2;
+    s2.title = QStringLiteral("Трасса");
+    s2.speed = 90;
+    s2.gap = 10;
+    s2.activesnd = 5;
+    s2.limitrep = 30;
+    s2.activerep = 60;
+    s2.limitbuzz = 1;
+    d.speeds = { s1, s2 };
+    d.sounds = { { 1, QStringLiteral("depo.wav") }, { 2, QStringLiteral("rynok.wav") } };
+    d.defaults.routeNumber = QStringLiteral("1");
+    d.defaults.routeChar = QStringLiteral("Б");
+    d.defaults.routeBegin = QStringLiteral("Начало");
+    d.defaults.routeEnd = QStringLiteral("Конец");
+    d.defaults.routeSetSnd = 1;
+    d.defaults.speedmode = 2;
+    d.defaults.setDefRouteOptions(0x81);
+    d.defaults.setDefSpeedsOptions(0x02);
+    d.defaults.setDefGeoOptions(0x30);
+    return d;
+}
+
+QByteArray golden(const char* name)
+{
+    return readFile(dataFile(name));
+}
+
+} // namespace
+
+class tst_GeoFile : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase() { QVERIFY(zrk::installCatalogue(QStringLiteral("ru"))); }
+    void firstFreeId_data();
+    void firstFreeId();
+    void optionSets();
+    void goldenFiles_data();
+    void goldenFiles();
+    void readOptionsByVersion_data();
+    void readOptionsByVersion();
+    void refusedFilesLeaveDataAlone_data();
+    void refusedFilesLeaveDataAlone();
+    void limits();
+    void cardConfigFile();
+    void tool();
+};
+
+void tst_GeoFile::firstFreeId_data()
+{
+    QTest::addColumn<QVector<int>>("ids");
+    QTest::addColumn<int>("maxId");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("empty") << QVector<int> {} << 65535 << 1;
+    QTest::newRow("dense") << QVector<int> { 1, 2, 3 } << 65535 << 4;
+    QTest::newRow("gap at start") << QVector<int> { 2, 3 } << 65535 << 1;
+    QTest::newRow("unsorted gap") << QVector<int> { 5, 3, 1, 2 } << 65535 << 4;
+    QTest::newRow("far ids") << QVector<int> { 1, 60000, 70000 } << 65535 << 2;
+    QTest::newRow("zero and negative") << QVector<int> { 0, -4, 1 } << 65535 << 2;
+    QTest::newRow("duplicates") << QVector<int> { 1, 1, 2, 2 } << 65535 << 3;
+    QTest::newRow("all taken") << QVector<int> { 2, 1, 3 } << 3 << 0;
+}
+
+void tst_GeoFile::firstFreeId()
+{
+    QFETCH(QVector<int>, ids);
+    QFETCH(int, maxId);
+    QFETCH(int, expected);
+    QVector<coreGeoZone> zones;
+    for (int id : ids) {
+        coreGeoZone z;
+        z.id = id;
+        zones.append(z);
+    }
+    QCOMPARE(getFirstFreeGeoZoneId(zones, maxId), expected);
+    ZRK_Ainf_Caps caps;
+    caps.maxZoneId = maxId;
+    const int added = addGeoZone(zones, QStringLiteral("n"), 120, 45, 3, 1.0, 2.0, caps);
+    QCOMPARE(added, expected);
+    if (expected) {
+        QCOMPARE(zones.last().id, expected);
+        QCOMPARE(zones.last().outputs, QStringLiteral("0000000000000000"));
+        QCOMPARE(zones.last().size, 120);
+        QCOMPARE(zones.last().angle, 45);
+        QCOMPARE(zones.last().gob, 3);
+    }
+}
+
+void tst_GeoFile::optionSets()
+{
+    coreAinfDefaults d;
+    d.setDefRouteOptionsStr(QStringLiteral("10000001"));
+    d.setDefSpeedsOptionsStr(QStringLiteral("01")); // short: the rest clear
+    d.setDefGeoOptionsStr(QStringLiteral("x1x1xxxx1")); // only "1" sets, ninth char ignored
+    QCOMPARE(d.getDefRouteOptions(), 0x81);
+    QCOMPARE(d.getDefSpeedsOptions(), 0x02);
+    QCOMPARE(d.getDefGeoOptions(), 0x0A);
+    QCOMPARE(d.packedOptions(), 0x0A0281);
+    QCOMPARE(d.packedOptionsStr(), QStringLiteral("100000010100000001010000"));
+    coreAinfDefaults e;
+    e.setPackedOptions(0x7F0A0281); // bits above the three sets are dropped
+    QCOMPARE(e.packedOptions(), 0x0A0281);
+    e.setPackedOptionsStr(QStringLiteral("000000"));
+    QCOMPARE(e.packedOptions(), 0);
+}
+
+void tst_GeoFile::goldenFiles_data()
+{
+    QTest::addColumn<bool>("full");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("full") << true << dataFile("geo/small_full.xml");
+    QTest::newRow("lists only") << false << dataFile("geo/small_lists.xml");
+}
+
+void tst_GeoFile::goldenFiles()
+{
+    QFETCH(bool, full);
+    QFETCH(QString, file);
+    const coreAinfData set = smallSet();
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("AINF(01-02-24 10_00_00).xml"));
+    QVERIFY(writeFileParamGeo(path, set, full));
+    QCOMPARE(readFile(path), readFile(file));
+
+    // Read back: the lists always, the defaults only from a full file.
+    coreAinfData back;
+    back.defaults.speedmode = 9;
+    GeoFileReadInfo info;
+    QString error;
+    QVERIFY2(readFileParamGeo(file, &back, &error, &info), qPrintable(error));
+    QCOMPARE(info.format, GeoFileFormat::New);
+    QCOMPARE(info.version, 3);
+    QCOMPARE(info.hasConfig, full);
+    QCOMPARE(back.defaults.speedmode, full ? 2 : 9);
+    if (!full) {
+        QVERIFY(back.sounds.isEmpty());
+        back.sounds = set.sounds;
+        back.defaults = set.defaults;
+    }
+    QCOMPARE(renderFileParamGeo(back, true), renderFileParamGeo(set, true));
+    QCOMPARE(back.zones[0].name, set.zones[0].name);
+    QCOMPARE(back.zones[1].name, set.zones[1].name);
+    QCOMPARE(back.routes[0].stops.size(), 3);
+}
+
+void tst_GeoFile::readOptionsByVersion_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("packed");
+    QTest::newRow("ver 3 integer") << QByteArray("<AINF ver=\"3\"><Config options=\"655489\"/></AINF>")
+                                   << 0x0A0081;
+    QTest::newRow("ver 2 text") << QByteArray(
+        "<AINF ver=\"2\"><Config options=\"100000010100000001010000\"/></AINF>")
+                                << 0x0A0281;
+    QTest::newRow("no ver: text default") << QByteArray("<AINF><Config speedmode=\"1\"/></AINF>") << 0;
+}
+
+void tst_GeoFile::readOptionsByVersion()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, packed);
+    coreAinfData d;
+    QString error;
+    QVERIFY2(readFileParamGeoText(text, QStringLiteral("t"), &d, &error), qPrintable(error));
+    QCOMPARE(d.defaults.packedOptions(), packed);
+}
+
+void tst_GeoFile::refusedFilesLeaveDataAlone_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("reason"); // a piece of the Russian message
+    const QByteArray good = golden("geo/small_full.xml");
+    QTest::newRow("old format") << QByteArray(
+        "<?xml version=\"1.0\"?>\n<PARAMAINF>\n<ZONE ID=\"1\"/>\n</PARAMAINF>\n")
+                                << QStringLiteral("старом формате");
+    QTest::newRow("truncated") << good.left(good.size() / 2) << QStringLiteral("правильным XML");
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("не файл геоинформации");
+    QTest::newRow("other root") << QByteArray("<DEVICE><AINF ver=\"3\"/></DEVICE>")
+                                << QStringLiteral("не файл геоинформации");
+    QTest::newRow("newer version") << QByteArray("<AINF ver=\"4\"/>") << QStringLiteral("версия файла 4");
+    QTest::newRow("count disagrees") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"2\"><Zone id=\"1\" lat=\"1\" lon=\"2\"/></Zones></AINF>")
+                                     << QStringLiteral("объявляет записей: 2, а содержит: 1");
+    QTest::newRow("stop count disagrees") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\"/></Zones><Routes "
+        "count=\"1\"><Route id=\"1\" countStop=\"2\"><Stop zoneid=\"1\"/></Route></Routes></AINF>")
+                                          << QStringLiteral("маршрут 1 объявляет остановок: 2");
+    QTest::newRow("bad latitude") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"north\" lon=\"2\"/></Zones></AINF>")
+                                  << QStringLiteral("геозона 5: \"north\"");
+    QTest::newRow("off the globe") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"91\" lon=\"2\"/></Zones></AINF>")
+                                   << QStringLiteral("вне земного шара");
+    QTest::newRow("duplicate id") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"2\"><Zone id=\"5\" lat=\"1\" lon=\"2\"/>"
+        "<Zone id=\"5\" lat=\"1\" lon=\"2\"/></Zones></AINF>")
+                                  << QStringLiteral("встречается дважды");
+    QTest::newRow("stop without zone") << QByteArray(
+        "<AINF ver=\"3\"><Routes count=\"1\"><Route id=\"2\" countStop=\"1\"><Stop zoneid=\"9\"/>"
+        "</Route></Routes></AINF>") << QStringLiteral("несуществующую геозону 9");
+    QTest::newRow("radius below limit") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\" size=\"9\"/></Zones></AINF>")
+                                        << QStringLiteral("радиус 9 м");
+    QByteArray routes = "<AINF ver=\"3\"><Routes count=\"101\">";
+    for (int i = 0; i < 101; ++i)
+        routes += "<Route id=\"" + QByteArray::number(i) + "\"/>";
+    QTest::newRow("too many routes") << routes + "</Routes></AINF>" << QStringLiteral("маршрутов: 101");
+    QTest::newRow("entity bomb") << QByteArray(
+        "<!DOCTYPE AINF [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b "
+        "\"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">]><AINF ver=\"3\" x=\"&b;&b;\"/>")
+                                 << QString();
+    QTest::newRow("deep") << QByteArray("<AINF>") + QByteArray("<a>").repeated(400)
+            + QByteArray("</a>").repeated(400)
+            + "</AINF>" << QStringLiteral("правильным XML");
+}
+
+void tst_GeoFile::refusedFilesLeaveDataAlone()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, reason);
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("bad.xml"));
+    writeFile(path, text);
+    coreAinfData data = smallSet();
+    const QByteArray before = renderFileParamGeo(data, true);
+    QString error;
+    if (reason.isEmpty()) {
+        // Entities may be accepted, but must stay small and leave a consistent result.
+        if (readFileParamGeo(path, &data, &error))
+            QVERIFY(data.zones.isEmpty());
+        return;
+    }
+    QVERIFY(!readFileParamGeo(path, &data, &error));
+    QVERIFY2(error.contains(reason), qPrintable(error));
+    QVERIFY2(error.contains(QDir::toNativeSeparators(path)), qPrintable(error));
+    QCOMPARE(renderFileParamGeo(data, true), before);
+}
+
+void tst_GeoFile::limits()
+{
+    ZRK_Ainf_Caps caps;
+    caps.maxZones = 2;
+    QVector<coreGeoZone> zones;
+    QCOMPARE(addGeoZone(zones, QString(), 100, 0, 0, 0, 0, caps), 1);
+    QCOMPARE(addGeoZone(zones, QString(), 100, 0, 0, 0, 0, caps), 2);
+    QCOMPARE(addGeoZone(zones, QString(), 100, 0, 0, 0, 0, caps), 0);
+    QCOMPARE(zones.size(), 2);
+
+    coreAinfData d = smallSet();
+    QVERIFY(checkAinfLimits(d).isEmpty());
+    ZRK_Ainf_Caps tight;
+    tight.maxStopsPerRoute = 2;
+    QVERIFY(checkAinfLimits(d, tight).contains(QStringLiteral("В маршруте 7 остановок: 3")));
+    tight = ZRK_Ainf_Caps();
+    tight.maxSpeedZones = 1;
+    QVERIFY(checkAinfLimits(d, tight).contains(QStringLiteral("скоростных зон: 2")));
+}
+
+void tst_GeoFile::cardConfigFile()
+{
+    QTemporaryDir dir;
+    const QString folder = dir.filePath(QStringLiteral("Localization/Temp"));
+    QString error;
+    const QString path = createFileCFG(smallSet().defaults, &error, folder);
+    QVERIFY2(!path.isEmpty(), qPrintable(error));
+    QCOMPARE(QFileInfo(path).fileName(), QStringLiteral("GeoZones.cfg"));
+    QVERIFY(!QFile::exists(folder + QStringLiteral("/write.lst")));
+    QByteArray expected = kDecl
+        + "<AINF version=\"3\">\n\t<Config begin=\"\xcd\xe0\xf7\xe0\xeb\xee\" char=\"\xc1\" "
+          "end=\"\xca\xee\xed\xe5\xf6\" number=\"1\" options=\"3146369\" setsnd=\"1\" "
+          "speedmode=\"2\"/>\n</AINF>\n";
+    QCOMPARE(readFile(path), expected);
+
+    // A folder that cannot be made: no file, a message.
+    writeFile(dir.filePath(QStringLiteral("plain")), "x");
+    QVERIFY(createFileCFG(coreAinfDefaults(), &error, dir.filePath(QStringLiteral("plain/sub"))).isEmpty());
+    QVERIFY(error.contains(QStringLiteral("Не удалось создать папку")));
+}
+
+void tst_GeoFile::tool()
+{
+    QTemporaryDir dir;
+    const QString geo = dataFile("geo/small_full.xml");
+    ToolRun r = runZrkTool({ "geo", "check", geo });
+    QCOMPARE(r.code, 0);
+    QCOMPARE(r.out,
+        QByteArray("format: AINF ver 3 (full)\nzones: 2 of 10000\nroutes: 1 of 100, stops 3 (at most 3 "
+                   "in a route, limit 200)\nspeed zones: 2 of 100\nsounds: 2 of 500\noptions: 3146369 "
+                   "(routes 10000001, speeds 01000000, zones 00001100)\n"));
+
+    const QString lists = dir.filePath(QStringLiteral("lists.xml"));
+    QCOMPARE(runZrkTool({ "geo", "normalize", geo, lists }).code, 0);
+    QCOMPARE(readFile(lists), golden("geo/small_lists.xml"));
+    const QString full = dir.filePath(QStringLiteral("full.xml"));
+    QCOMPARE(runZrkTool({ "geo", "normalize", geo, full, "--full" }).code, 0);
+    QCOMPARE(readFile(full), golden("geo/small_full.xml"));
+
+    // geo -> KML -> geo keeps names, positions and radii.
+    const QString kml = dir.filePath(QStringLiteral("zones.kml"));
+    r = runZrkTool({ "geo", "to-kml", geo, kml });
+    QCOMPARE(r.code, 0);
+    QCOMPARE(r.out, QByteArray("placemarks: 2, lines: 1\n"));
+    const QString back = dir.filePath(QStringLiteral("back.xml"));
+    r = runZrkTool({ "geo", "from-kml", kml, back });
+    QCOMPARE(r.code, 0);
+    QCOMPARE(r.out, QByteArray("zones: 2\nnot points (skipped): 1 (12А Депо - Вокзал)\n"));
+    coreAinfData a = smallSet(), b;
+    QVERIFY(readFileParamGeo(back, &b));
+    QCOMPARE(b.zones.size(), 2);
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(b.zones[i].name, a.zones[i].name);
+        QCOMPARE(formatGeoCoordinate(b.zones[i].lat), formatGeoCoordinate(a.zones[i].lat));
+        QCOMPARE(formatGeoCoordinate(b.zones[i].lon), formatGeoCoordinate(a.zones[i].lon));
+        QCOMPARE(b.zones[i].size, a.zones[i].size);
+        QCOMPARE(b.zones[i].outputs, QStringLiteral("0000000000000000"));
+    }
+    QCOMPARE(b.zones[1].id, 2); // import hands out first free ids
+
+    // Failures: one line on stderr, non-zero exit, nothing written.
+    const QString old = dir.filePath(QStringLiteral("old.xml"));
+    writeFile(old, "<PARAMAINF></PARAMAINF>");
+    const QString none = dir.filePath(QStringLiteral("none.xml"));
+    r = runZrkTool({ "geo", "normalize", old, none });
+    QCOMPARE(r.code, 1);
+    QCOMPARE(r.err.count('\n'), 1);
+    QVERIFY(QString::fromUtf8(r.err).contains(QStringLiteral("PARAMAINF")));
+    QVERIFY(!QFile::exists(none));
+    QCOMPARE(runZrkTool({ "geo", "check" }).code, 2);
+    QCOMPARE(runZrkTool({ "geo", "check", geo, "--full" }).code, 2);
+}
+
+QTEST_GUILESS_MAIN(tst_GeoFile)
+#include "tst_geo_file.moc"
