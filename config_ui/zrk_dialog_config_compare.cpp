@@ -40,11 +40,11 @@ void ZRK_Dialog_Config_Compare::setDifferences(
     tree->clear();
     //% "Сравнение с: %1"
     setWindowTitle(qtTrId("cmpc_007").arg(against));
-    ui->label_Summary->setText(differences.isEmpty()
-            //% "Различий нет."
-            ? qtTrId("cmpc_008")
-            //% "Различий: %1"
-            : qtTrId("cmpc_009").arg(differences.size()));
+    //% "Различий нет."
+    const QString none = qtTrId("cmpc_008");
+    //% "Различий: %1"
+    const QString some = qtTrId("cmpc_009");
+    ui->label_Summary->setText(differences.isEmpty() ? none : some.arg(differences.size()));
     //% "(нет)"
     const QString absent = qtTrId("cmpc_010");
     //% "(корень)"

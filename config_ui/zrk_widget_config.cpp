@@ -4,6 +4,7 @@
 #include "config_model/config_document.h"
 #include "config_model/serialize.h"
 #include "config_ui/zrk_dialog_config_compare.h"
+#include "config_ui/zrk_form_config_ainf.h"
 #include "config_ui/zrk_widget_config_full.h"
 #include "config_ui/zrk_widget_config_light.h"
 #include "device/zrk_device_k7140.h"
@@ -106,9 +107,10 @@ ZRK_Widget_Config::ZRK_Widget_Config(QWidget* parent)
     compare->addAction(QString(), this, [this] {
         bool ok = false;
         const auto differences = compareWithLastRead(&ok);
+        //% "последняя прочитанная из терминала"
+        const QString against = qtTrId("wcfg_030");
         if (ok)
-            //% "последняя прочитанная из терминала"
-            showDifferences(differences, qtTrId("wcfg_030"));
+            showDifferences(differences, against);
     });
     ui->pushButton_Compare->setMenu(compare);
 
@@ -257,7 +259,7 @@ void ZRK_Widget_Config::openConfig(szConfigFile* file, szConfigParam& configPara
     markSaved();
     show();
     raise();
-    sendToHost(ZRK_MSG_CONFIG_WINDOW_OPENED, 0, 0);
+    // The device object reports the opening to the host (2370) once this returns.
 }
 
 void ZRK_Widget_Config::keepReadCopy(const QString& path)
@@ -617,7 +619,9 @@ void ZRK_Widget_Config::slot_pressed_SaveAs()
 
 void ZRK_Widget_Config::slot_pressed_Read()
 {
-    readConfigFromDevice();
+    // What the terminal sends replaces the editor's configuration.
+    if (confirmClose())
+        readConfigFromDevice();
 }
 
 void ZRK_Widget_Config::slot_pressed_Load()
@@ -683,5 +687,10 @@ void ZRK_Widget_Config::receive_TM_WriteFile_V3(bool) { }
 void ZRK_Widget_Config::receive_CurCanFile(QByteArray*, const QString&) { }
 void ZRK_Widget_Config::receive_Camera_Info(QByteArray*) { }
 void ZRK_Widget_Config::receive_PhotoInfo_SD_File(QByteArray*) { }
-// The geo-information page writes its files to the card and waits for this reply.
-void ZRK_Widget_Config::receive_SD_File(QByteArray*) { }
+// The geo-information page writes its files to the card and waits for this reply; before the page
+// was ever opened nobody can have asked.
+void ZRK_Widget_Config::receive_SD_File(QByteArray* data)
+{
+    if (ZRK_Form_Config_Ainf* geo = m_full->geoPage())
+        geo->receive_SD_File(data);
+}

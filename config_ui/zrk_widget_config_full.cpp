@@ -5,6 +5,7 @@
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
+#include "config_ui/zrk_form_config_ainf.h"
 #include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_other.h"
 #include "config_ui/zrk_form_config_track.h"
@@ -67,16 +68,38 @@ ZRK_Widget_Config_Full::Page& ZRK_Widget_Config_Full::addPage(P* page, int order
     p.write = [page](CXMLWorkData* root) { page->writeFormParam(root); };
     p.setEnabled = [page](bool on) { page->setFormEnabled(on); };
     p.setTabIndex = [page](int index) { page->setTabIndex(index); };
-    // Write order decides the position in the list; tabs follow the same order.
-    auto at = std::upper_bound(
-        m_pages.begin(), m_pages.end(), order, [](int o, const Page& other) { return o < other.order; });
-    const int index = static_cast<int>(at - m_pages.begin());
-    m_pages.insert(at, p);
-    m_tabs->insertTab(index, page, page->getTabTitle());
-    for (int i = 0; i < m_pages.size(); ++i)
-        m_pages[i].setTabIndex(m_tabs->indexOf(m_pages[i].widget));
+    const int index = insertPage(p);
     watchForEdits(page);
     return m_pages[index];
+}
+
+int ZRK_Widget_Config_Full::insertPage(const Page& page)
+{
+    // Write order decides the position in the list; tabs follow the same order.
+    auto at = std::upper_bound(
+        m_pages.begin(), m_pages.end(), page.order, [](int o, const Page& other) { return o < other.order; });
+    const int index = static_cast<int>(at - m_pages.begin());
+    m_pages.insert(at, page);
+    m_tabs->insertTab(index, page.widget, page.title());
+    for (int i = 0; i < m_pages.size(); ++i)
+        m_pages[i].setTabIndex(m_tabs->indexOf(m_pages[i].widget));
+    return index;
+}
+
+ZRK_Form_Config_Ainf* ZRK_Widget_Config_Full::ensureGeoPage()
+{
+    if (m_geo)
+        return m_geo;
+    m_geo = new ZRK_Form_Config_Ainf(m_geoHolder);
+    m_geoHolder->layout()->addWidget(m_geo);
+    m_geo->setTabIndex(m_tabs->indexOf(m_geoHolder));
+    if (m_connected)
+        m_geo->deviceConnect();
+    else
+        m_geo->deviceDisconnect();
+    m_tabs->setTabText(m_tabs->indexOf(m_geoHolder), m_geo->getTabTitle());
+    watchForEdits(m_geo);
+    return m_geo;
 }
 
 ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(QWidget* parent)
@@ -101,6 +124,57 @@ ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(QWidget* parent)
     connect(m_track, &ZRK_Form_Config_Track::openTabRSRequested, this, &ZRK_Widget_Config_Full::openTabRS);
     connect(m_track, &ZRK_Form_Config_Track::speedingParamChanged, this,
         &ZRK_Widget_Config_Full::setSpeedingParam);
+
+    // The geo page keeps its data in a file of its own and writes nothing into the configuration;
+    // its tab holds the page once it is opened.
+    m_geoHolder = new QWidget(m_tabs);
+    m_geoHolder->setObjectName(QStringLiteral("ZRK_Form_Config_Ainf_Holder"));
+    auto* holderLayout = new QVBoxLayout(m_geoHolder);
+    holderLayout->setContentsMargins(0, 0, 0, 0);
+    Page geo;
+    geo.widget = m_geoHolder;
+    geo.order = OrderGeo;
+    geo.title = [this] {
+        //% "Геозоны"
+        return m_geo ? m_geo->getTabTitle() : qtTrId("wcfg_036");
+    };
+    geo.translate = [this] {
+        if (m_geo)
+            m_geo->translateForm();
+    };
+    geo.setDefault = [this] {
+        if (m_geo)
+            m_geo->setDefaultParam();
+    };
+    geo.connectDevice = [this] {
+        if (m_geo)
+            m_geo->deviceConnect();
+    };
+    geo.disconnectDevice = [this] {
+        if (m_geo)
+            m_geo->deviceDisconnect();
+    };
+    geo.read = [this](CXMLWorkData* root) {
+        if (m_geo)
+            m_geo->readFormParam(root);
+    };
+    geo.write = [this](CXMLWorkData* root) {
+        if (m_geo)
+            m_geo->writeFormParam(root);
+    };
+    geo.setEnabled = [this](bool on) {
+        if (m_geo)
+            m_geo->setFormEnabled(on);
+    };
+    geo.setTabIndex = [this](int index) {
+        if (m_geo)
+            m_geo->setTabIndex(index);
+    };
+    insertPage(geo);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int index) {
+        if (m_tabs->widget(index) == m_geoHolder)
+            ensureGeoPage();
+    });
 
     m_other = new ZRK_Form_Config_Other(m_tabs);
     addPage(m_other, OrderKept, PageNone);
@@ -146,12 +220,14 @@ void ZRK_Widget_Config_Full::translateForm()
 
 void ZRK_Widget_Config_Full::deviceConnect()
 {
+    m_connected = true;
     for (const Page& p : m_pages)
         p.connectDevice();
 }
 
 void ZRK_Widget_Config_Full::deviceDisconnect()
 {
+    m_connected = false;
     for (const Page& p : m_pages)
         p.disconnectDevice();
 }

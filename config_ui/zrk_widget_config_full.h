@@ -12,6 +12,7 @@
 class CSerialize;
 class CXMLWorkData;
 class QTabWidget;
+class ZRK_Form_Config_Ainf;
 class ZRK_Form_Config_Orba3;
 class ZRK_Form_Config_Other;
 class ZRK_Form_Config_Track;
@@ -92,6 +93,10 @@ public:
     QStringList ownedTopNodes();
 
     ZRK_Form_Config_Orba3* fieldSetPage() const { return m_fieldSet; }
+    // The geo-information page, built when its tab is first opened (it starts a web engine for its
+    // map); null until then.
+    ZRK_Form_Config_Ainf* geoPage() const { return m_geo; }
+    ZRK_Form_Config_Ainf* ensureGeoPage();
     ZRK_Form_Config_Track* trackPage() const { return m_track; }
     ZRK_Form_Config_Other* otherPage() const { return m_other; }
 
@@ -122,6 +127,8 @@ private:
 
     // Binds a page's contract and puts it in the tab set; pages are kept in write order.
     template <typename P> Page& addPage(P* page, int order, int number);
+    // Puts a bound page in its place by write order; returns its index.
+    int insertPage(const Page& page);
     void watchForEdits(QWidget* page);
     void writeHeader(CXMLWorkData* root);
     // Every page's branch in the fixed order, then the field set's user parameters.
@@ -132,6 +139,9 @@ private:
     QStringList m_owned;
     bool m_filling = false; // reading or resetting: widget changes are not the user's
     ZRK_Form_Config_Orba3* m_fieldSet = nullptr;
+    QWidget* m_geoHolder = nullptr;
+    ZRK_Form_Config_Ainf* m_geo = nullptr;
+    bool m_connected = false;
     ZRK_Form_Config_Track* m_track = nullptr;
     ZRK_Form_Config_Other* m_other = nullptr;
 };

@@ -81,11 +81,11 @@ ZRK_Widget_Config_Light::~ZRK_Widget_Config_Light()
 void ZRK_Widget_Config_Light::translateForm()
 {
     ui->retranslateUi(this);
-    //% "ORBA 1"
+    //% "Поколение 1 (ORBA 1)"
     ui->comboBox_FlashFormat->setItemText(0, qtTrId("cfgl_012"));
-    //% "ORBA 2"
+    //% "Поколение 2 (ORBA 2)"
     ui->comboBox_FlashFormat->setItemText(1, qtTrId("cfgl_013"));
-    //% "ORBA 3"
+    //% "Поколение 3 (ORBA 3)"
     ui->comboBox_FlashFormat->setItemText(2, qtTrId("cfgl_014"));
 }
 

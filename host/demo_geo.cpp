@@ -59,8 +59,9 @@ bool writeStopsKml(const QString& path, int count)
                     .arg(55.75 + r * std::sin(a), 0, 'f', 6)
                     .toUtf8());
     }
-    f.write("</Folder><Placemark><name>Трасса</name><LineString><coordinates>37.5,55.7 37.7,55.8</coordinates>"
-            "</LineString></Placemark></Document></kml>\n");
+    f.write(
+        "</Folder><Placemark><name>Трасса</name><LineString><coordinates>37.5,55.7 37.7,55.8</coordinates>"
+        "</LineString></Placemark></Document></kml>\n");
     return true;
 }
 
@@ -71,9 +72,17 @@ bool ZrkDemoSession::runGeoSteps()
     m_window.connectTerminal(); // the card is written only while a terminal is connected
     m_window.openNewConfiguration();
     settle(500);
+    // The geo page is built when its tab is first opened.
+    if (QWidget* holder = findByClass("ZRK_Widget_Config_Full")) {
+        if (auto* tabs = holder->findChild<QTabWidget*>(QStringLiteral("tabWidget_Pages"))) {
+            if (QWidget* tab = tabs->findChild<QWidget*>(QStringLiteral("ZRK_Form_Config_Ainf_Holder")))
+                tabs->setCurrentWidget(tab);
+        }
+    }
     QWidget* page = findByClass("ZRK_Form_Config_Ainf");
     if (!page) {
-        std::fprintf(stderr, "zrk-host: the configuration window has no geo page; the geo steps are skipped\n");
+        std::fprintf(
+            stderr, "zrk-host: the configuration window has no geo page; the geo steps are skipped\n");
         return true;
     }
     QWidget* window = page->window();
@@ -100,7 +109,8 @@ bool ZrkDemoSession::runGeoSteps()
             w->close();
     }
     int route = 0;
-    QMetaObject::invokeMethod(page, "addRouteThroughZones", Q_RETURN_ARG(int, route), Q_ARG(QString, QStringLiteral("12")),
+    QMetaObject::invokeMethod(page, "addRouteThroughZones", Q_RETURN_ARG(int, route),
+        Q_ARG(QString, QStringLiteral("12")),
         Q_ARG(QVariantList, (QVariantList { 1, 40, 80, 120, 160, 200, 240 })));
     bool ok = route > 0 && grabScreen(QStringLiteral("geo_zones_and_route"));
 

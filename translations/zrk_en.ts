@@ -29,31 +29,31 @@
     </message>
     <message id="abou_001">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter information</translation>
     </message>
     <message id="abou_002">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message id="iopr_001">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Please wait</translation>
     </message>
     <message id="iopr_003">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Done:</translation>
     </message>
     <message id="iopr_004">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Total:</translation>
     </message>
     <message id="iopr_005">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Time:</translation>
     </message>
     <message id="iopr_006">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message id="abbr_017">
         <source>°С</source>
@@ -769,7 +769,7 @@
     </message>
     <message id="orbf_073">
         <source>Точные координаты приёмника</source>
-        <translation>Receiver's precise coordinates</translation>
+        <translation>Receiver&apos;s precise coordinates</translation>
     </message>
     <message id="orbf_074">
         <source>Высота по приёмнику</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message id="cfgo_033">
         <source></source>
-        <translation>Sum of the ticked fields' sizes; at most 512 bytes</translation>
+        <translation>Sum of the ticked fields&apos; sizes; at most 512 bytes</translation>
     </message>
     <message id="cfgo_034">
         <source></source>
@@ -1824,11 +1824,11 @@
         <translation>Compared with: %1</translation>
     </message>
     <message id="cmpc_008">
-        <source></source>
+        <source>Различий нет.</source>
         <translation>No differences.</translation>
     </message>
     <message id="cmpc_009">
-        <source></source>
+        <source>Различий: %1</source>
         <translation>Differences: %1</translation>
     </message>
     <message id="cmpc_010">
@@ -1942,7 +1942,7 @@
         <translation>Switch between the full and the simple editor</translation>
     </message>
     <message id="wcfg_030">
-        <source></source>
+        <source>последняя прочитанная из терминала</source>
         <translation>the one last read from the terminal</translation>
     </message>
     <message id="wcfg_020">
@@ -2066,16 +2066,19 @@ The old file is unchanged.</translation>
         <translation>ORBA telemetry record format: 1, 2 or 3</translation>
     </message>
     <message id="cfgl_012">
-        <source>ORBA 1</source>
-        <translation>ORBA 1</translation>
+        <source>Поколение 1 (ORBA 1)</source>
+        <oldsource>ORBA 1</oldsource>
+        <translation>Generation 1 (ORBA 1)</translation>
     </message>
     <message id="cfgl_013">
-        <source>ORBA 2</source>
-        <translation>ORBA 2</translation>
+        <source>Поколение 2 (ORBA 2)</source>
+        <oldsource>ORBA 2</oldsource>
+        <translation>Generation 2 (ORBA 2)</translation>
     </message>
     <message id="cfgl_014">
-        <source>ORBA 3</source>
-        <translation>ORBA 3</translation>
+        <source>Поколение 3 (ORBA 3)</source>
+        <oldsource>ORBA 3</oldsource>
+        <translation>Generation 3 (ORBA 3)</translation>
     </message>
     <message id="geod_001">
         <source>Слишком много геозон: %1 (терминал хранит не более %2).</source>
@@ -2860,6 +2863,10 @@ The old file is unchanged.</translation>
     <message id="gain_245">
         <source>Номер зоны остановки: от 1 до 65535</source>
         <translation>Zone id of the stop: 1 to 65535</translation>
+    </message>
+    <message id="wcfg_036">
+        <source>Геозоны</source>
+        <translation>Geo-zones</translation>
     </message>
 </context>
 </TS>

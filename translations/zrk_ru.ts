@@ -29,31 +29,31 @@
     </message>
     <message id="abou_001">
         <source></source>
-        <translation></translation>
+        <translation>Справка о параметре</translation>
     </message>
     <message id="abou_002">
         <source></source>
-        <translation></translation>
+        <translation>Закрыть</translation>
     </message>
     <message id="iopr_001">
         <source></source>
-        <translation></translation>
+        <translation>Ожидание</translation>
     </message>
     <message id="iopr_003">
         <source></source>
-        <translation></translation>
+        <translation>Выполнено:</translation>
     </message>
     <message id="iopr_004">
         <source></source>
-        <translation></translation>
+        <translation>Всего:</translation>
     </message>
     <message id="iopr_005">
         <source></source>
-        <translation></translation>
+        <translation>Время:</translation>
     </message>
     <message id="iopr_006">
         <source></source>
-        <translation></translation>
+        <translation>Отмена</translation>
     </message>
     <message id="abbr_017">
         <source>°С</source>
@@ -1824,12 +1824,12 @@
         <translation>Сравнение с: %1</translation>
     </message>
     <message id="cmpc_008">
-        <source></source>
-        <translation></translation>
+        <source>Различий нет.</source>
+        <translation>Различий нет.</translation>
     </message>
     <message id="cmpc_009">
-        <source></source>
-        <translation></translation>
+        <source>Различий: %1</source>
+        <translation>Различий: %1</translation>
     </message>
     <message id="cmpc_010">
         <source>(нет)</source>
@@ -1942,8 +1942,8 @@
         <translation>Переключить полный и простой редактор</translation>
     </message>
     <message id="wcfg_030">
-        <source></source>
-        <translation></translation>
+        <source>последняя прочитанная из терминала</source>
+        <translation>последняя прочитанная из терминала</translation>
     </message>
     <message id="wcfg_020">
         <source>С файлом...</source>
@@ -2066,16 +2066,19 @@
         <translation>Формат записей телеметрии ORBA: 1, 2 или 3</translation>
     </message>
     <message id="cfgl_012">
-        <source>ORBA 1</source>
-        <translation>ORBA 1</translation>
+        <source>Поколение 1 (ORBA 1)</source>
+        <oldsource>ORBA 1</oldsource>
+        <translation>Поколение 1 (ORBA 1)</translation>
     </message>
     <message id="cfgl_013">
-        <source>ORBA 2</source>
-        <translation>ORBA 2</translation>
+        <source>Поколение 2 (ORBA 2)</source>
+        <oldsource>ORBA 2</oldsource>
+        <translation>Поколение 2 (ORBA 2)</translation>
     </message>
     <message id="cfgl_014">
-        <source>ORBA 3</source>
-        <translation>ORBA 3</translation>
+        <source>Поколение 3 (ORBA 3)</source>
+        <oldsource>ORBA 3</oldsource>
+        <translation>Поколение 3 (ORBA 3)</translation>
     </message>
     <message id="geod_001">
         <source>Слишком много геозон: %1 (терминал хранит не более %2).</source>
@@ -2860,6 +2863,10 @@
     <message id="gain_245">
         <source>Номер зоны остановки: от 1 до 65535</source>
         <translation>Номер зоны остановки: от 1 до 65535</translation>
+    </message>
+    <message id="wcfg_036">
+        <source>Геозоны</source>
+        <translation>Геозоны</translation>
     </message>
 </context>
 </TS>

@@ -178,8 +178,8 @@ private slots:
         QCOMPARE(window()->isFullEditorShown(), full);
         QVERIFY(window()->isVisible());
         QVERIFY(!window()->isModified());
-        // The window and the device object each report the opening.
-        QCOMPARE(sentIds(), QVector<int>({ ZRK_MSG_CONFIG_WINDOW_OPENED, ZRK_MSG_CONFIG_WINDOW_OPENED }));
+        // The host hears of the opening once.
+        QCOMPARE(sentIds(), QVector<int>({ ZRK_MSG_CONFIG_WINDOW_OPENED }));
         // Only a file from the terminal is kept as read.
         QCOMPARE(!window()->lastReadCopy().isEmpty() && source != 1 && withPath, source != 1 && withPath);
     }
@@ -385,6 +385,56 @@ private slots:
         QCOMPARE(window()->messages.size(), 2);
         QVERIFY(!QFileInfo::exists(dirAsFile));
         QCOMPARE(window()->windowTitle(), title);
+    }
+
+    void otherSettingsFilter_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<QStringList>("shown"); // "node|key" rows expected visible
+        QTest::addColumn<QStringList>("hidden");
+        QTest::newRow("none") << "" << QStringList { "PHONES/PHONE1|number", "CAN/CAN1|baud" }
+                              << QStringList();
+        QTest::newRow("by node shows its rows")
+            << "phone1" << QStringList { "PHONES/PHONE1|number", "PHONES/PHONE1|rights" }
+            << QStringList { "PHONES/PHONE2|number", "CAN/CAN1|baud" };
+        QTest::newRow("by key") << "baud" << QStringList { "CAN/CAN1|baud", "CAN/CAN2|baud" }
+                                << QStringList { "CAN/CAN1|use", "INPUTS/IN1|name" };
+        QTest::newRow("by Cyrillic value, any case")
+            << "ЗАЖИГАНИЕ" << QStringList { "INPUTS/IN1|name" } << QStringList { "INPUTS/IN2|name" };
+        QTest::newRow("nothing matches")
+            << "no-such-text" << QStringList() << QStringList { "GUARD/ALARM|timer" };
+    }
+    void otherSettingsFilter()
+    {
+        QFETCH(QString, filter);
+        QFETCH(QStringList, shown);
+        QFETCH(QStringList, hidden);
+        open(1, 0, kTerminalFile);
+        ZRK_Form_Config_Other* other = window()->widgetFull()->otherPage();
+        other->setFilter(filter);
+        for (const QString& row : shown)
+            QVERIFY2(other->isRowShown(row.section('|', 0, 0), row.section('|', 1)), qPrintable(row));
+        for (const QString& row : hidden)
+            QVERIFY2(!other->isRowShown(row.section('|', 0, 0), row.section('|', 1)), qPrintable(row));
+        other->setFilter(QString());
+        QVERIFY(!window()->isModified());
+    }
+
+    // Both editors work on one document: a value set in the light editor reaches the track page.
+    void editorsShareTheDocument()
+    {
+        open(0, 1, kTerminalFile);
+        window()->widgetLight()->setValue("dist", "750");
+        window()->updateModified();
+        QVERIFY(window()->isModified());
+        quint32 trackPage = 3;
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_OPEN_CONFIG_PAGE, addr(trackPage), 0);
+        QVERIFY(window()->isFullEditorShown());
+        QCOMPARE(
+            window()->widgetFull()->trackPage()->findChild<QSpinBox*>("Additional_spinBox_Distance")->value(),
+            750);
+        QVERIFY(window()->isModified());
+        QVERIFY(window()->widgetFull()->otherPage()->keptBranchNames().contains("PHONES"));
     }
 
     // A read from the terminal is kept dated; comparing with it shows the key's label and values.
