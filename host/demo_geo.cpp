@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QVariantList>
 
 #include <cmath>
@@ -92,6 +93,16 @@ bool ZrkDemoSession::runGeoSteps()
     showTabOf(page);
     QMetaObject::invokeMethod(page, "deviceConnect");
 
+    // The page reports the skipped line in a modal message box; a scripted run closes it.
+    QTimer boxCloser;
+    boxCloser.setInterval(200);
+    QObject::connect(&boxCloser, &QTimer::timeout, [] {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            if (w->inherits("QMessageBox") && w->isVisible())
+                w->close();
+        }
+    });
+    boxCloser.start();
     QTemporaryDir temp;
     const QString kml = temp.filePath(QStringLiteral("stops.kml"));
     int added = 0;

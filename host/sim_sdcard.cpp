@@ -63,7 +63,8 @@ QByteArray ZrkSimSdCard::handle(szSDFile& r)
     };
     if (!m_present)
         return answer(ZRK_SD_NO_CARD, 0);
-    const QString name = r.fileName;
+    // A copy of its own: the plug-in's text may be a literal in its library, gone once it unloads.
+    const QString name = QString::fromUtf8(r.fileName.toUtf8());
     const bool nameOk = !name.isEmpty() && name.toUtf8().size() <= ZRK_SD_NAME_MAX;
     const auto it = m_files.constFind(name);
     const quint32 size = it == m_files.cend() ? 0 : quint32(it->size());
