@@ -612,7 +612,8 @@ bool ZRK_Form_Config_Ainf::sendSdStep()
         return false;
     const auto& file = m_sdFiles.at(m_sdIndex);
     szSDFile request;
-    request.fileName = file.first;
+    // A fresh copy: the host may keep the name after the plug-in (and its string literals) is gone.
+    request.fileName = QString(file.first.constData(), file.first.size());
     if (m_sdOffset < 0) {
         request.operation = ZRK_SD_OPEN;
         request.size = 1; // create or truncate for writing

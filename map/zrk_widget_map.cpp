@@ -9,6 +9,7 @@
 #include <QWebEnginePage>
 #include <QWebEngineView>
 
+#include <dlfcn.h>
 #include <unistd.h>
 
 static void zrkInitMapResources()
@@ -16,6 +17,24 @@ static void zrkInitMapResources()
     // The resources live in a static library; the linker keeps them only when asked by name.
     Q_INIT_RESOURCE(zrk_map);
 }
+
+namespace {
+
+// The web engine leaves objects of its own on the application (the default profile and its
+// helpers). When the host unloads the plug-in, the engine's libraries, loaded for the plug-in,
+// would go with it and leave those objects without their code; keep them loaded for the process.
+void keepWebEngineLoaded()
+{
+    static bool done = false;
+    if (done)
+        return;
+    done = true;
+    for (const char* lib : { "libQt5WebEngineCore.so.5", "libQt5WebEngineWidgets.so.5", "libQt5WebChannel.so.5",
+             "libQt5Quick.so.5", "libQt5Qml.so.5", "libQt5Positioning.so.5" })
+        ::dlopen(lib, RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
+}
+
+} // namespace
 
 // The object the page calls through the WebChannel; its slots are the page's notifications.
 class ZRK_Map_Bridge : public QObject
@@ -67,6 +86,7 @@ ZRK_Widget_Map::ZRK_Widget_Map(QWidget* parent)
     : QWidget(parent)
 {
     zrkInitMapResources();
+    keepWebEngineLoaded();
     // The web engine's sandbox cannot start for root; without this the view stays blank there.
     if (::geteuid() == 0 && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX"))
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
