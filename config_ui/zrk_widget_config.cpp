@@ -4,6 +4,7 @@
 #include "config_model/config_document.h"
 #include "config_model/serialize.h"
 #include "config_ui/zrk_dialog_config_compare.h"
+#include "config_ui/zrk_form_config_ainf.h"
 #include "config_ui/zrk_widget_config_full.h"
 #include "config_ui/zrk_widget_config_light.h"
 #include "device/zrk_device_k7140.h"
@@ -683,4 +684,8 @@ void ZRK_Widget_Config::receive_CurCanFile(QByteArray*, const QString&) { }
 void ZRK_Widget_Config::receive_Camera_Info(QByteArray*) { }
 void ZRK_Widget_Config::receive_PhotoInfo_SD_File(QByteArray*) { }
 // The geo-information page writes its files to the card and waits for this reply.
-void ZRK_Widget_Config::receive_SD_File(QByteArray*) { }
+void ZRK_Widget_Config::receive_SD_File(QByteArray* data)
+{
+    if (auto* geo = findChild<ZRK_Form_Config_Ainf*>())
+        geo->receive_SD_File(data);
+}

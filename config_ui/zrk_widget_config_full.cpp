@@ -5,6 +5,7 @@
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
+#include "config_ui/zrk_form_config_ainf.h"
 #include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_other.h"
 #include "config_ui/zrk_form_config_track.h"
@@ -100,6 +101,9 @@ ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(QWidget* parent)
     connect(m_track, &ZRK_Form_Config_Track::openTabRSRequested, this, &ZRK_Widget_Config_Full::openTabRS);
     connect(m_track, &ZRK_Form_Config_Track::speedingParamChanged, this,
         &ZRK_Widget_Config_Full::setSpeedingParam);
+
+    auto* geo = new ZRK_Form_Config_Ainf(m_tabs);
+    addPage(geo, OrderGeo, PageNone);
 
     m_other = new ZRK_Form_Config_Other(m_tabs);
     addPage(m_other, OrderKept, PageNone);
