@@ -60,8 +60,9 @@ bool writeStopsKml(const QString& path, int count)
                     .arg(55.75 + r * std::sin(a), 0, 'f', 6)
                     .toUtf8());
     }
-    f.write("</Folder><Placemark><name>Трасса</name><LineString><coordinates>37.5,55.7 37.7,55.8</coordinates>"
-            "</LineString></Placemark></Document></kml>\n");
+    f.write(
+        "</Folder><Placemark><name>Трасса</name><LineString><coordinates>37.5,55.7 37.7,55.8</coordinates>"
+        "</LineString></Placemark></Document></kml>\n");
     return true;
 }
 
@@ -74,7 +75,8 @@ bool ZrkDemoSession::runGeoSteps()
     settle(500);
     QWidget* page = findByClass("ZRK_Form_Config_Ainf");
     if (!page) {
-        std::fprintf(stderr, "zrk-host: the configuration window has no geo page; the geo steps are skipped\n");
+        std::fprintf(
+            stderr, "zrk-host: the configuration window has no geo page; the geo steps are skipped\n");
         return true;
     }
     QWidget* window = page->window();
@@ -108,7 +110,8 @@ bool ZrkDemoSession::runGeoSteps()
     if (!reported)
         std::fprintf(stderr, "zrk-host: the geo page did not report the line placemark\n");
     int route = 0;
-    QMetaObject::invokeMethod(page, "addRouteThroughZones", Q_RETURN_ARG(int, route), Q_ARG(QString, QStringLiteral("12")),
+    QMetaObject::invokeMethod(page, "addRouteThroughZones", Q_RETURN_ARG(int, route),
+        Q_ARG(QString, QStringLiteral("12")),
         Q_ARG(QVariantList, (QVariantList { 1, 40, 80, 120, 160, 200, 240 })));
     bool ok = reported && route > 0 && grabScreen(QStringLiteral("geo_zones_and_route"));
 

@@ -80,6 +80,7 @@ void ZRK_Map_TileHandler::requestStarted(QWebEngineUrlRequestJob* job)
     auto* buffer = new QBuffer(job);
     buffer->setData(in.readAll());
     buffer->open(QIODevice::ReadOnly);
-    job->reply(file.endsWith(QLatin1String(".png")) ? QByteArrayLiteral("image/png") : QByteArrayLiteral("image/jpeg"),
+    job->reply(file.endsWith(QLatin1String(".png")) ? QByteArrayLiteral("image/png")
+                                                    : QByteArrayLiteral("image/jpeg"),
         buffer);
 }

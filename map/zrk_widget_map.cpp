@@ -29,8 +29,8 @@ void keepWebEngineLoaded()
     if (done)
         return;
     done = true;
-    for (const char* lib : { "libQt5WebEngineCore.so.5", "libQt5WebEngineWidgets.so.5", "libQt5WebChannel.so.5",
-             "libQt5Quick.so.5", "libQt5Qml.so.5", "libQt5Positioning.so.5" })
+    for (const char* lib : { "libQt5WebEngineCore.so.5", "libQt5WebEngineWidgets.so.5",
+             "libQt5WebChannel.so.5", "libQt5Quick.so.5", "libQt5Qml.so.5", "libQt5Positioning.so.5" })
         ::dlopen(lib, RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
 }
 
@@ -77,7 +77,8 @@ QString json(const QJsonValue& value)
 QJsonObject zoneJson(const ZrkMapZone& z)
 {
     return QJsonObject { { QStringLiteral("id"), z.id }, { QStringLiteral("name"), z.name },
-        { QStringLiteral("lat"), z.lat }, { QStringLiteral("lon"), z.lon }, { QStringLiteral("r"), z.radius } };
+        { QStringLiteral("lat"), z.lat }, { QStringLiteral("lon"), z.lon },
+        { QStringLiteral("r"), z.radius } };
 }
 
 } // namespace
@@ -218,7 +219,9 @@ void ZRK_Widget_Map::setTileSource(const QString& source)
     m_tileSource = source.trimmed();
     const QString url = tileUrlFor(m_tileSource);
     runScript(QStringLiteral("zrkMap.setTiles(%1)")
-                  .arg(QString::fromUtf8(QJsonDocument(QJsonArray { url }).toJson(QJsonDocument::Compact)).mid(1).chopped(1)));
+                  .arg(QString::fromUtf8(QJsonDocument(QJsonArray { url }).toJson(QJsonDocument::Compact))
+                           .mid(1)
+                           .chopped(1)));
 }
 
 #include "zrk_widget_map.moc"

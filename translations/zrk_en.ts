@@ -809,31 +809,31 @@
     </message>
     <message id="abou_001">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter information</translation>
     </message>
     <message id="abou_002">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message id="iopr_001">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Please wait</translation>
     </message>
     <message id="iopr_003">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Done:</translation>
     </message>
     <message id="iopr_004">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Total:</translation>
     </message>
     <message id="iopr_005">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Time:</translation>
     </message>
     <message id="iopr_006">
         <source></source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message id="gain_244">
         <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>

@@ -809,31 +809,31 @@
     </message>
     <message id="abou_001">
         <source></source>
-        <translation></translation>
+        <translation>Справка о параметре</translation>
     </message>
     <message id="abou_002">
         <source></source>
-        <translation></translation>
+        <translation>Закрыть</translation>
     </message>
     <message id="iopr_001">
         <source></source>
-        <translation></translation>
+        <translation>Ожидание</translation>
     </message>
     <message id="iopr_003">
         <source></source>
-        <translation></translation>
+        <translation>Выполнено:</translation>
     </message>
     <message id="iopr_004">
         <source></source>
-        <translation></translation>
+        <translation>Всего:</translation>
     </message>
     <message id="iopr_005">
         <source></source>
-        <translation></translation>
+        <translation>Время:</translation>
     </message>
     <message id="iopr_006">
         <source></source>
-        <translation></translation>
+        <translation>Отмена</translation>
     </message>
     <message id="gain_244">
         <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
@@ -2527,59 +2527,59 @@
     </message>
     <message id="cfgo_030">
         <source></source>
-        <translation></translation>
+        <translation>Поколение протокола:</translation>
     </message>
     <message id="cfgo_031">
         <source></source>
-        <translation></translation>
+        <translation>Какие поля может записывать терминал: ORBA 1 — поля 1–69, ORBA 2 — 1–122, ORBA 3 — 1–255</translation>
     </message>
     <message id="cfgo_032">
         <source></source>
-        <translation></translation>
+        <translation>Размер записи, байт:</translation>
     </message>
     <message id="cfgo_033">
         <source></source>
-        <translation></translation>
+        <translation>Сумма размеров отмеченных полей; не более 512 байт</translation>
     </message>
     <message id="cfgo_034">
         <source></source>
-        <translation></translation>
+        <translation>Поиск поля по названию на всех вкладках</translation>
     </message>
     <message id="cfgo_035">
         <source></source>
-        <translation></translation>
+        <translation>Найти поле…</translation>
     </message>
     <message id="cfgo_036">
         <source></source>
-        <translation></translation>
+        <translation>Только отмеченные</translation>
     </message>
     <message id="cfgo_037">
         <source></source>
-        <translation></translation>
+        <translation>Наборы полей:</translation>
     </message>
     <message id="cfgo_038">
         <source></source>
-        <translation></translation>
+        <translation>По умолчанию</translation>
     </message>
     <message id="cfgo_039">
         <source></source>
-        <translation></translation>
+        <translation>Поля, которые терминал записывает по умолчанию</translation>
     </message>
     <message id="cfgo_040">
         <source></source>
-        <translation></translation>
+        <translation>Только навигация</translation>
     </message>
     <message id="cfgo_041">
         <source></source>
-        <translation></translation>
+        <translation>Номер, событие, время, координаты, высота, скорость, курс и пробег</translation>
     </message>
     <message id="cfgo_042">
         <source></source>
-        <translation></translation>
+        <translation>Из файла…</translation>
     </message>
     <message id="cfgo_043">
         <source></source>
-        <translation></translation>
+        <translation>Взять набор полей из другого файла конфигурации</translation>
     </message>
     <message id="cmpc_001">
         <source>Сравнение конфигураций</source>
