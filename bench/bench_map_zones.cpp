@@ -47,16 +47,17 @@ QVariant eval(ZRK_Widget_Map& map, const QString& script)
 // in milliseconds, and the redraw when the pan ends.
 QVariantMap pan(ZRK_Widget_Map& map)
 {
-    eval(map, QStringLiteral("window.__pan = null; (function(){ var m = zrkMap.leaflet(), t = [], busy = true;"
-                             "function step(now){ t.push(now); if (busy) requestAnimationFrame(step); }"
-                             "m.once('moveend', function(){ var e = performance.now();"
-                             " requestAnimationFrame(function(after){ busy = false; var d = [];"
-                             " for (var i = 1; i < t.length; ++i) d.push(t[i]-t[i-1]);"
-                             " window.__pan = { mean: d.reduce(function(a,b){return a+b;},0)/Math.max(1,d.length),"
-                             " worst: Math.max.apply(null, d), end: after - e }; }); });"
-                             "requestAnimationFrame(function(now){ t.push(now);"
-                             " m.panBy([400, 0], {animate: true, duration: 1.0}); requestAnimationFrame(step); });"
-                             "return true; })()"));
+    eval(map,
+        QStringLiteral("window.__pan = null; (function(){ var m = zrkMap.leaflet(), t = [], busy = true;"
+                       "function step(now){ t.push(now); if (busy) requestAnimationFrame(step); }"
+                       "m.once('moveend', function(){ var e = performance.now();"
+                       " requestAnimationFrame(function(after){ busy = false; var d = [];"
+                       " for (var i = 1; i < t.length; ++i) d.push(t[i]-t[i-1]);"
+                       " window.__pan = { mean: d.reduce(function(a,b){return a+b;},0)/Math.max(1,d.length),"
+                       " worst: Math.max.apply(null, d), end: after - e }; }); });"
+                       "requestAnimationFrame(function(now){ t.push(now);"
+                       " m.panBy([400, 0], {animate: true, duration: 1.0}); requestAnimationFrame(step); });"
+                       "return true; })()"));
     for (int i = 0; i < 100; ++i) {
         const QVariant v = eval(map, QStringLiteral("window.__pan"));
         if (v.isValid() && !v.isNull())
@@ -84,7 +85,8 @@ int main(int argc, char* argv[])
         return 1;
     }
     QTemporaryDir home;
-    for (const char* var : { "HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
+    for (const char* var :
+        { "HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
         qputenv(var, home.path().toLocal8Bit());
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);

@@ -18,17 +18,25 @@ int ZRK_Ainf_Zone_Model::columnCount(const QModelIndex& parent) const
 
 QVariant ZRK_Ainf_Zone_Model::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_zones->size() || (role != Qt::DisplayRole && role != Qt::UserRole))
+    if (!index.isValid() || index.row() >= m_zones->size()
+        || (role != Qt::DisplayRole && role != Qt::UserRole))
         return {};
     const coreGeoZone& z = m_zones->at(index.row());
     switch (index.column()) {
-    case Col_Id: return z.id;
-    case Col_Name: return z.name;
-    case Col_Lat: return formatGeoCoordinate(z.lat);
-    case Col_Lon: return formatGeoCoordinate(z.lon);
-    case Col_Size: return z.size;
-    case Col_Angle: return z.angle;
-    default: return {};
+    case Col_Id:
+        return z.id;
+    case Col_Name:
+        return z.name;
+    case Col_Lat:
+        return formatGeoCoordinate(z.lat);
+    case Col_Lon:
+        return formatGeoCoordinate(z.lon);
+    case Col_Size:
+        return z.size;
+    case Col_Angle:
+        return z.angle;
+    default:
+        return {};
     }
 }
 
@@ -55,7 +63,8 @@ QVariant ZRK_Ainf_Zone_Model::headerData(int section, Qt::Orientation orientatio
     case Col_Angle:
         //% "Курс, °"
         return qtTrId("gain_265");
-    default: return {};
+    default:
+        return {};
     }
 }
 

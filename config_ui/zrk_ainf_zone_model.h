@@ -10,7 +10,16 @@ class ZRK_Ainf_Zone_Model : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { Col_Id, Col_Name, Col_Lat, Col_Lon, Col_Size, Col_Angle, Col_Count };
+    enum Column
+    {
+        Col_Id,
+        Col_Name,
+        Col_Lat,
+        Col_Lon,
+        Col_Size,
+        Col_Angle,
+        Col_Count
+    };
 
     explicit ZRK_Ainf_Zone_Model(QVector<coreGeoZone>* zones, QObject* parent = nullptr);
 

@@ -88,8 +88,10 @@ void ZRK_Form_Config_Ainf::initForm()
         if (index.row() < m_data.zones.size())
             mapForm()->map()->selectZone(m_data.zones.at(index.row()).id, true);
     });
-    connect(ui->form_GeoParam, &ZRK_Form_Config_Ainf_GeoParam::zoneEdited, this, &ZRK_Form_Config_Ainf::zoneEdited);
-    connect(ui->form_Route, &ZRK_Form_Config_Ainf_Route::routesChanged, this, &ZRK_Form_Config_Ainf::updateMapRoutes);
+    connect(ui->form_GeoParam, &ZRK_Form_Config_Ainf_GeoParam::zoneEdited, this,
+        &ZRK_Form_Config_Ainf::zoneEdited);
+    connect(ui->form_Route, &ZRK_Form_Config_Ainf_Route::routesChanged, this,
+        &ZRK_Form_Config_Ainf::updateMapRoutes);
     ZRK_Widget_Map* map = mapForm()->map();
     connect(map, &ZRK_Widget_Map::mapClicked, this, [this](double lat, double lon) { addZoneAt(lat, lon); });
     connect(map, &ZRK_Widget_Map::zoneClicked, this, &ZRK_Form_Config_Ainf::selectZone);
@@ -97,16 +99,22 @@ void ZRK_Form_Config_Ainf::initForm()
     connect(map, &ZRK_Widget_Map::zoneResized, this, &ZRK_Form_Config_Ainf::resizeZone);
     connect(map, &ZRK_Widget_Map::zonesShown, this, [this] { mapForm()->zonesLoaded(); });
 
-    connect(ui->ListGeo_BtnAdd, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnAdd);
+    connect(
+        ui->ListGeo_BtnAdd, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnAdd);
     connect(ui->ListGeo_BtnAdd_FileKML, &QPushButton::clicked, this,
         &ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnAdd_FileKML);
-    connect(ui->ListGeo_BtnCopy, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnCopy);
-    connect(ui->ListGeo_BtnDel, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnDel);
+    connect(ui->ListGeo_BtnCopy, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnCopy);
+    connect(
+        ui->ListGeo_BtnDel, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnDel);
     connect(ui->BtnOpenFile, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_BtnOpenFile);
     connect(ui->BtnSaveFile, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_BtnSaveFile);
-    connect(ui->BtnWriteDevice, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_BtnWriteDevice);
-    connect(ui->Sounds_BtnAdd, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_Sounds_BtnAdd);
-    connect(ui->Sounds_BtnDel, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_Sounds_BtnDel);
+    connect(
+        ui->BtnWriteDevice, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_BtnWriteDevice);
+    connect(
+        ui->Sounds_BtnAdd, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_Sounds_BtnAdd);
+    connect(
+        ui->Sounds_BtnDel, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf::slot_pressed_Sounds_BtnDel);
     connect(ui->tableWidget_Sounds, &QTableWidget::itemChanged, this, [this](QTableWidgetItem* item) {
         if (m_fillingSounds || item->row() >= m_data.sounds.size())
             return;
@@ -205,7 +213,8 @@ void ZRK_Form_Config_Ainf::updateState()
 
 QString ZRK_Form_Config_Ainf::createNameMapCircle(const coreGeoZone& zone) const
 {
-    return zone.name.isEmpty() ? QString::number(zone.id) : QStringLiteral("%1: %2").arg(zone.id).arg(zone.name);
+    return zone.name.isEmpty() ? QString::number(zone.id)
+                               : QStringLiteral("%1: %2").arg(zone.id).arg(zone.name);
 }
 
 ZrkMapZone ZRK_Form_Config_Ainf::mapZone(const coreGeoZone& zone) const
@@ -446,7 +455,8 @@ void ZRK_Form_Config_Ainf::refreshSounds()
     m_fillingSounds = true;
     ui->tableWidget_Sounds->setRowCount(m_data.sounds.size());
     for (int row = 0; row < m_data.sounds.size(); ++row) {
-        ui->tableWidget_Sounds->setItem(row, 0, new QTableWidgetItem(QString::number(m_data.sounds.at(row).id)));
+        ui->tableWidget_Sounds->setItem(
+            row, 0, new QTableWidgetItem(QString::number(m_data.sounds.at(row).id)));
         ui->tableWidget_Sounds->setItem(row, 1, new QTableWidgetItem(m_data.sounds.at(row).title));
     }
     m_fillingSounds = false;
@@ -511,8 +521,8 @@ bool ZRK_Form_Config_Ainf::writeFileParamGeo(const QString& path, bool full)
 
 QString ZRK_Form_Config_Ainf::proposedFileName(const QDateTime& now)
 {
-    return appDataDirectory() + QStringLiteral("/Data/AINF(") + now.toString(QStringLiteral("dd-MM-yy hh_mm_ss"))
-        + QStringLiteral(").xml");
+    return appDataDirectory() + QStringLiteral("/Data/AINF(")
+        + now.toString(QStringLiteral("dd-MM-yy hh_mm_ss")) + QStringLiteral(").xml");
 }
 
 int ZRK_Form_Config_Ainf::loadFileKML(const QString& file, int size, int angle, int gob)
@@ -612,7 +622,8 @@ bool ZRK_Form_Config_Ainf::sendSdStep()
         return false;
     const auto& file = m_sdFiles.at(m_sdIndex);
     szSDFile request;
-    request.fileName = file.first;
+    // A fresh copy: the host may keep the name after the plug-in (and its string literals) is gone.
+    request.fileName = QString(file.first.constData(), file.first.size());
     if (m_sdOffset < 0) {
         request.operation = ZRK_SD_OPEN;
         request.size = 1; // create or truncate for writing
@@ -626,7 +637,8 @@ bool ZRK_Form_Config_Ainf::sendSdStep()
         m_sdClosing = true;
     }
     m_sdWatchdog->start();
-    lpGlobalDevice->SendMessage(lpGlobalDevice, ZRK_MSG_SD_FILE_OPERATION, reinterpret_cast<unsigned long>(&request), 0);
+    lpGlobalDevice->SendMessage(
+        lpGlobalDevice, ZRK_MSG_SD_FILE_OPERATION, reinterpret_cast<unsigned long>(&request), 0);
     return request.result == ZRK_SD_OK;
 }
 
@@ -658,10 +670,13 @@ void ZRK_Form_Config_Ainf::receive_SD_File(QByteArray* data)
         return;
     }
     m_sdOffset = m_sdOffset < 0 ? 0 : m_sdOffset + ZRK_SD_CHUNK_MAX;
-    QMetaObject::invokeMethod(this, [this] {
-        if (m_sdIndex >= 0 && !sendSdStep())
-            finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_sdIndex >= 0 && !sendSdStep())
+                finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
+        },
+        Qt::QueuedConnection);
 }
 
 void ZRK_Form_Config_Ainf::finishSd(bool ok, const QString& message)
@@ -683,7 +698,8 @@ void ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnAdd()
 {
     double lat = 0, lon = 0;
     if (!ui->form_GeoParam->typedPosition(&lat, &lon)) {
-        //% "Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте."
+        //% "Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок
+        //по карте."
         showMessage(qtTrId("gain_293"));
         return;
     }

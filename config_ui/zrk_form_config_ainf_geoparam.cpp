@@ -17,13 +17,15 @@ ZRK_Form_Config_Ainf_GeoParam::ZRK_Form_Config_Ainf_GeoParam(QWidget* parent)
         if (!m_filling && m_id > 0)
             emit zoneEdited();
     };
-    for (QLineEdit* e : { ui->lineEdit_Name, ui->lineEdit_Lat, ui->lineEdit_Lon, ui->lineEdit_Outputs, ui->lineEdit_SpdMode })
+    for (QLineEdit* e :
+        { ui->lineEdit_Name, ui->lineEdit_Lat, ui->lineEdit_Lon, ui->lineEdit_Outputs, ui->lineEdit_SpdMode })
         connect(e, &QLineEdit::textEdited, this, edited);
     for (QSpinBox* s : { ui->spinBox_Size, ui->spinBox_Angle })
         connect(s, QOverload<int>::of(&QSpinBox::valueChanged), this, edited);
     for (QCheckBox* c : findChildren<QCheckBox*>())
         connect(c, &QCheckBox::toggled, this, edited);
-    connect(ui->BtnSetDefault, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_GeoParam::slot_pressed_BtnSetDefault);
+    connect(ui->BtnSetDefault, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_GeoParam::slot_pressed_BtnSetDefault);
     clearZone();
 }
 
@@ -78,8 +80,8 @@ void ZRK_Form_Config_Ainf_GeoParam::clearZone()
 
 bool ZRK_Form_Config_Ainf_GeoParam::typedPosition(double* lat, double* lon) const
 {
-    return parseGeoCoordinate(ui->lineEdit_Lat->text(), lat) && parseGeoCoordinate(ui->lineEdit_Lon->text(), lon)
-        && qAbs(*lat) <= 90.0 && qAbs(*lon) <= 180.0;
+    return parseGeoCoordinate(ui->lineEdit_Lat->text(), lat)
+        && parseGeoCoordinate(ui->lineEdit_Lon->text(), lon) && qAbs(*lat) <= 90.0 && qAbs(*lon) <= 180.0;
 }
 
 bool ZRK_Form_Config_Ainf_GeoParam::readZone(coreGeoZone* zone, QString* error) const
@@ -103,7 +105,8 @@ bool ZRK_Form_Config_Ainf_GeoParam::readZone(coreGeoZone* zone, QString* error) 
     zone->angle = ui->spinBox_Angle->value();
     zone->gob = gobFromBoxes();
     zone->outputs = ui->lineEdit_Outputs->text().leftJustified(kGeoZoneOutputsLength, QLatin1Char('0'), true);
-    zone->spdmode = ui->lineEdit_SpdMode->text().isEmpty() ? QStringLiteral("0") : ui->lineEdit_SpdMode->text();
+    zone->spdmode
+        = ui->lineEdit_SpdMode->text().isEmpty() ? QStringLiteral("0") : ui->lineEdit_SpdMode->text();
     return true;
 }
 

@@ -20,7 +20,8 @@ ZRK_Form_Config_Ainf_KML::ZRK_Form_Config_Ainf_KML(QWidget* parent)
     connect(ui->buttonBox, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
     const auto update = [this] {
-        ui->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(!ui->lineEdit_File->text().trimmed().isEmpty());
+        ui->buttonBox->button(QDialogButtonBox::Ok)
+            ->setEnabled(!ui->lineEdit_File->text().trimmed().isEmpty());
     };
     connect(ui->lineEdit_File, &QLineEdit::textChanged, this, update);
     update();
@@ -61,7 +62,8 @@ void ZRK_Form_Config_Ainf_KML::setGob(int gob)
 void ZRK_Form_Config_Ainf_KML::slot_pressed_BtnBrowse()
 {
     //% "Файл KML"
-    const QString file = QFileDialog::getOpenFileName(this, qtTrId("gain_250"), fileName(), QStringLiteral("*.kml"));
+    const QString file
+        = QFileDialog::getOpenFileName(this, qtTrId("gain_250"), fileName(), QStringLiteral("*.kml"));
     if (!file.isEmpty())
         ui->lineEdit_File->setText(file);
 }

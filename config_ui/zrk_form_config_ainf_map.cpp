@@ -19,8 +19,10 @@ ZRK_Form_Config_Ainf_Map::ZRK_Form_Config_Ainf_Map(QWidget* parent)
     ui->lineEdit_TileSource->setText(source);
     if (!source.isEmpty())
         ui->widget_Map->setTileSource(source);
-    connect(ui->BtnApplyTiles, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Map::slot_pressed_BtnApplyTiles);
-    connect(ui->lineEdit_TileSource, &QLineEdit::returnPressed, this, &ZRK_Form_Config_Ainf_Map::slot_pressed_BtnApplyTiles);
+    connect(ui->BtnApplyTiles, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_Map::slot_pressed_BtnApplyTiles);
+    connect(ui->lineEdit_TileSource, &QLineEdit::returnPressed, this,
+        &ZRK_Form_Config_Ainf_Map::slot_pressed_BtnApplyTiles);
     connect(ui->BtnCentre, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Map::slot_pressed_BtnCentre);
 }
 

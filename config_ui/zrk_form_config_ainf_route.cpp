@@ -7,8 +7,26 @@
 
 namespace {
 
-enum RouteColumn { RC_Id, RC_Number, RC_Char, RC_Begin, RC_End, RC_SetSnd, RC_Stops, RC_Count };
-enum StopColumn { SC_Type, SC_Zone, SC_Number, SC_Title, SC_Sounds, SC_Count };
+enum RouteColumn
+{
+    RC_Id,
+    RC_Number,
+    RC_Char,
+    RC_Begin,
+    RC_End,
+    RC_SetSnd,
+    RC_Stops,
+    RC_Count
+};
+enum StopColumn
+{
+    SC_Type,
+    SC_Zone,
+    SC_Number,
+    SC_Title,
+    SC_Sounds,
+    SC_Count
+};
 
 QTableWidgetItem* readOnly(const QString& text)
 {
@@ -37,13 +55,19 @@ ZRK_Form_Config_Ainf_Route::ZRK_Form_Config_Ainf_Route(QWidget* parent)
     ui->tableWidget_Stops->setColumnCount(SC_Count);
     ui->tableWidget_Routes->horizontalHeader()->setStretchLastSection(true);
     ui->tableWidget_Stops->horizontalHeader()->setStretchLastSection(true);
-    connect(ui->tableWidget_Routes, &QTableWidget::itemChanged, this, &ZRK_Form_Config_Ainf_Route::routeItemChanged);
-    connect(ui->tableWidget_Stops, &QTableWidget::itemChanged, this, &ZRK_Form_Config_Ainf_Route::stopItemChanged);
+    connect(ui->tableWidget_Routes, &QTableWidget::itemChanged, this,
+        &ZRK_Form_Config_Ainf_Route::routeItemChanged);
+    connect(ui->tableWidget_Stops, &QTableWidget::itemChanged, this,
+        &ZRK_Form_Config_Ainf_Route::stopItemChanged);
     connect(ui->tableWidget_Routes, &QTableWidget::currentCellChanged, this, [this] { showStops(); });
-    connect(ui->Routes_BtnAdd, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Route::slot_pressed_Routes_BtnAdd);
-    connect(ui->Routes_BtnDel, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Route::slot_pressed_Routes_BtnDel);
-    connect(ui->Stops_BtnAdd, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Route::slot_pressed_Stops_BtnAdd);
-    connect(ui->Stops_BtnDel, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Route::slot_pressed_Stops_BtnDel);
+    connect(ui->Routes_BtnAdd, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_Route::slot_pressed_Routes_BtnAdd);
+    connect(ui->Routes_BtnDel, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_Route::slot_pressed_Routes_BtnDel);
+    connect(ui->Stops_BtnAdd, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_Route::slot_pressed_Stops_BtnAdd);
+    connect(ui->Stops_BtnDel, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_Route::slot_pressed_Stops_BtnDel);
     for (int i = 0; i < 8; ++i) {
         auto* box = findChild<QCheckBox*>(QStringLiteral("checkBox_RouteFlag%1").arg(i));
         connect(box, &QCheckBox::toggled, this, [this, i](bool on) {
@@ -56,7 +80,8 @@ ZRK_Form_Config_Ainf_Route::ZRK_Form_Config_Ainf_Route(QWidget* parent)
     }
     // The defaults of new routes are edited in place.
     const auto text = [this](QLineEdit* e, QString coreAinfDefaults::*field) {
-        connect(e, &QLineEdit::textEdited, this, [this, field](const QString& t) { m_data->defaults.*field = t; });
+        connect(e, &QLineEdit::textEdited, this,
+            [this, field](const QString& t) { m_data->defaults.*field = t; });
     };
     text(ui->lineEdit_DefNumber, &coreAinfDefaults::routeNumber);
     text(ui->lineEdit_DefChar, &coreAinfDefaults::routeChar);
@@ -186,17 +211,26 @@ void ZRK_Form_Config_Ainf_Route::routeItemChanged(QTableWidgetItem* item)
     coreGeoRoute& r = m_data->routes[item->row()];
     const QString text = item->text().left(zrkAinfCaps().maxNameLength);
     switch (item->column()) {
-    case RC_Number: r.number = text; break;
-    case RC_Char: r.chr = text; break;
-    case RC_Begin: r.begin = text; break;
-    case RC_End: r.end = text; break;
+    case RC_Number:
+        r.number = text;
+        break;
+    case RC_Char:
+        r.chr = text;
+        break;
+    case RC_Begin:
+        r.begin = text;
+        break;
+    case RC_End:
+        r.end = text;
+        break;
     case RC_SetSnd:
         takeInt(item, r.setsnd, 0, 255);
         m_filling = true;
         item->setText(QString::number(r.setsnd));
         m_filling = false;
         break;
-    default: break;
+    default:
+        break;
     }
 }
 
@@ -207,12 +241,23 @@ void ZRK_Form_Config_Ainf_Route::stopItemChanged(QTableWidgetItem* item)
         return;
     coreGeoStop& s = m_data->routes[row].stops[item->row()];
     switch (item->column()) {
-    case SC_Type: takeInt(item, s.type, GeoStop_Stop, GeoStop_Terminal); break;
-    case SC_Zone: takeInt(item, s.zoneid, 1, zrkAinfCaps().maxZoneId); break;
-    case SC_Number: takeInt(item, s.number, 0, 65535); break;
-    case SC_Title: s.title = item->text().left(zrkAinfCaps().maxNameLength); break;
-    case SC_Sounds: s.soundsids = item->text().simplified().remove(QLatin1Char(' ')); break;
-    default: break;
+    case SC_Type:
+        takeInt(item, s.type, GeoStop_Stop, GeoStop_Terminal);
+        break;
+    case SC_Zone:
+        takeInt(item, s.zoneid, 1, zrkAinfCaps().maxZoneId);
+        break;
+    case SC_Number:
+        takeInt(item, s.number, 0, 65535);
+        break;
+    case SC_Title:
+        s.title = item->text().left(zrkAinfCaps().maxNameLength);
+        break;
+    case SC_Sounds:
+        s.soundsids = item->text().simplified().remove(QLatin1Char(' '));
+        break;
+    default:
+        break;
     }
     showStops();
     if (item->column() == SC_Zone)

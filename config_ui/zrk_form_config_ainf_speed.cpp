@@ -7,9 +7,9 @@
 namespace {
 
 // The integer keys after "id" and "title", in the file's order.
-constexpr int coreSpeedZone::*kSpeedInts[]
-    = { &coreSpeedZone::speed, &coreSpeedZone::gap, &coreSpeedZone::limitsnd, &coreSpeedZone::activesnd,
-          &coreSpeedZone::limitrep, &coreSpeedZone::activerep, &coreSpeedZone::delay, &coreSpeedZone::limitbuzz };
+constexpr int coreSpeedZone::*kSpeedInts[] = { &coreSpeedZone::speed, &coreSpeedZone::gap,
+    &coreSpeedZone::limitsnd, &coreSpeedZone::activesnd, &coreSpeedZone::limitrep, &coreSpeedZone::activerep,
+    &coreSpeedZone::delay, &coreSpeedZone::limitbuzz };
 constexpr int kSpeedIntCount = int(sizeof(kSpeedInts) / sizeof(kSpeedInts[0]));
 constexpr int kColTitle = 1;
 constexpr int kColFirstInt = 2;
@@ -23,9 +23,12 @@ ZRK_Form_Config_Ainf_Speed::ZRK_Form_Config_Ainf_Speed(QWidget* parent)
     ui->setupUi(this);
     ui->tableWidget_Speeds->setColumnCount(kColFirstInt + kSpeedIntCount);
     ui->tableWidget_Speeds->horizontalHeader()->setStretchLastSection(true);
-    connect(ui->tableWidget_Speeds, &QTableWidget::itemChanged, this, &ZRK_Form_Config_Ainf_Speed::itemChanged);
-    connect(ui->Speeds_BtnAdd, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Speed::slot_pressed_Speeds_BtnAdd);
-    connect(ui->Speeds_BtnDel, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Speed::slot_pressed_Speeds_BtnDel);
+    connect(
+        ui->tableWidget_Speeds, &QTableWidget::itemChanged, this, &ZRK_Form_Config_Ainf_Speed::itemChanged);
+    connect(ui->Speeds_BtnAdd, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_Speed::slot_pressed_Speeds_BtnAdd);
+    connect(ui->Speeds_BtnDel, &QPushButton::clicked, this,
+        &ZRK_Form_Config_Ainf_Speed::slot_pressed_Speeds_BtnDel);
     connect(ui->spinBox_SpeedMode, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int v) {
         if (!m_filling)
             m_data->defaults.speedmode = v;

@@ -20,7 +20,8 @@ void ZRK_Dialog_Map_Track::setTrack(const QVector<ZrkMapTrackPoint>& points)
     m_map->setTrack(points);
 }
 
-ZRK_Dialog_Map_Track* ZRK_Dialog_Map_Track::showTrack(const QVector<ZrkMapTrackPoint>& points, QWidget* parent)
+ZRK_Dialog_Map_Track* ZRK_Dialog_Map_Track::showTrack(
+    const QVector<ZrkMapTrackPoint>& points, QWidget* parent)
 {
     static QPointer<ZRK_Dialog_Map_Track> shared;
     if (!shared)

@@ -17,7 +17,8 @@ public:
     ZRK_Widget_Map* map() const { return m_map; }
 
     // Shows the points in the shared track window and returns it.
-    static ZRK_Dialog_Map_Track* showTrack(const QVector<ZrkMapTrackPoint>& points, QWidget* parent = nullptr);
+    static ZRK_Dialog_Map_Track* showTrack(
+        const QVector<ZrkMapTrackPoint>& points, QWidget* parent = nullptr);
 
 private:
     ZRK_Widget_Map* m_map;

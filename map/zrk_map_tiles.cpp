@@ -1,6 +1,7 @@
 #include "zrk_map_tiles.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,8 +9,24 @@
 #include <QWebEngineUrlRequestJob>
 
 namespace {
+
 ZRK_Map_TileHandler* g_handler = nullptr;
-}
+
+// The handler's code is in the plug-in: it leaves the profile when the plug-in is unloaded.
+struct HandlerRemoval
+{
+    ~HandlerRemoval()
+    {
+        if (!g_handler)
+            return;
+        if (QCoreApplication::instance())
+            QWebEngineProfile::defaultProfile()->removeUrlSchemeHandler(g_handler);
+        delete g_handler;
+        g_handler = nullptr;
+    }
+} g_handlerRemoval;
+
+} // namespace
 
 ZRK_Map_TileHandler::ZRK_Map_TileHandler(QObject* parent)
     : QWebEngineUrlSchemeHandler(parent)
@@ -20,7 +37,7 @@ QString ZRK_Map_TileHandler::serveFolder(const QString& folder)
 {
     if (!g_handler) {
         QWebEngineProfile* profile = QWebEngineProfile::defaultProfile();
-        g_handler = new ZRK_Map_TileHandler(profile);
+        g_handler = new ZRK_Map_TileHandler(nullptr);
         profile->installUrlSchemeHandler(kScheme, g_handler);
     }
     g_handler->m_folder = folder;
@@ -63,6 +80,7 @@ void ZRK_Map_TileHandler::requestStarted(QWebEngineUrlRequestJob* job)
     auto* buffer = new QBuffer(job);
     buffer->setData(in.readAll());
     buffer->open(QIODevice::ReadOnly);
-    job->reply(file.endsWith(QLatin1String(".png")) ? QByteArrayLiteral("image/png") : QByteArrayLiteral("image/jpeg"),
+    job->reply(file.endsWith(QLatin1String(".png")) ? QByteArrayLiteral("image/png")
+                                                    : QByteArrayLiteral("image/jpeg"),
         buffer);
 }

@@ -9,6 +9,7 @@
 #include <QWebEnginePage>
 #include <QWebEngineView>
 
+#include <dlfcn.h>
 #include <unistd.h>
 
 static void zrkInitMapResources()
@@ -16,6 +17,24 @@ static void zrkInitMapResources()
     // The resources live in a static library; the linker keeps them only when asked by name.
     Q_INIT_RESOURCE(zrk_map);
 }
+
+namespace {
+
+// The web engine leaves objects of its own on the application (the default profile and its
+// helpers). When the host unloads the plug-in, the engine's libraries, loaded for the plug-in,
+// would go with it and leave those objects without their code; keep them loaded for the process.
+void keepWebEngineLoaded()
+{
+    static bool done = false;
+    if (done)
+        return;
+    done = true;
+    for (const char* lib : { "libQt5WebEngineCore.so.5", "libQt5WebEngineWidgets.so.5",
+             "libQt5WebChannel.so.5", "libQt5Quick.so.5", "libQt5Qml.so.5", "libQt5Positioning.so.5" })
+        ::dlopen(lib, RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
+}
+
+} // namespace
 
 // The object the page calls through the WebChannel; its slots are the page's notifications.
 class ZRK_Map_Bridge : public QObject
@@ -58,7 +77,8 @@ QString json(const QJsonValue& value)
 QJsonObject zoneJson(const ZrkMapZone& z)
 {
     return QJsonObject { { QStringLiteral("id"), z.id }, { QStringLiteral("name"), z.name },
-        { QStringLiteral("lat"), z.lat }, { QStringLiteral("lon"), z.lon }, { QStringLiteral("r"), z.radius } };
+        { QStringLiteral("lat"), z.lat }, { QStringLiteral("lon"), z.lon },
+        { QStringLiteral("r"), z.radius } };
 }
 
 } // namespace
@@ -67,6 +87,7 @@ ZRK_Widget_Map::ZRK_Widget_Map(QWidget* parent)
     : QWidget(parent)
 {
     zrkInitMapResources();
+    keepWebEngineLoaded();
     // The web engine's sandbox cannot start for root; without this the view stays blank there.
     if (::geteuid() == 0 && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX"))
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
@@ -198,7 +219,9 @@ void ZRK_Widget_Map::setTileSource(const QString& source)
     m_tileSource = source.trimmed();
     const QString url = tileUrlFor(m_tileSource);
     runScript(QStringLiteral("zrkMap.setTiles(%1)")
-                  .arg(QString::fromUtf8(QJsonDocument(QJsonArray { url }).toJson(QJsonDocument::Compact)).mid(1).chopped(1)));
+                  .arg(QString::fromUtf8(QJsonDocument(QJsonArray { url }).toJson(QJsonDocument::Compact))
+                           .mid(1)
+                           .chopped(1)));
 }
 
 #include "zrk_widget_map.moc"

@@ -37,7 +37,9 @@ unsigned long hostCallback(void*, int msg, unsigned long w, unsigned long)
     r->result = ZRK_SD_OK;
     qint32 result = ZRK_SD_OK;
     switch (r->operation) {
-    case ZRK_SD_OPEN: g_open[r->fileName].clear(); break;
+    case ZRK_SD_OPEN:
+        g_open[r->fileName].clear();
+        break;
     case ZRK_SD_WRITE:
         if (g_failWith != ZRK_SD_OK || int(r->size) != r->data.size() || r->data.size() > ZRK_SD_CHUNK_MAX) {
             result = g_failWith != ZRK_SD_OK ? g_failWith : ZRK_SD_BAD_REQUEST;
@@ -45,8 +47,11 @@ unsigned long hostCallback(void*, int msg, unsigned long w, unsigned long)
         }
         g_open[r->fileName].replace(int(r->offset), r->data.size(), r->data);
         break;
-    case ZRK_SD_CLOSE: g_card[r->fileName] = g_open.take(r->fileName); break;
-    default: result = ZRK_SD_BAD_REQUEST;
+    case ZRK_SD_CLOSE:
+        g_card[r->fileName] = g_open.take(r->fileName);
+        break;
+    default:
+        result = ZRK_SD_BAD_REQUEST;
     }
     QByteArray answer = reply(*r, result);
     g_page->receive_SD_File(&answer); // the reply comes inside the request's call
@@ -100,7 +105,9 @@ private slots:
     void firstFreeIdAfterDeletesAndDuplicate()
     {
         for (int i = 0; i < 5; ++i)
-            QCOMPARE(m_page->addGeoZone(QStringLiteral("z"), 150, 10, 3, QStringLiteral("55.1"), QStringLiteral("37,2")), i + 1);
+            QCOMPARE(m_page->addGeoZone(
+                         QStringLiteral("z"), 150, 10, 3, QStringLiteral("55.1"), QStringLiteral("37,2")),
+                i + 1);
         QCOMPARE(m_page->deleteZones({ 3, 1, 3 }), 2); // ids 4 and 2; a repeated row counts once
         QCOMPARE(ids(*m_page), (QVector<int> { 1, 3, 5 }));
         QCOMPARE(m_page->addZoneAt(56.0, 38.0), 2);
@@ -121,10 +128,14 @@ private slots:
     {
         QTest::addColumn<QString>("lat");
         QTest::addColumn<QString>("lon");
-        QTest::newRow("latitude past the pole") << "90.5" << "37";
-        QTest::newRow("longitude past 180") << "55" << "-180.01";
-        QTest::newRow("not a number") << "55.x" << "37";
-        QTest::newRow("empty") << "" << "37";
+        QTest::newRow("latitude past the pole") << "90.5"
+                                                << "37";
+        QTest::newRow("longitude past 180") << "55"
+                                            << "-180.01";
+        QTest::newRow("not a number") << "55.x"
+                                      << "37";
+        QTest::newRow("empty") << ""
+                               << "37";
     }
     void refusedZones()
     {
@@ -145,7 +156,8 @@ private slots:
         QCOMPARE(m_page->addZoneAt(55, 37), 0);
         QCOMPARE(m_page->duplicateZone(0), 0);
         QCOMPARE(m_messages.size(), 2);
-        QVERIFY2(m_messages.first().contains(QString::number(m_page->caps().maxZones)), qPrintable(m_messages.first()));
+        QVERIFY2(m_messages.first().contains(QString::number(m_page->caps().maxZones)),
+            qPrintable(m_messages.first()));
         QCOMPARE(m_page->data().zones.size(), m_page->caps().maxZones);
         // Deleting many at once keeps the rest in order.
         QCOMPARE(m_page->deleteZones({ 0, 1, 9999 }), 3);
@@ -194,12 +206,16 @@ private slots:
         const QString path = m_dir.filePath(QStringLiteral("points.kml"));
         QFile f(path);
         QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<kml xmlns=\"http://www.opengis.net/kml/2.2\"><Document>"
-                "<Folder><Folder><Placemark><name>Площадь</name><Point><coordinates> 37.61,55.75,0 </coordinates>"
-                "</Point></Placemark></Folder>"
-                "<Placemark><name>Дорога</name><LineString><coordinates>37,55 38,56</coordinates></LineString></Placemark>"
-                "<Placemark><name>Мост</name><Point><coordinates>37.7,55.8</coordinates></Point></Placemark></Folder>"
-                "<Placemark><name>Без точки</name></Placemark></Document></kml>");
+        f.write(
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<kml "
+            "xmlns=\"http://www.opengis.net/kml/2.2\"><Document>"
+            "<Folder><Folder><Placemark><name>Площадь</name><Point><coordinates> 37.61,55.75,0 </coordinates>"
+            "</Point></Placemark></Folder>"
+            "<Placemark><name>Дорога</name><LineString><coordinates>37,55 "
+            "38,56</coordinates></LineString></Placemark>"
+            "<Placemark><name>Мост</name><Point><coordinates>37.7,55.8</coordinates></Point></Placemark></"
+            "Folder>"
+            "<Placemark><name>Без точки</name></Placemark></Document></kml>");
         f.close();
         coreAinfData data;
         data.zones << zone(1) << zone(3);
@@ -252,7 +268,8 @@ private slots:
 
     void proposedName()
     {
-        const QString name = ZRK_Form_Config_Ainf::proposedFileName(QDateTime(QDate(2026, 3, 7), QTime(9, 5, 4)));
+        const QString name
+            = ZRK_Form_Config_Ainf::proposedFileName(QDateTime(QDate(2026, 3, 7), QTime(9, 5, 4)));
         QVERIFY2(name.endsWith(QStringLiteral("/Data/AINF(07-03-26 09_05_04).xml")), qPrintable(name));
     }
 
@@ -292,7 +309,8 @@ private slots:
             return;
         }
         const QByteArray geo = renderFileParamGeo(data, true);
-        QCOMPARE(g_card.keys(), (QStringList { QStringLiteral("GeoZones.cfg"), QStringLiteral("GeoZones.xml") }));
+        QCOMPARE(
+            g_card.keys(), (QStringList { QStringLiteral("GeoZones.cfg"), QStringLiteral("GeoZones.xml") }));
         QCOMPARE(g_card.value(QStringLiteral("GeoZones.xml")), geo);
         QCOMPARE(g_card.value(QStringLiteral("GeoZones.cfg")), renderFileCFG(data.defaults));
         // open + writes of 4 KB at most + close, per file

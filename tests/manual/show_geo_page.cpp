@@ -42,7 +42,8 @@ bool shot(QWidget* w, const QString& file)
 int main(int argc, char* argv[])
 {
     QTemporaryDir home;
-    for (const char* var : { "HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
+    for (const char* var :
+        { "HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
         qputenv(var, home.path().toLocal8Bit());
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
@@ -55,17 +56,20 @@ int main(int argc, char* argv[])
     QFile f(kml);
     if (!f.open(QIODevice::WriteOnly))
         return 1;
-    f.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<kml xmlns=\"http://www.opengis.net/kml/2.2\"><Document>\n");
+    f.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<kml "
+            "xmlns=\"http://www.opengis.net/kml/2.2\"><Document>\n");
     for (int i = 0; i < 300; ++i) {
         const double a = i * 0.35, r = 0.004 + i * 0.00025;
-        f.write(QStringLiteral("<Placemark><name>Остановка %1</name><Point><coordinates>%2,%3,0</coordinates></Point>"
-                               "</Placemark>\n")
+        f.write(QStringLiteral(
+            "<Placemark><name>Остановка %1</name><Point><coordinates>%2,%3,0</coordinates></Point>"
+            "</Placemark>\n")
                     .arg(i + 1)
                     .arg(37.62 + r * 1.8 * std::cos(a), 0, 'f', 6)
                     .arg(55.75 + r * std::sin(a), 0, 'f', 6)
                     .toUtf8());
     }
-    f.write("<Placemark><name>Трасса</name><LineString><coordinates>37.5,55.7 37.7,55.8</coordinates></LineString>"
+    f.write("<Placemark><name>Трасса</name><LineString><coordinates>37.5,55.7 "
+            "37.7,55.8</coordinates></LineString>"
             "</Placemark>\n</Document></kml>\n");
     f.close();
 

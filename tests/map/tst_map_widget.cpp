@@ -20,7 +20,10 @@ class TstMapWidget : public QObject
     {
         return zrktest::waitFor([&](auto done) { m_map->runScript(script, done); });
     }
-    QJsonObject stats() { return QJsonObject::fromVariantMap(eval(QStringLiteral("zrkMap.stats()")).toMap()); }
+    QJsonObject stats()
+    {
+        return QJsonObject::fromVariantMap(eval(QStringLiteral("zrkMap.stats()")).toMap());
+    }
 
     static QVector<ZrkMapZone> threeZones()
     {
@@ -49,7 +52,8 @@ private slots:
         QSignalSpy shown(m_map, &ZRK_Widget_Map::zonesShown);
         m_map->setZones(threeZones());
         // Zone 99 is not on the map: the line goes through the stops that are.
-        m_map->setRoutes({ { 1, QStringLiteral("12"), { 1, 99, 2, 7 } }, { 2, QStringLiteral("single"), { 2 } } });
+        m_map->setRoutes(
+            { { 1, QStringLiteral("12"), { 1, 99, 2, 7 } }, { 2, QStringLiteral("single"), { 2 } } });
         QTRY_COMPARE_WITH_TIMEOUT(shown.count(), 1, 10000);
         QCOMPARE(shown.first().at(0).toInt(), 3);
 

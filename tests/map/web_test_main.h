@@ -17,7 +17,8 @@ inline int runWebTest(int argc, char* argv[], QObject* (*makeTest)())
     QTemporaryDir home;
     if (!home.isValid())
         return 1;
-    for (const char* var : { "HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
+    for (const char* var :
+        { "HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
         qputenv(var, home.path().toLocal8Bit());
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
@@ -45,8 +46,8 @@ template <typename Start> QVariant waitFor(Start start, int timeoutMs = 10000)
 
 } // namespace zrktest
 
-#define ZRK_WEB_TEST_MAIN(TestClass)                                                                       \
-    int main(int argc, char* argv[])                                                                       \
-    {                                                                                                      \
-        return zrktest::runWebTest(argc, argv, []() -> QObject* { return new TestClass; });                \
+#define ZRK_WEB_TEST_MAIN(TestClass)                                                                         \
+    int main(int argc, char* argv[])                                                                         \
+    {                                                                                                        \
+        return zrktest::runWebTest(argc, argv, []() -> QObject* { return new TestClass; });                  \
     }
