@@ -2305,7 +2305,9 @@ The old file is unchanged.</translation>
         <translation>The terminal has no SD card; the file %1 was not written.</translation>
     </message>
     <message id="gain_293">
-        <source>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</source>
+        <source>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок
+</source>
+        <oldsource>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</oldsource>
         <translation>Type the new zone&apos;s latitude (-90 to 90) and longitude (-180 to 180), or double-click the map.</translation>
     </message>
     <message id="gain_294">
@@ -2789,7 +2791,9 @@ The old file is unchanged.</translation>
         <translation>Tiles</translation>
     </message>
     <message id="gain_089">
-        <source>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</source>
+        <source>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с
+</source>
+        <oldsource>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</oldsource>
         <translation>Empty: the coordinate grid; a tile server address like http://host/{z}/{x}/{y}.png; or a folder of z/x/y tiles</translation>
     </message>
     <message id="gain_090">
