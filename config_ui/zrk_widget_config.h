@@ -2,17 +2,26 @@
 
 #include "zrk/zrk_host_api.h"
 
-#include <QDialog>
+#include "config_model/config_diff.h"
 
-class QByteArray;
+#include <QByteArray>
+#include <QDialog>
+#include <QTimer>
+
+class ZRK_Widget_Config_Full;
+class ZRK_Widget_Config_Light;
+namespace Ui {
+class ZRK_Designer_Widget_Config;
+}
 
 // The configuration window: one per plug-in, created hidden by the device object and never
 // deleted while the library is loaded. The device object routes the host's configuration
-// messages to the operations below.
+// messages to the operations below (virtual, so that a test can watch the routing).
 //
-// Filled by the configuration-editor work: openConfig, saveConfigToDevice, readConfigFromDevice,
-// openConfigPage, getFileConfigure, the complex-event operations and every receive... operation
-// have empty bodies in this shell; the operations are virtual so that the routing can be watched.
+// It shows the full editor (a tab per page) or the light editor, opens a configuration from a
+// file, from the terminal or as a new one, saves it, hands it to the host for the terminal, keeps
+// a dated copy of everything read from the terminal, compares, and asks before unsaved changes
+// are dropped.
 class ZRK_Widget_Config : public QDialog
 {
     Q_OBJECT
@@ -69,6 +78,85 @@ public:
     virtual void receive_Camera_Info(QByteArray* data);
     virtual void receive_PhotoInfo_SD_File(QByteArray* data);
 
+    // Editor switching: show one, or hand the document over and show the other.
+    void showWidgetConfigFull();
+    void showWidgetConfigLight();
+    void changeConfigWidgetToFull();
+    void changeConfigWidgetToLight();
+    bool isFullEditorShown() const;
+
+    // What the buttons do, without dialogs.
+    void newConfig();
+    // Opens a file into the editor showing; false (with a message) when it does not load.
+    bool openFile(const QString& path);
+    // Saves the editor's configuration; false (with a message) when the file cannot be written.
+    bool saveFile(const QString& path);
+    void resetToDefaults();
+    QVector<zrk::ConfigDifference> compareWithFile(const QString& path, bool* ok = nullptr);
+    // Against the copy kept of the configuration last read from the terminal.
+    QVector<zrk::ConfigDifference> compareWithLastRead(bool* ok = nullptr);
+
+    // The configuration as the editor showing would save it.
+    QByteArray currentXml();
+    // Compares with what was last opened or saved now, without waiting for the pause after edits.
+    void updateModified();
+    bool isModified() const { return m_modified; }
+    QString currentFile() const { return m_filePath; }
+    QString lastReadCopy() const { return m_lastReadCopy; }
+    ZRK_Widget_Config_Full* widgetFull() const { return m_full; }
+    ZRK_Widget_Config_Light* widgetLight() const { return m_light; }
+
+    enum class UnsavedAnswer
+    {
+        Save,
+        Discard,
+        Cancel,
+    };
+
+protected:
+    // The user's side of the window; a test answers them itself.
+    virtual UnsavedAnswer askUnsavedChanges();
+    virtual void showMessage(const QString& text);
+    virtual QString chooseFileToOpen();
+    virtual QString chooseFileToSave();
+    virtual void showDifferences(const QVector<zrk::ConfigDifference>& differences, const QString& against);
+
+    void closeEvent(QCloseEvent* event) override;
+    void reject() override;
+
+private slots:
+    void slot_pressed_New();
+    void slot_pressed_Open();
+    void slot_pressed_Save();
+    void slot_pressed_SaveAs();
+    void slot_pressed_Read();
+    void slot_pressed_Load();
+    void slot_pressed_Defaults();
+    void slot_pressed_Editor();
+    void slot_contentEdited();
+
 private:
+    // Reads a file into both editors' documents; false with a message, everything kept as it was.
+    bool loadConfiguration(const QString& path, szConfigParam& configParam);
+    void keepReadCopy(const QString& path);
+    void markSaved();
+    void setTitleName(const QString& name);
+    void updateTitle();
+    void updateButtons();
+    // Asks about unsaved changes; false when the window must stay open.
+    bool confirmClose();
+    QString deviceType() const;
+    QString loadErrorText(const QString& path, const QString& reason) const;
+
+    Ui::ZRK_Designer_Widget_Config* ui;
+    ZRK_Widget_Config_Full* m_full = nullptr;
+    ZRK_Widget_Config_Light* m_light = nullptr;
     bool m_connected = false;
+    QString m_filePath; // the file the configuration came from or was saved to; empty otherwise
+    QString m_titleName; // what follows the device type in the title; empty before the first open
+    QString m_lastReadCopy; // the dated copy of the configuration last read from the terminal
+    QByteArray m_savedXml; // the configuration as last opened or saved, to tell edits
+    bool m_modified = false;
+    bool m_closeConfirmed = false;
+    QTimer m_editPause;
 };

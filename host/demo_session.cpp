@@ -114,6 +114,8 @@ int ZrkDemoSession::run()
     m_window.setLanguage(QStringLiteral("ru"));
     ok = grab(&m_window, QStringLiteral("language")) && ok;
 
+    ok = runConfigSteps() && ok;
+
     // The plug-in's about form, as the plug-in fills it: its name, version and build.
     QWidget* about = topLevel("ZRK_Form_Param_About");
     if (!about) {
@@ -152,5 +154,6 @@ int ZrkDemoSession::run()
     about->hide();
     wait->hide();
     runTelemetrySteps();
+    ok = runGeoSteps() && ok;
     return ok ? 0 : 1;
 }

@@ -27,10 +27,14 @@ public:
 
 private:
     void runTelemetrySteps(); // demo_telemetry.cpp
+    // The configuration window: new, the track page, the black list, reading from the terminal,
+    // the other settings, writing to the terminal.
+    bool runConfigSteps();
     void settle(int ms = 150);
     bool grab(QWidget* widget, const QString& name);
     bool grabScreen(const QString& name);
     static QWidget* topLevel(const char* className);
+    bool runGeoSteps();
 
     ZrkHostWindow& m_window;
     QString m_plugin;

@@ -329,6 +329,10 @@ QWidget* ZrkHostWindow::buildControls()
     m_tmiKind->addItem(
         //% "таблицей"
         qtTrId("host_064"), 1u);
+    auto* openConfig = new QPushButton(
+        //% "Открыть конфигурацию… (2101)"
+        qtTrId("host_708"));
+    connect(openConfig, &QPushButton::clicked, this, &ZrkHostWindow::chooseConfigurationFile);
     connect(newConfig, &QPushButton::clicked, this, &ZrkHostWindow::openNewConfiguration);
     connect(tmiView, &QPushButton::clicked, this, &ZrkHostWindow::openTelemetryView);
     connect(tmiFile, &QPushButton::clicked, this, &ZrkHostWindow::chooseTelemetryFile);
@@ -336,8 +340,9 @@ QWidget* ZrkHostWindow::buildControls()
     winGrid->addWidget(tmiView, 0, 1);
     winGrid->addWidget(tmiFile, 1, 0);
     winGrid->addWidget(m_tmiKind, 1, 1);
+    winGrid->addWidget(openConfig, 2, 0);
     layout->addWidget(winBox);
-    m_pluginControls << newConfig << tmiView << tmiFile;
+    m_pluginControls << newConfig << tmiView << tmiFile << openConfig;
     layout->addStretch();
     return panel;
 }
@@ -518,6 +523,45 @@ void ZrkHostWindow::openNewConfiguration()
     m_dispatcher.send(ZRK_MSG_OPEN_CONFIGURATION, addr(file), 0,
         //% "%1: полный редактор, новая"
         qtTrId("host_072").arg(QStringLiteral("szConfigFile")));
+}
+
+void ZrkHostWindow::openConfigurationFile(const QString& fileName)
+{
+    szConfigFile file;
+    std::memset(&file, 0, sizeof file);
+    file.mode = 1;
+    file.source = 1; // from a file: the window titles it with the file name
+    const QByteArray local = fileName.toLocal8Bit().left(ZRK_CONFIG_PATH_SIZE - 1);
+    std::memcpy(file.path, local.constData(), static_cast<size_t>(local.size()));
+    m_dispatcher.send(ZRK_MSG_OPEN_CONFIGURATION, addr(file), 0,
+        //% "%1: полный редактор, файл «%2»"
+        qtTrId("host_709").arg(QStringLiteral("szConfigFile"), fileName));
+}
+
+void ZrkHostWindow::chooseConfigurationFile()
+{
+    const QString file = QFileDialog::getOpenFileName(this,
+        //% "Файл конфигурации"
+        qtTrId("host_710"), QString(),
+        //% "Конфигурации (*.xml)"
+        qtTrId("host_711"));
+    if (!file.isEmpty())
+        openConfigurationFile(file);
+}
+
+void ZrkHostWindow::openConfigurationPage(quint32 page)
+{
+    m_dispatcher.send(ZRK_MSG_OPEN_CONFIG_PAGE, addr(page), 0, QStringLiteral("uint32* = %1").arg(page));
+}
+
+void ZrkHostWindow::readConfigurationFromTerminal()
+{
+    m_dispatcher.send(ZRK_MSG_READ_CONFIG_FROM_DEVICE, 0, 0);
+}
+
+void ZrkHostWindow::writeConfigurationToTerminal()
+{
+    m_dispatcher.send(ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
 }
 
 void ZrkHostWindow::openTelemetryView()

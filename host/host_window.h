@@ -40,6 +40,12 @@ public slots:
     void disconnectTerminal();
     void setLanguage(const QString& language);
     void openNewConfiguration();
+    // 2101 with source 1: the configuration window opens the file.
+    void openConfigurationFile(const QString& fileName);
+    // 2383, 2382 and 2381 as the host's own menu sends them.
+    void openConfigurationPage(quint32 page);
+    void readConfigurationFromTerminal();
+    void writeConfigurationToTerminal();
     void openTelemetryView();
     void openTelemetryFile(const QString& fileName, quint32 kind);
 
@@ -52,6 +58,7 @@ public slots:
 private slots:
     void chooseAndLoadPlugin();
     void chooseTelemetryFile();
+    void chooseConfigurationFile();
 
 private:
     QWidget* buildInfoPanel();

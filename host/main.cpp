@@ -5,6 +5,7 @@
 #include "host_dispatcher.h"
 #include "host_window.h"
 #include "plugin_loader.h"
+#include "sim_config.h"
 #include "sim_sdcard.h"
 #include "sim_telemetry.h"
 
@@ -71,6 +72,7 @@ int main(int argc, char* argv[])
     {
         ZrkHostDispatcher dispatcher(loader);
         ZrkHostWindow window(loader, dispatcher);
+        new ZrkSimConfig(dispatcher, &window);
         auto* sdCard = new ZrkSimSdCard(dispatcher, &window);
         window.addDockWidget(Qt::RightDockWidgetArea, sdCard->createDock());
         ZrkSimTelemetry telemetry;

@@ -407,5 +407,61 @@
         <source>Записей: %1 (№ %2–%3); полей в записи: %4, %5 байт</source>
         <translation>Records: %1 (No. %2–%3); fields per record: %4, %5 bytes</translation>
     </message>
+    <message id="host_076">
+        <source>Период записи трека</source>
+        <translation>Track recording period</translation>
+    </message>
+    <message id="host_077">
+        <source>Интервал в секундах, с которым терминал сохраняет точку трека во время движения. При остановке запись идёт с периодом стоянки.
+
+Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.</source>
+        <translation>The interval in seconds at which the terminal stores a track point while moving. When stopped, points are recorded at the parking period.
+
+Allowed values: 1 to 3600 s. Default: 30 s.</translation>
+    </message>
+    <message id="host_708">
+        <source>Открыть конфигурацию… (2101)</source>
+        <translation>Open configuration… (2101)</translation>
+    </message>
+    <message id="host_709">
+        <source>%1: полный редактор, файл «%2»</source>
+        <translation>%1: full editor, file «%2»</translation>
+    </message>
+    <message id="host_710">
+        <source>Файл конфигурации</source>
+        <translation>Configuration file</translation>
+    </message>
+    <message id="host_711">
+        <source>Конфигурации (*.xml)</source>
+        <translation>Configurations (*.xml)</translation>
+    </message>
+    <message id="host_701">
+        <source>чтение конфигурации: %1 байт</source>
+        <translation>configuration read: %1 bytes</translation>
+    </message>
+    <message id="host_702">
+        <source>нет пути к файлу</source>
+        <translation>no file path</translation>
+    </message>
+    <message id="host_703">
+        <source>прошивка «%1» (не записывается симулятором)</source>
+        <translation>firmware «%1» (not written by the simulator)</translation>
+    </message>
+    <message id="host_704">
+        <source>неизвестный вид файла %1</source>
+        <translation>unknown file kind %1</translation>
+    </message>
+    <message id="host_705">
+        <source>файл «%1» не читается: %2</source>
+        <translation>file «%1» cannot be read: %2</translation>
+    </message>
+    <message id="host_706">
+        <source>конфигурация записана в терминал: %1 байт</source>
+        <translation>configuration written to the terminal: %1 bytes</translation>
+    </message>
+    <message id="host_707">
+        <source>%1: полный редактор, из терминала «%2»</source>
+        <translation>%1: full editor, from the terminal «%2»</translation>
+    </message>
 </context>
 </TS>

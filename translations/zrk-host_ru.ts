@@ -407,5 +407,61 @@
         <source>Записей: %1 (№ %2–%3); полей в записи: %4, %5 байт</source>
         <translation>Записей: %1 (№ %2–%3); полей в записи: %4, %5 байт</translation>
     </message>
+    <message id="host_076">
+        <source>Период записи трека</source>
+        <translation>Период записи трека</translation>
+    </message>
+    <message id="host_077">
+        <source>Интервал в секундах, с которым терминал сохраняет точку трека во время движения. При остановке запись идёт с периодом стоянки.
+
+Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.</source>
+        <translation>Интервал в секундах, с которым терминал сохраняет точку трека во время движения. При остановке запись идёт с периодом стоянки.
+
+Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.</translation>
+    </message>
+    <message id="host_708">
+        <source>Открыть конфигурацию… (2101)</source>
+        <translation>Открыть конфигурацию… (2101)</translation>
+    </message>
+    <message id="host_709">
+        <source>%1: полный редактор, файл «%2»</source>
+        <translation>%1: полный редактор, файл «%2»</translation>
+    </message>
+    <message id="host_710">
+        <source>Файл конфигурации</source>
+        <translation>Файл конфигурации</translation>
+    </message>
+    <message id="host_711">
+        <source>Конфигурации (*.xml)</source>
+        <translation>Конфигурации (*.xml)</translation>
+    </message>
+    <message id="host_701">
+        <source>чтение конфигурации: %1 байт</source>
+        <translation>чтение конфигурации: %1 байт</translation>
+    </message>
+    <message id="host_702">
+        <source>нет пути к файлу</source>
+        <translation>нет пути к файлу</translation>
+    </message>
+    <message id="host_703">
+        <source>прошивка «%1» (не записывается симулятором)</source>
+        <translation>прошивка «%1» (не записывается симулятором)</translation>
+    </message>
+    <message id="host_704">
+        <source>неизвестный вид файла %1</source>
+        <translation>неизвестный вид файла %1</translation>
+    </message>
+    <message id="host_705">
+        <source>файл «%1» не читается: %2</source>
+        <translation>файл «%1» не читается: %2</translation>
+    </message>
+    <message id="host_706">
+        <source>конфигурация записана в терминал: %1 байт</source>
+        <translation>конфигурация записана в терминал: %1 байт</translation>
+    </message>
+    <message id="host_707">
+        <source>%1: полный редактор, из терминала «%2»</source>
+        <translation>%1: полный редактор, из терминала «%2»</translation>
+    </message>
 </context>
 </TS>

@@ -2749,5 +2749,946 @@ Records read before the fault: %2. Show them?</translation>
         <source>Показано записей: %1 из %2</source>
         <translation>Records shown: %1 of %2</translation>
     </message>
+    <message id="cmpc_001">
+        <source>Сравнение конфигураций</source>
+        <translation>Compare configurations</translation>
+    </message>
+    <message id="cmpc_002">
+        <source>Раздел / узел</source>
+        <translation>Section / node</translation>
+    </message>
+    <message id="cmpc_003">
+        <source>Ключ</source>
+        <translation>Key</translation>
+    </message>
+    <message id="cmpc_004">
+        <source>Название</source>
+        <translation>Name</translation>
+    </message>
+    <message id="cmpc_005">
+        <source>В редакторе</source>
+        <translation>In the editor</translation>
+    </message>
+    <message id="cmpc_006">
+        <source>В другой</source>
+        <translation>In the other</translation>
+    </message>
+    <message id="cmpc_007">
+        <source>Сравнение с: %1</source>
+        <translation>Compared with: %1</translation>
+    </message>
+    <message id="cmpc_008">
+        <source>Различий нет.</source>
+        <translation>No differences.</translation>
+    </message>
+    <message id="cmpc_009">
+        <source>Различий: %1</source>
+        <translation>Differences: %1</translation>
+    </message>
+    <message id="cmpc_010">
+        <source>(нет)</source>
+        <translation>(none)</translation>
+    </message>
+    <message id="cmpc_011">
+        <source>(корень)</source>
+        <translation>(root)</translation>
+    </message>
+    <message id="cfgx_002">
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в
+</source>
+        <oldsource>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</oldsource>
+        <translation>Terminal settings this editor has no page for. They are kept and written to the terminal unchanged; values can be edited (double-click a row).</translation>
+    </message>
+    <message id="cfgx_003">
+        <source>Фильтр:</source>
+        <translation>Filter:</translation>
+    </message>
+    <message id="cfgx_004">
+        <source>Показать только узлы, ключи и значения, содержащие этот текст</source>
+        <translation>Show only the nodes, keys and values containing this text</translation>
+    </message>
+    <message id="cfgx_005">
+        <source>Разделы конфигурации, которые терминал прислал сверх страниц редактора</source>
+        <translation>Configuration sections the terminal sent beyond the editor&apos;s pages</translation>
+    </message>
+    <message id="cfgx_006">
+        <source>Узел</source>
+        <translation>Node</translation>
+    </message>
+    <message id="cfgx_007">
+        <source>Ключ</source>
+        <translation>Key</translation>
+    </message>
+    <message id="cfgx_008">
+        <source>Значение</source>
+        <translation>Value</translation>
+    </message>
+    <message id="cfgx_001">
+        <source>Прочие настройки</source>
+        <translation>Other settings</translation>
+    </message>
+    <message id="wcfg_002">
+        <source>Новая</source>
+        <translation>New</translation>
+    </message>
+    <message id="wcfg_003">
+        <source>Новая конфигурация со значениями по умолчанию</source>
+        <translation>A new configuration with default values</translation>
+    </message>
+    <message id="wcfg_004">
+        <source>Открыть...</source>
+        <translation>Open...</translation>
+    </message>
+    <message id="wcfg_005">
+        <source>Открыть файл конфигурации</source>
+        <translation>Open a configuration file</translation>
+    </message>
+    <message id="wcfg_006">
+        <source>Сохранить</source>
+        <translation>Save</translation>
+    </message>
+    <message id="wcfg_007">
+        <source>Сохранить конфигурацию в её файл</source>
+        <translation>Save the configuration to its file</translation>
+    </message>
+    <message id="wcfg_008">
+        <source>Сохранить как...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message id="wcfg_009">
+        <source>Сохранить конфигурацию в другой файл</source>
+        <translation>Save the configuration to another file</translation>
+    </message>
+    <message id="wcfg_010">
+        <source>Прочитать из терминала</source>
+        <translation>Read from terminal</translation>
+    </message>
+    <message id="wcfg_011">
+        <source>Прочитать конфигурацию из подключённого терминала</source>
+        <translation>Read the configuration from the connected terminal</translation>
+    </message>
+    <message id="wcfg_012">
+        <source>Записать в терминал</source>
+        <translation>Write to terminal</translation>
+    </message>
+    <message id="wcfg_013">
+        <source>Записать конфигурацию в подключённый терминал</source>
+        <translation>Write the configuration to the connected terminal</translation>
+    </message>
+    <message id="wcfg_014">
+        <source>По умолчанию</source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="wcfg_015">
+        <source>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</source>
+        <translation>Reset the pages&apos; settings to their defaults; the terminal&apos;s other settings stay</translation>
+    </message>
+    <message id="wcfg_016">
+        <source>Сравнить</source>
+        <translation>Compare</translation>
+    </message>
+    <message id="wcfg_017">
+        <source>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</source>
+        <translation>Compare the configuration with a file or with the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_019">
+        <source>Переключить полный и простой редактор</source>
+        <translation>Switch between the full and the simple editor</translation>
+    </message>
+    <message id="wcfg_030">
+        <source>последняя прочитанная из терминала</source>
+        <translation>the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_020">
+        <source>С файлом...</source>
+        <translation>With a file...</translation>
+    </message>
+    <message id="wcfg_021">
+        <source>С последней прочитанной из терминала</source>
+        <translation>With the one last read from the terminal</translation>
+    </message>
+    <message id="wcfg_022">
+        <source>строка %1, столбец %2: %3</source>
+        <translation>line %1, column %2: %3</translation>
+    </message>
+    <message id="wcfg_023">
+        <source>файл не найден</source>
+        <translation>file not found</translation>
+    </message>
+    <message id="wcfg_024">
+        <source>файл пуст</source>
+        <translation>the file is empty</translation>
+    </message>
+    <message id="wcfg_025">
+        <source>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</source>
+        <translation>not a terminal configuration (no «DEVICE» root element)</translation>
+    </message>
+    <message id="wcfg_026">
+        <source>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</source>
+        <translation>Cannot open the configuration file «%1»:
+%2.
+
+The editor keeps the configuration it had.</translation>
+    </message>
+    <message id="wcfg_027">
+        <source>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</source>
+        <translation>Cannot write the file «%1»:
+%2.
+
+The old file is unchanged.</translation>
+    </message>
+    <message id="wcfg_028">
+        <source>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</source>
+        <translation>No configuration has been read from the terminal yet: nothing to compare with.</translation>
+    </message>
+    <message id="wcfg_018">
+        <source>Простой редактор</source>
+        <translation>Simple editor</translation>
+    </message>
+    <message id="wcfg_029">
+        <source>Полный редактор</source>
+        <translation>Full editor</translation>
+    </message>
+    <message id="wcfg_031">
+        <source>Конфигурация изменена. Сохранить изменения?</source>
+        <translation>The configuration has changed. Save the changes?</translation>
+    </message>
+    <message id="wcfg_032">
+        <source>Сохранить</source>
+        <translation>Save</translation>
+    </message>
+    <message id="wcfg_033">
+        <source>Не сохранять</source>
+        <translation>Don&apos;t save</translation>
+    </message>
+    <message id="wcfg_034">
+        <source>Отмена</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="wcfg_035">
+        <source>Файлы конфигурации (*.xml)</source>
+        <translation>Configuration files (*.xml)</translation>
+    </message>
+    <message id="cfgl_001">
+        <source>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</source>
+        <translation>The main track settings. The rest of the configuration is kept unchanged.</translation>
+    </message>
+    <message id="cfgl_002">
+        <source>Период записи в движении, с:</source>
+        <translation>Period while moving, s:</translation>
+    </message>
+    <message id="cfgl_003">
+        <source>Интервал между точками трека в движении, от 0 до 99999 с</source>
+        <translation>Interval between track points while moving, 0 to 99999 s</translation>
+    </message>
+    <message id="cfgl_004">
+        <source>Дистанция, м:</source>
+        <translation>Distance, m:</translation>
+    </message>
+    <message id="cfgl_005">
+        <source>Точка трека через каждые N метров, от 1 до 10000 м</source>
+        <translation>A track point every N metres, 1 to 10000 m</translation>
+    </message>
+    <message id="cfgl_006">
+        <source>Угол поворота, °:</source>
+        <translation>Turn angle, °:</translation>
+    </message>
+    <message id="cfgl_007">
+        <source>Точка трека при повороте на этот угол, от 1 до 90°</source>
+        <translation>A track point on a turn by this angle, 1 to 90°</translation>
+    </message>
+    <message id="cfgl_008">
+        <source>Период записи на стоянке, с:</source>
+        <translation>Period while stopped, s:</translation>
+    </message>
+    <message id="cfgl_009">
+        <source>Интервал между точками трека на стоянке, от 0 до 99999 с</source>
+        <translation>Interval between track points while stopped, 0 to 99999 s</translation>
+    </message>
+    <message id="cfgl_010">
+        <source>Поколение протокола:</source>
+        <translation>Protocol generation:</translation>
+    </message>
+    <message id="cfgl_011">
+        <source>Формат записей телеметрии ORBA: 1, 2 или 3</source>
+        <translation>ORBA telemetry record format: 1, 2 or 3</translation>
+    </message>
+    <message id="cfgl_012">
+        <source>Поколение 1 (ORBA 1)</source>
+        <oldsource>ORBA 1</oldsource>
+        <translation>Generation 1 (ORBA 1)</translation>
+    </message>
+    <message id="cfgl_013">
+        <source>Поколение 2 (ORBA 2)</source>
+        <oldsource>ORBA 2</oldsource>
+        <translation>Generation 2 (ORBA 2)</translation>
+    </message>
+    <message id="cfgl_014">
+        <source>Поколение 3 (ORBA 3)</source>
+        <oldsource>ORBA 3</oldsource>
+        <translation>Generation 3 (ORBA 3)</translation>
+    </message>
+    <message id="gain_260">
+        <source>Номер</source>
+        <translation>Id</translation>
+    </message>
+    <message id="gain_261">
+        <source>Название</source>
+        <translation>Name</translation>
+    </message>
+    <message id="gain_262">
+        <source>Широта</source>
+        <translation>Latitude</translation>
+    </message>
+    <message id="gain_263">
+        <source>Долгота</source>
+        <translation>Longitude</translation>
+    </message>
+    <message id="gain_264">
+        <source>Радиус, м</source>
+        <translation>Radius, m</translation>
+    </message>
+    <message id="gain_265">
+        <source>Курс, °</source>
+        <translation>Heading, °</translation>
+    </message>
+    <message id="gain_270">
+        <source>Номер</source>
+        <translation>Id</translation>
+    </message>
+    <message id="gain_271">
+        <source>Файл</source>
+        <translation>File</translation>
+    </message>
+    <message id="gain_272">
+        <source>Геоинформация</source>
+        <translation>Geo-information</translation>
+    </message>
+    <message id="gain_292">
+        <source>Терминал не ответил; запись на SD-карту прервана.</source>
+        <translation>The terminal did not answer; writing to the SD card was stopped.</translation>
+    </message>
+    <message id="gain_280">
+        <source>Терминал отключён; запись на SD-карту прервана.</source>
+        <translation>The terminal was disconnected; writing to the SD card was stopped.</translation>
+    </message>
+    <message id="gain_281">
+        <source>Зон: %1 из %2, маршрутов: %3, скоростных зон: %4</source>
+        <translation>Zones: %1 of %2, routes: %3, speed zones: %4</translation>
+    </message>
+    <message id="gain_282">
+        <source>Терминал хранит не более %1 геозон; новая зона не добавлена.</source>
+        <translation>The terminal keeps at most %1 geo-zones; the new zone was not added.</translation>
+    </message>
+    <message id="gain_283">
+        <source>Все номера зон от 1 до %1 заняты; новая зона не добавлена.</source>
+        <translation>All zone ids from 1 to %1 are taken; the new zone was not added.</translation>
+    </message>
+    <message id="gain_284">
+        <source>Координаты зоны заданы неверно: широта от -90 до 90, долгота от -180 до 180 градусов.</source>
+        <translation>The zone&apos;s coordinates are wrong: latitude -90 to 90, longitude -180 to 180 degrees.</translation>
+    </message>
+    <message id="gain_285">
+        <source>Зона %1</source>
+        <translation>Zone %1</translation>
+    </message>
+    <message id="gain_286">
+        <source>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</source>
+        <translation>Zones %1 are stops of routes and were not deleted; delete those stops first.</translation>
+    </message>
+    <message id="gain_287">
+        <source>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</source>
+        <translation>Zones added: %1. Placemarks without a point (lines, polygons): %2, skipped: %3</translation>
+    </message>
+    <message id="gain_289">
+        <source>Запись на SD-карту: %1</source>
+        <translation>Writing to the SD card: %1</translation>
+    </message>
+    <message id="gain_288">
+        <source>Не удалось передать файл %1 на SD-карту терминала.</source>
+        <translation>The file %1 could not be written to the terminal&apos;s SD card.</translation>
+    </message>
+    <message id="gain_290">
+        <source>На SD-карте терминала нет места для файла %1.</source>
+        <translation>The terminal&apos;s SD card has no room for the file %1.</translation>
+    </message>
+    <message id="gain_291">
+        <source>В терминале нет SD-карты; файл %1 не записан.</source>
+        <translation>The terminal has no SD card; the file %1 was not written.</translation>
+    </message>
+    <message id="gain_293">
+        <source>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок
+</source>
+        <oldsource>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</oldsource>
+        <translation>Type the new zone&apos;s latitude (-90 to 90) and longitude (-180 to 180), or double-click the map.</translation>
+    </message>
+    <message id="gain_294">
+        <source>Открыть файл геоинформации</source>
+        <translation>Open a geo-information file</translation>
+    </message>
+    <message id="gain_295">
+        <source>Сохранить файл геоинформации</source>
+        <translation>Save the geo-information file</translation>
+    </message>
+    <message id="gain_296">
+        <source>Терминал хранит не более %1 звуковых файлов.</source>
+        <translation>The terminal keeps at most %1 sound files.</translation>
+    </message>
+    <message id="gain_201">
+        <source>Широта должна быть числом от -90 до 90 градусов.</source>
+        <translation>The latitude must be a number from -90 to 90 degrees.</translation>
+    </message>
+    <message id="gain_202">
+        <source>Долгота должна быть числом от -180 до 180 градусов.</source>
+        <translation>The longitude must be a number from -180 to 180 degrees.</translation>
+    </message>
+    <message id="gain_250">
+        <source>Файл KML</source>
+        <translation>KML file</translation>
+    </message>
+    <message id="gain_230">
+        <source>Номер</source>
+        <translation>Id</translation>
+    </message>
+    <message id="gain_231">
+        <source>Маршрут</source>
+        <translation>Route</translation>
+    </message>
+    <message id="gain_232">
+        <source>Литера</source>
+        <translation>Letter</translation>
+    </message>
+    <message id="gain_233">
+        <source>Начало</source>
+        <translation>Begin</translation>
+    </message>
+    <message id="gain_234">
+        <source>Конец</source>
+        <translation>End</translation>
+    </message>
+    <message id="gain_235">
+        <source>Звуки</source>
+        <translation>Sounds</translation>
+    </message>
+    <message id="gain_236">
+        <source>Остановок</source>
+        <translation>Stops</translation>
+    </message>
+    <message id="gain_237">
+        <source>Тип</source>
+        <translation>Type</translation>
+    </message>
+    <message id="gain_238">
+        <source>Зона</source>
+        <translation>Zone</translation>
+    </message>
+    <message id="gain_239">
+        <source>Название</source>
+        <translation>Title</translation>
+    </message>
+    <message id="gain_240">
+        <source>Звуки (номера через запятую)</source>
+        <translation>Sounds (ids separated by commas)</translation>
+    </message>
+    <message id="gain_241">
+        <source>Терминал хранит не более %1 маршрутов.</source>
+        <translation>The terminal keeps at most %1 routes.</translation>
+    </message>
+    <message id="gain_242">
+        <source>Маршрут может иметь не более %1 остановок.</source>
+        <translation>A route has at most %1 stops.</translation>
+    </message>
+    <message id="gain_243">
+        <source>Выберите зону остановки в списке зон или на карте.</source>
+        <translation>Select the stop&apos;s zone in the zone list or on the map.</translation>
+    </message>
+    <message id="gain_210">
+        <source>Номер</source>
+        <translation>Id</translation>
+    </message>
+    <message id="gain_211">
+        <source>Название</source>
+        <translation>Title</translation>
+    </message>
+    <message id="gain_212">
+        <source>Скорость, км/ч</source>
+        <translation>Speed, km/h</translation>
+    </message>
+    <message id="gain_213">
+        <source>Допуск, км/ч</source>
+        <translation>Tolerance, km/h</translation>
+    </message>
+    <message id="gain_214">
+        <source>Звук превышения</source>
+        <translation>Limit sound</translation>
+    </message>
+    <message id="gain_215">
+        <source>Звук активации</source>
+        <translation>Activation sound</translation>
+    </message>
+    <message id="gain_216">
+        <source>Повтор превышения, с</source>
+        <translation>Limit repeat, s</translation>
+    </message>
+    <message id="gain_217">
+        <source>Повтор активации, с</source>
+        <translation>Activation repeat, s</translation>
+    </message>
+    <message id="gain_218">
+        <source>Задержка, с</source>
+        <translation>Delay, s</translation>
+    </message>
+    <message id="gain_219">
+        <source>Зуммер</source>
+        <translation>Buzzer</translation>
+    </message>
+    <message id="gain_220">
+        <source>Терминал хранит не более %1 скоростных зон.</source>
+        <translation>The terminal keeps at most %1 speed zones.</translation>
+    </message>
+    <message id="gain_221">
+        <source>Скоростная зона %1</source>
+        <translation>Speed zone %1</translation>
+    </message>
+    <message id="gain_001">
+        <source>Список геозон; двойной щелчок показывает зону на карте</source>
+        <translation>Geo-zones; a double click shows the zone on the map</translation>
+    </message>
+    <message id="gain_002">
+        <source>Добавить</source>
+        <translation>Add</translation>
+    </message>
+    <message id="gain_003">
+        <source>Добавить зону по введённым координатам; зону можно добавить и щелчком по карте</source>
+        <translation>Add a zone at the typed coordinates; a click on the map adds one too</translation>
+    </message>
+    <message id="gain_004">
+        <source>Из KML…</source>
+        <translation>From KML…</translation>
+    </message>
+    <message id="gain_005">
+        <source>Добавить зоны из точек файла KML</source>
+        <translation>Add zones from the points of a KML file</translation>
+    </message>
+    <message id="gain_006">
+        <source>Копировать</source>
+        <translation>Duplicate</translation>
+    </message>
+    <message id="gain_007">
+        <source>Копия выбранной зоны с новым номером</source>
+        <translation>A copy of the selected zone with a new id</translation>
+    </message>
+    <message id="gain_008">
+        <source>Удалить</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="gain_009">
+        <source>Удалить выбранные зоны</source>
+        <translation>Delete the selected zones</translation>
+    </message>
+    <message id="gain_010">
+        <source>Геозоны</source>
+        <translation>Geo-zones</translation>
+    </message>
+    <message id="gain_011">
+        <source>Маршруты</source>
+        <translation>Routes</translation>
+    </message>
+    <message id="gain_012">
+        <source>Скоростные зоны</source>
+        <translation>Speed zones</translation>
+    </message>
+    <message id="gain_013">
+        <source>Добавить</source>
+        <translation>Add</translation>
+    </message>
+    <message id="gain_014">
+        <source>Добавить звуковой файл (номер 1…65535, имя файла на карте)</source>
+        <translation>Add a sound file (id 1…65535, file name on the card)</translation>
+    </message>
+    <message id="gain_015">
+        <source>Удалить</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="gain_016">
+        <source>Удалить выбранный звук</source>
+        <translation>Delete the selected sound</translation>
+    </message>
+    <message id="gain_017">
+        <source>Звуки</source>
+        <translation>Sounds</translation>
+    </message>
+    <message id="gain_018">
+        <source>Открыть…</source>
+        <translation>Open…</translation>
+    </message>
+    <message id="gain_019">
+        <source>Открыть файл геоинформации (*.xml)</source>
+        <translation>Open a geo-information file (*.xml)</translation>
+    </message>
+    <message id="gain_020">
+        <source>Сохранить…</source>
+        <translation>Save…</translation>
+    </message>
+    <message id="gain_021">
+        <source>Сохранить геоинформацию в файл (*.xml)</source>
+        <translation>Save the geo-information to a file (*.xml)</translation>
+    </message>
+    <message id="gain_022">
+        <source>Записать в терминал</source>
+        <translation>Write to terminal</translation>
+    </message>
+    <message id="gain_023">
+        <source>Записать файлы геоинформации на SD-карту терминала; доступно при подключённом терминале</source>
+        <translation>Write the geo-information files to the terminal&apos;s SD card; available while connected</translation>
+    </message>
+    <message id="gain_024">
+        <source>Номер</source>
+        <translation>Id</translation>
+    </message>
+    <message id="gain_025">
+        <source>Название</source>
+        <translation>Name</translation>
+    </message>
+    <message id="gain_026">
+        <source>Название зоны, до 64 символов</source>
+        <translation>Zone name, up to 64 characters</translation>
+    </message>
+    <message id="gain_027">
+        <source>Широта</source>
+        <translation>Latitude</translation>
+    </message>
+    <message id="gain_028">
+        <source>Широта, градусы: от -90 до 90, например 55.751244</source>
+        <translation>Latitude, degrees: -90 to 90, e.g. 55.751244</translation>
+    </message>
+    <message id="gain_029">
+        <source>Долгота</source>
+        <translation>Longitude</translation>
+    </message>
+    <message id="gain_030">
+        <source>Долгота, градусы: от -180 до 180, например 37.618423</source>
+        <translation>Longitude, degrees: -180 to 180, e.g. 37.618423</translation>
+    </message>
+    <message id="gain_031">
+        <source>Радиус, м</source>
+        <translation>Radius, m</translation>
+    </message>
+    <message id="gain_032">
+        <source>Радиус зоны: от 10 до 100000 м</source>
+        <translation>Zone radius: 10 to 100000 m</translation>
+    </message>
+    <message id="gain_033">
+        <source>Курс въезда, °</source>
+        <translation>Heading of entry, °</translation>
+    </message>
+    <message id="gain_034">
+        <source>Курс въезда: от 0 до 359°</source>
+        <translation>Heading of entry: 0 to 359°</translation>
+    </message>
+    <message id="gain_035">
+        <source>Выходы</source>
+        <translation>Outputs</translation>
+    </message>
+    <message id="gain_036">
+        <source>16 знаков 0/1: состояние выходов 1…16 при въезде</source>
+        <translation>16 characters 0/1: outputs 1…16 on entry</translation>
+    </message>
+    <message id="gain_037">
+        <source>Режим скорости</source>
+        <translation>Speed mode</translation>
+    </message>
+    <message id="gain_038">
+        <source>Режим скорости в зоне: номер скоростной зоны или 0</source>
+        <translation>Speed mode inside the zone: a speed zone id or 0</translation>
+    </message>
+    <message id="gain_039">
+        <source>Событие при въезде</source>
+        <translation>Event on entry</translation>
+    </message>
+    <message id="gain_040">
+        <source>Событие при выезде</source>
+        <translation>Event on exit</translation>
+    </message>
+    <message id="gain_041">
+        <source>Звук при въезде</source>
+        <translation>Sound on entry</translation>
+    </message>
+    <message id="gain_042">
+        <source>Звук при выезде</source>
+        <translation>Sound on exit</translation>
+    </message>
+    <message id="gain_043">
+        <source>Выходы при въезде</source>
+        <translation>Outputs on entry</translation>
+    </message>
+    <message id="gain_044">
+        <source>Контроль скорости</source>
+        <translation>Speed control</translation>
+    </message>
+    <message id="gain_045">
+        <source>Проверять курс въезда</source>
+        <translation>Check heading of entry</translation>
+    </message>
+    <message id="gain_046">
+        <source>Зона отключена</source>
+        <translation>Zone disabled</translation>
+    </message>
+    <message id="gain_047">
+        <source>По умолчанию для новых</source>
+        <translation>Default for new zones</translation>
+    </message>
+    <message id="gain_048">
+        <source>Параметры отмеченных флагов станут параметрами новых зон</source>
+        <translation>The ticked options become those of new zones</translation>
+    </message>
+    <message id="gain_049">
+        <source>Параметры зоны</source>
+        <translation>Zone parameters</translation>
+    </message>
+    <message id="gain_050">
+        <source>Добавить маршрут</source>
+        <translation>Add route</translation>
+    </message>
+    <message id="gain_051">
+        <source>Новый маршрут с параметрами по умолчанию (не более 100 маршрутов)</source>
+        <translation>A new route with the default parameters (at most 100 routes)</translation>
+    </message>
+    <message id="gain_052">
+        <source>Удалить маршрут</source>
+        <translation>Delete route</translation>
+    </message>
+    <message id="gain_053">
+        <source>Удалить выбранный маршрут</source>
+        <translation>Delete the selected route</translation>
+    </message>
+    <message id="gain_054">
+        <source>Кольцевой</source>
+        <translation>Cyclic</translation>
+    </message>
+    <message id="gain_055">
+        <source>Объявлять следующую</source>
+        <translation>Announce next</translation>
+    </message>
+    <message id="gain_056">
+        <source>Обратный ход</source>
+        <translation>Reverse trip</translation>
+    </message>
+    <message id="gain_057">
+        <source>Строгий порядок</source>
+        <translation>Strict order</translation>
+    </message>
+    <message id="gain_058">
+        <source>Пропускать пропущенные</source>
+        <translation>Skip missed</translation>
+    </message>
+    <message id="gain_059">
+        <source>Событие при сходе</source>
+        <translation>Event on deviation</translation>
+    </message>
+    <message id="gain_060">
+        <source>Резерв 6</source>
+        <translation>Reserved 6</translation>
+    </message>
+    <message id="gain_061">
+        <source>Резерв 7</source>
+        <translation>Reserved 7</translation>
+    </message>
+    <message id="gain_062">
+        <source>Добавить остановку</source>
+        <translation>Add stop</translation>
+    </message>
+    <message id="gain_063">
+        <source>Остановка в выбранной на карте/в списке зоне (не более 200 на маршрут)</source>
+        <translation>A stop at the zone selected on the map or in the list (at most 200 a route)</translation>
+    </message>
+    <message id="gain_064">
+        <source>Удалить остановку</source>
+        <translation>Delete stop</translation>
+    </message>
+    <message id="gain_065">
+        <source>Удалить выбранную остановку</source>
+        <translation>Delete the selected stop</translation>
+    </message>
+    <message id="gain_066">
+        <source>Номер</source>
+        <translation>Number</translation>
+    </message>
+    <message id="gain_067">
+        <source>Номер нового маршрута</source>
+        <translation>Number of a new route</translation>
+    </message>
+    <message id="gain_068">
+        <source>Литера</source>
+        <translation>Letter</translation>
+    </message>
+    <message id="gain_069">
+        <source>Литера нового маршрута</source>
+        <translation>Letter of a new route</translation>
+    </message>
+    <message id="gain_070">
+        <source>Начало</source>
+        <translation>Begin</translation>
+    </message>
+    <message id="gain_071">
+        <source>Начальная остановка нового маршрута</source>
+        <translation>First terminal of a new route</translation>
+    </message>
+    <message id="gain_072">
+        <source>Конец</source>
+        <translation>End</translation>
+    </message>
+    <message id="gain_073">
+        <source>Конечная остановка нового маршрута</source>
+        <translation>Last terminal of a new route</translation>
+    </message>
+    <message id="gain_074">
+        <source>Набор звуков</source>
+        <translation>Sound set</translation>
+    </message>
+    <message id="gain_075">
+        <source>Набор звуков: от 0 до 255</source>
+        <translation>Sound set: 0 to 255</translation>
+    </message>
+    <message id="gain_076">
+        <source>Флаги</source>
+        <translation>Options</translation>
+    </message>
+    <message id="gain_077">
+        <source>8 знаков 0/1: флаги нового маршрута, бит 0 первым</source>
+        <translation>8 characters 0/1: options of a new route, bit 0 first</translation>
+    </message>
+    <message id="gain_078">
+        <source>Параметры по умолчанию</source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="gain_079">
+        <source>Добавить</source>
+        <translation>Add</translation>
+    </message>
+    <message id="gain_080">
+        <source>Новая скоростная зона (не более 100)</source>
+        <translation>A new speed zone (at most 100)</translation>
+    </message>
+    <message id="gain_081">
+        <source>Удалить</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="gain_082">
+        <source>Удалить выбранную скоростную зону</source>
+        <translation>Delete the selected speed zone</translation>
+    </message>
+    <message id="gain_083">
+        <source>Режим скорости</source>
+        <translation>Speed mode</translation>
+    </message>
+    <message id="gain_084">
+        <source>Режим скорости по умолчанию: от 0 до 255</source>
+        <translation>Default speed mode: 0 to 255</translation>
+    </message>
+    <message id="gain_085">
+        <source>Флаги</source>
+        <translation>Options</translation>
+    </message>
+    <message id="gain_086">
+        <source>8 знаков 0/1: флаги скоростных зон, бит 0 первым</source>
+        <translation>8 characters 0/1: speed-zone options, bit 0 first</translation>
+    </message>
+    <message id="gain_087">
+        <source>Параметры по умолчанию</source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="gain_088">
+        <source>Подложка</source>
+        <translation>Tiles</translation>
+    </message>
+    <message id="gain_089">
+        <source>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с
+</source>
+        <oldsource>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</oldsource>
+        <translation>Empty: the coordinate grid; a tile server address like http://host/{z}/{x}/{y}.png; or a folder of z/x/y tiles</translation>
+    </message>
+    <message id="gain_090">
+        <source>Применить</source>
+        <translation>Apply</translation>
+    </message>
+    <message id="gain_091">
+        <source>Показать выбранную подложку</source>
+        <translation>Show the chosen background</translation>
+    </message>
+    <message id="gain_092">
+        <source>Все зоны</source>
+        <translation>All zones</translation>
+    </message>
+    <message id="gain_093">
+        <source>Показать все зоны на карте</source>
+        <translation>Show all zones on the map</translation>
+    </message>
+    <message id="gain_094">
+        <source>Двойной щелчок по карте добавляет зону; выбранную зону можно перетащить за центр, радиус — за край</source>
+        <translation>A double click on the map adds a zone; drag the selected zone by its centre, its radius by the edge</translation>
+    </message>
+    <message id="gain_095">
+        <source>Файл KML</source>
+        <translation>KML file</translation>
+    </message>
+    <message id="gain_096">
+        <source>Файл KML с точками (Placemark/Point)</source>
+        <translation>A KML file of points (Placemark/Point)</translation>
+    </message>
+    <message id="gain_097">
+        <source>Обзор…</source>
+        <translation>Browse…</translation>
+    </message>
+    <message id="gain_098">
+        <source>Радиус, м</source>
+        <translation>Radius, m</translation>
+    </message>
+    <message id="gain_099">
+        <source>Радиус новых зон: от 10 до 100000 м</source>
+        <translation>Radius of the new zones: 10 to 100000 m</translation>
+    </message>
+    <message id="gain_100">
+        <source>Курс въезда, °</source>
+        <translation>Heading of entry, °</translation>
+    </message>
+    <message id="gain_101">
+        <source>Курс въезда: от 0 до 359°</source>
+        <translation>Heading of entry: 0 to 359°</translation>
+    </message>
+    <message id="gain_102">
+        <source>Флаги зоны</source>
+        <translation>Zone options</translation>
+    </message>
+    <message id="gain_103">
+        <source>Флаги новых зон, 8 бит: от 0 до 255</source>
+        <translation>Options of the new zones, 8 bits: 0 to 255</translation>
+    </message>
+    <message id="gain_104">
+        <source>Импорт зон из KML</source>
+        <translation>Import zones from KML</translation>
+    </message>
+    <message id="gmap_001">
+        <source>Трек на карте</source>
+        <translation>Track on the map</translation>
+    </message>
+    <message id="gain_244">
+        <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
+        <translation>Stop type: 0 stop, 1 waypoint, 2 terminal</translation>
+    </message>
+    <message id="gain_245">
+        <source>Номер зоны остановки: от 1 до 65535</source>
+        <translation>Zone id of the stop: 1 to 65535</translation>
+    </message>
+    <message id="wcfg_036">
+        <source>Геозоны</source>
+        <translation>Geo-zones</translation>
+    </message>
 </context>
 </TS>

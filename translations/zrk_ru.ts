@@ -2749,5 +2749,946 @@
         <source>Показано записей: %1 из %2</source>
         <translation>Показано записей: %1 из %2</translation>
     </message>
+    <message id="cmpc_001">
+        <source>Сравнение конфигураций</source>
+        <translation>Сравнение конфигураций</translation>
+    </message>
+    <message id="cmpc_002">
+        <source>Раздел / узел</source>
+        <translation>Раздел / узел</translation>
+    </message>
+    <message id="cmpc_003">
+        <source>Ключ</source>
+        <translation>Ключ</translation>
+    </message>
+    <message id="cmpc_004">
+        <source>Название</source>
+        <translation>Название</translation>
+    </message>
+    <message id="cmpc_005">
+        <source>В редакторе</source>
+        <translation>В редакторе</translation>
+    </message>
+    <message id="cmpc_006">
+        <source>В другой</source>
+        <translation>В другой</translation>
+    </message>
+    <message id="cmpc_007">
+        <source>Сравнение с: %1</source>
+        <translation>Сравнение с: %1</translation>
+    </message>
+    <message id="cmpc_008">
+        <source>Различий нет.</source>
+        <translation>Различий нет.</translation>
+    </message>
+    <message id="cmpc_009">
+        <source>Различий: %1</source>
+        <translation>Различий: %1</translation>
+    </message>
+    <message id="cmpc_010">
+        <source>(нет)</source>
+        <translation>(нет)</translation>
+    </message>
+    <message id="cmpc_011">
+        <source>(корень)</source>
+        <translation>(корень)</translation>
+    </message>
+    <message id="cfgx_002">
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в
+</source>
+        <oldsource>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</oldsource>
+        <translation>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</translation>
+    </message>
+    <message id="cfgx_003">
+        <source>Фильтр:</source>
+        <translation>Фильтр:</translation>
+    </message>
+    <message id="cfgx_004">
+        <source>Показать только узлы, ключи и значения, содержащие этот текст</source>
+        <translation>Показать только узлы, ключи и значения, содержащие этот текст</translation>
+    </message>
+    <message id="cfgx_005">
+        <source>Разделы конфигурации, которые терминал прислал сверх страниц редактора</source>
+        <translation>Разделы конфигурации, которые терминал прислал сверх страниц редактора</translation>
+    </message>
+    <message id="cfgx_006">
+        <source>Узел</source>
+        <translation>Узел</translation>
+    </message>
+    <message id="cfgx_007">
+        <source>Ключ</source>
+        <translation>Ключ</translation>
+    </message>
+    <message id="cfgx_008">
+        <source>Значение</source>
+        <translation>Значение</translation>
+    </message>
+    <message id="cfgx_001">
+        <source>Прочие настройки</source>
+        <translation>Прочие настройки</translation>
+    </message>
+    <message id="wcfg_002">
+        <source>Новая</source>
+        <translation>Новая</translation>
+    </message>
+    <message id="wcfg_003">
+        <source>Новая конфигурация со значениями по умолчанию</source>
+        <translation>Новая конфигурация со значениями по умолчанию</translation>
+    </message>
+    <message id="wcfg_004">
+        <source>Открыть...</source>
+        <translation>Открыть...</translation>
+    </message>
+    <message id="wcfg_005">
+        <source>Открыть файл конфигурации</source>
+        <translation>Открыть файл конфигурации</translation>
+    </message>
+    <message id="wcfg_006">
+        <source>Сохранить</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message id="wcfg_007">
+        <source>Сохранить конфигурацию в её файл</source>
+        <translation>Сохранить конфигурацию в её файл</translation>
+    </message>
+    <message id="wcfg_008">
+        <source>Сохранить как...</source>
+        <translation>Сохранить как...</translation>
+    </message>
+    <message id="wcfg_009">
+        <source>Сохранить конфигурацию в другой файл</source>
+        <translation>Сохранить конфигурацию в другой файл</translation>
+    </message>
+    <message id="wcfg_010">
+        <source>Прочитать из терминала</source>
+        <translation>Прочитать из терминала</translation>
+    </message>
+    <message id="wcfg_011">
+        <source>Прочитать конфигурацию из подключённого терминала</source>
+        <translation>Прочитать конфигурацию из подключённого терминала</translation>
+    </message>
+    <message id="wcfg_012">
+        <source>Записать в терминал</source>
+        <translation>Записать в терминал</translation>
+    </message>
+    <message id="wcfg_013">
+        <source>Записать конфигурацию в подключённый терминал</source>
+        <translation>Записать конфигурацию в подключённый терминал</translation>
+    </message>
+    <message id="wcfg_014">
+        <source>По умолчанию</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message id="wcfg_015">
+        <source>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</source>
+        <translation>Вернуть настройкам страниц значения по умолчанию; прочие настройки терминала остаются</translation>
+    </message>
+    <message id="wcfg_016">
+        <source>Сравнить</source>
+        <translation>Сравнить</translation>
+    </message>
+    <message id="wcfg_017">
+        <source>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</source>
+        <translation>Сравнить конфигурацию с файлом или с последней прочитанной из терминала</translation>
+    </message>
+    <message id="wcfg_019">
+        <source>Переключить полный и простой редактор</source>
+        <translation>Переключить полный и простой редактор</translation>
+    </message>
+    <message id="wcfg_030">
+        <source>последняя прочитанная из терминала</source>
+        <translation>последняя прочитанная из терминала</translation>
+    </message>
+    <message id="wcfg_020">
+        <source>С файлом...</source>
+        <translation>С файлом...</translation>
+    </message>
+    <message id="wcfg_021">
+        <source>С последней прочитанной из терминала</source>
+        <translation>С последней прочитанной из терминала</translation>
+    </message>
+    <message id="wcfg_022">
+        <source>строка %1, столбец %2: %3</source>
+        <translation>строка %1, столбец %2: %3</translation>
+    </message>
+    <message id="wcfg_023">
+        <source>файл не найден</source>
+        <translation>файл не найден</translation>
+    </message>
+    <message id="wcfg_024">
+        <source>файл пуст</source>
+        <translation>файл пуст</translation>
+    </message>
+    <message id="wcfg_025">
+        <source>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</source>
+        <translation>это не файл конфигурации терминала (нет корневого элемента «DEVICE»)</translation>
+    </message>
+    <message id="wcfg_026">
+        <source>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</source>
+        <translation>Не удалось открыть файл конфигурации «%1»:
+%2.
+
+В редакторе остаётся прежняя конфигурация.</translation>
+    </message>
+    <message id="wcfg_027">
+        <source>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</source>
+        <translation>Не удалось записать файл «%1»:
+%2.
+
+Прежний файл не изменён.</translation>
+    </message>
+    <message id="wcfg_028">
+        <source>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</source>
+        <translation>Конфигурация ещё не читалась из терминала: сравнивать не с чем.</translation>
+    </message>
+    <message id="wcfg_018">
+        <source>Простой редактор</source>
+        <translation>Простой редактор</translation>
+    </message>
+    <message id="wcfg_029">
+        <source>Полный редактор</source>
+        <translation>Полный редактор</translation>
+    </message>
+    <message id="wcfg_031">
+        <source>Конфигурация изменена. Сохранить изменения?</source>
+        <translation>Конфигурация изменена. Сохранить изменения?</translation>
+    </message>
+    <message id="wcfg_032">
+        <source>Сохранить</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message id="wcfg_033">
+        <source>Не сохранять</source>
+        <translation>Не сохранять</translation>
+    </message>
+    <message id="wcfg_034">
+        <source>Отмена</source>
+        <translation>Отмена</translation>
+    </message>
+    <message id="wcfg_035">
+        <source>Файлы конфигурации (*.xml)</source>
+        <translation>Файлы конфигурации (*.xml)</translation>
+    </message>
+    <message id="cfgl_001">
+        <source>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</source>
+        <translation>Основные настройки записи трека. Остальные настройки конфигурации сохраняются без изменений.</translation>
+    </message>
+    <message id="cfgl_002">
+        <source>Период записи в движении, с:</source>
+        <translation>Период записи в движении, с:</translation>
+    </message>
+    <message id="cfgl_003">
+        <source>Интервал между точками трека в движении, от 0 до 99999 с</source>
+        <translation>Интервал между точками трека в движении, от 0 до 99999 с</translation>
+    </message>
+    <message id="cfgl_004">
+        <source>Дистанция, м:</source>
+        <translation>Дистанция, м:</translation>
+    </message>
+    <message id="cfgl_005">
+        <source>Точка трека через каждые N метров, от 1 до 10000 м</source>
+        <translation>Точка трека через каждые N метров, от 1 до 10000 м</translation>
+    </message>
+    <message id="cfgl_006">
+        <source>Угол поворота, °:</source>
+        <translation>Угол поворота, °:</translation>
+    </message>
+    <message id="cfgl_007">
+        <source>Точка трека при повороте на этот угол, от 1 до 90°</source>
+        <translation>Точка трека при повороте на этот угол, от 1 до 90°</translation>
+    </message>
+    <message id="cfgl_008">
+        <source>Период записи на стоянке, с:</source>
+        <translation>Период записи на стоянке, с:</translation>
+    </message>
+    <message id="cfgl_009">
+        <source>Интервал между точками трека на стоянке, от 0 до 99999 с</source>
+        <translation>Интервал между точками трека на стоянке, от 0 до 99999 с</translation>
+    </message>
+    <message id="cfgl_010">
+        <source>Поколение протокола:</source>
+        <translation>Поколение протокола:</translation>
+    </message>
+    <message id="cfgl_011">
+        <source>Формат записей телеметрии ORBA: 1, 2 или 3</source>
+        <translation>Формат записей телеметрии ORBA: 1, 2 или 3</translation>
+    </message>
+    <message id="cfgl_012">
+        <source>Поколение 1 (ORBA 1)</source>
+        <oldsource>ORBA 1</oldsource>
+        <translation>Поколение 1 (ORBA 1)</translation>
+    </message>
+    <message id="cfgl_013">
+        <source>Поколение 2 (ORBA 2)</source>
+        <oldsource>ORBA 2</oldsource>
+        <translation>Поколение 2 (ORBA 2)</translation>
+    </message>
+    <message id="cfgl_014">
+        <source>Поколение 3 (ORBA 3)</source>
+        <oldsource>ORBA 3</oldsource>
+        <translation>Поколение 3 (ORBA 3)</translation>
+    </message>
+    <message id="gain_260">
+        <source>Номер</source>
+        <translation>Номер</translation>
+    </message>
+    <message id="gain_261">
+        <source>Название</source>
+        <translation>Название</translation>
+    </message>
+    <message id="gain_262">
+        <source>Широта</source>
+        <translation>Широта</translation>
+    </message>
+    <message id="gain_263">
+        <source>Долгота</source>
+        <translation>Долгота</translation>
+    </message>
+    <message id="gain_264">
+        <source>Радиус, м</source>
+        <translation>Радиус, м</translation>
+    </message>
+    <message id="gain_265">
+        <source>Курс, °</source>
+        <translation>Курс, °</translation>
+    </message>
+    <message id="gain_270">
+        <source>Номер</source>
+        <translation>Номер</translation>
+    </message>
+    <message id="gain_271">
+        <source>Файл</source>
+        <translation>Файл</translation>
+    </message>
+    <message id="gain_272">
+        <source>Геоинформация</source>
+        <translation>Геоинформация</translation>
+    </message>
+    <message id="gain_292">
+        <source>Терминал не ответил; запись на SD-карту прервана.</source>
+        <translation>Терминал не ответил; запись на SD-карту прервана.</translation>
+    </message>
+    <message id="gain_280">
+        <source>Терминал отключён; запись на SD-карту прервана.</source>
+        <translation>Терминал отключён; запись на SD-карту прервана.</translation>
+    </message>
+    <message id="gain_281">
+        <source>Зон: %1 из %2, маршрутов: %3, скоростных зон: %4</source>
+        <translation>Зон: %1 из %2, маршрутов: %3, скоростных зон: %4</translation>
+    </message>
+    <message id="gain_282">
+        <source>Терминал хранит не более %1 геозон; новая зона не добавлена.</source>
+        <translation>Терминал хранит не более %1 геозон; новая зона не добавлена.</translation>
+    </message>
+    <message id="gain_283">
+        <source>Все номера зон от 1 до %1 заняты; новая зона не добавлена.</source>
+        <translation>Все номера зон от 1 до %1 заняты; новая зона не добавлена.</translation>
+    </message>
+    <message id="gain_284">
+        <source>Координаты зоны заданы неверно: широта от -90 до 90, долгота от -180 до 180 градусов.</source>
+        <translation>Координаты зоны заданы неверно: широта от -90 до 90, долгота от -180 до 180 градусов.</translation>
+    </message>
+    <message id="gain_285">
+        <source>Зона %1</source>
+        <translation>Зона %1</translation>
+    </message>
+    <message id="gain_286">
+        <source>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</source>
+        <translation>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</translation>
+    </message>
+    <message id="gain_287">
+        <source>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</source>
+        <translation>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</translation>
+    </message>
+    <message id="gain_289">
+        <source>Запись на SD-карту: %1</source>
+        <translation>Запись на SD-карту: %1</translation>
+    </message>
+    <message id="gain_288">
+        <source>Не удалось передать файл %1 на SD-карту терминала.</source>
+        <translation>Не удалось передать файл %1 на SD-карту терминала.</translation>
+    </message>
+    <message id="gain_290">
+        <source>На SD-карте терминала нет места для файла %1.</source>
+        <translation>На SD-карте терминала нет места для файла %1.</translation>
+    </message>
+    <message id="gain_291">
+        <source>В терминале нет SD-карты; файл %1 не записан.</source>
+        <translation>В терминале нет SD-карты; файл %1 не записан.</translation>
+    </message>
+    <message id="gain_293">
+        <source>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок
+</source>
+        <oldsource>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</oldsource>
+        <translation>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</translation>
+    </message>
+    <message id="gain_294">
+        <source>Открыть файл геоинформации</source>
+        <translation>Открыть файл геоинформации</translation>
+    </message>
+    <message id="gain_295">
+        <source>Сохранить файл геоинформации</source>
+        <translation>Сохранить файл геоинформации</translation>
+    </message>
+    <message id="gain_296">
+        <source>Терминал хранит не более %1 звуковых файлов.</source>
+        <translation>Терминал хранит не более %1 звуковых файлов.</translation>
+    </message>
+    <message id="gain_201">
+        <source>Широта должна быть числом от -90 до 90 градусов.</source>
+        <translation>Широта должна быть числом от -90 до 90 градусов.</translation>
+    </message>
+    <message id="gain_202">
+        <source>Долгота должна быть числом от -180 до 180 градусов.</source>
+        <translation>Долгота должна быть числом от -180 до 180 градусов.</translation>
+    </message>
+    <message id="gain_250">
+        <source>Файл KML</source>
+        <translation>Файл KML</translation>
+    </message>
+    <message id="gain_230">
+        <source>Номер</source>
+        <translation>Номер</translation>
+    </message>
+    <message id="gain_231">
+        <source>Маршрут</source>
+        <translation>Маршрут</translation>
+    </message>
+    <message id="gain_232">
+        <source>Литера</source>
+        <translation>Литера</translation>
+    </message>
+    <message id="gain_233">
+        <source>Начало</source>
+        <translation>Начало</translation>
+    </message>
+    <message id="gain_234">
+        <source>Конец</source>
+        <translation>Конец</translation>
+    </message>
+    <message id="gain_235">
+        <source>Звуки</source>
+        <translation>Звуки</translation>
+    </message>
+    <message id="gain_236">
+        <source>Остановок</source>
+        <translation>Остановок</translation>
+    </message>
+    <message id="gain_237">
+        <source>Тип</source>
+        <translation>Тип</translation>
+    </message>
+    <message id="gain_238">
+        <source>Зона</source>
+        <translation>Зона</translation>
+    </message>
+    <message id="gain_239">
+        <source>Название</source>
+        <translation>Название</translation>
+    </message>
+    <message id="gain_240">
+        <source>Звуки (номера через запятую)</source>
+        <translation>Звуки (номера через запятую)</translation>
+    </message>
+    <message id="gain_241">
+        <source>Терминал хранит не более %1 маршрутов.</source>
+        <translation>Терминал хранит не более %1 маршрутов.</translation>
+    </message>
+    <message id="gain_242">
+        <source>Маршрут может иметь не более %1 остановок.</source>
+        <translation>Маршрут может иметь не более %1 остановок.</translation>
+    </message>
+    <message id="gain_243">
+        <source>Выберите зону остановки в списке зон или на карте.</source>
+        <translation>Выберите зону остановки в списке зон или на карте.</translation>
+    </message>
+    <message id="gain_210">
+        <source>Номер</source>
+        <translation>Номер</translation>
+    </message>
+    <message id="gain_211">
+        <source>Название</source>
+        <translation>Название</translation>
+    </message>
+    <message id="gain_212">
+        <source>Скорость, км/ч</source>
+        <translation>Скорость, км/ч</translation>
+    </message>
+    <message id="gain_213">
+        <source>Допуск, км/ч</source>
+        <translation>Допуск, км/ч</translation>
+    </message>
+    <message id="gain_214">
+        <source>Звук превышения</source>
+        <translation>Звук превышения</translation>
+    </message>
+    <message id="gain_215">
+        <source>Звук активации</source>
+        <translation>Звук активации</translation>
+    </message>
+    <message id="gain_216">
+        <source>Повтор превышения, с</source>
+        <translation>Повтор превышения, с</translation>
+    </message>
+    <message id="gain_217">
+        <source>Повтор активации, с</source>
+        <translation>Повтор активации, с</translation>
+    </message>
+    <message id="gain_218">
+        <source>Задержка, с</source>
+        <translation>Задержка, с</translation>
+    </message>
+    <message id="gain_219">
+        <source>Зуммер</source>
+        <translation>Зуммер</translation>
+    </message>
+    <message id="gain_220">
+        <source>Терминал хранит не более %1 скоростных зон.</source>
+        <translation>Терминал хранит не более %1 скоростных зон.</translation>
+    </message>
+    <message id="gain_221">
+        <source>Скоростная зона %1</source>
+        <translation>Скоростная зона %1</translation>
+    </message>
+    <message id="gain_001">
+        <source>Список геозон; двойной щелчок показывает зону на карте</source>
+        <translation>Список геозон; двойной щелчок показывает зону на карте</translation>
+    </message>
+    <message id="gain_002">
+        <source>Добавить</source>
+        <translation>Добавить</translation>
+    </message>
+    <message id="gain_003">
+        <source>Добавить зону по введённым координатам; зону можно добавить и щелчком по карте</source>
+        <translation>Добавить зону по введённым координатам; зону можно добавить и щелчком по карте</translation>
+    </message>
+    <message id="gain_004">
+        <source>Из KML…</source>
+        <translation>Из KML…</translation>
+    </message>
+    <message id="gain_005">
+        <source>Добавить зоны из точек файла KML</source>
+        <translation>Добавить зоны из точек файла KML</translation>
+    </message>
+    <message id="gain_006">
+        <source>Копировать</source>
+        <translation>Копировать</translation>
+    </message>
+    <message id="gain_007">
+        <source>Копия выбранной зоны с новым номером</source>
+        <translation>Копия выбранной зоны с новым номером</translation>
+    </message>
+    <message id="gain_008">
+        <source>Удалить</source>
+        <translation>Удалить</translation>
+    </message>
+    <message id="gain_009">
+        <source>Удалить выбранные зоны</source>
+        <translation>Удалить выбранные зоны</translation>
+    </message>
+    <message id="gain_010">
+        <source>Геозоны</source>
+        <translation>Геозоны</translation>
+    </message>
+    <message id="gain_011">
+        <source>Маршруты</source>
+        <translation>Маршруты</translation>
+    </message>
+    <message id="gain_012">
+        <source>Скоростные зоны</source>
+        <translation>Скоростные зоны</translation>
+    </message>
+    <message id="gain_013">
+        <source>Добавить</source>
+        <translation>Добавить</translation>
+    </message>
+    <message id="gain_014">
+        <source>Добавить звуковой файл (номер 1…65535, имя файла на карте)</source>
+        <translation>Добавить звуковой файл (номер 1…65535, имя файла на карте)</translation>
+    </message>
+    <message id="gain_015">
+        <source>Удалить</source>
+        <translation>Удалить</translation>
+    </message>
+    <message id="gain_016">
+        <source>Удалить выбранный звук</source>
+        <translation>Удалить выбранный звук</translation>
+    </message>
+    <message id="gain_017">
+        <source>Звуки</source>
+        <translation>Звуки</translation>
+    </message>
+    <message id="gain_018">
+        <source>Открыть…</source>
+        <translation>Открыть…</translation>
+    </message>
+    <message id="gain_019">
+        <source>Открыть файл геоинформации (*.xml)</source>
+        <translation>Открыть файл геоинформации (*.xml)</translation>
+    </message>
+    <message id="gain_020">
+        <source>Сохранить…</source>
+        <translation>Сохранить…</translation>
+    </message>
+    <message id="gain_021">
+        <source>Сохранить геоинформацию в файл (*.xml)</source>
+        <translation>Сохранить геоинформацию в файл (*.xml)</translation>
+    </message>
+    <message id="gain_022">
+        <source>Записать в терминал</source>
+        <translation>Записать в терминал</translation>
+    </message>
+    <message id="gain_023">
+        <source>Записать файлы геоинформации на SD-карту терминала; доступно при подключённом терминале</source>
+        <translation>Записать файлы геоинформации на SD-карту терминала; доступно при подключённом терминале</translation>
+    </message>
+    <message id="gain_024">
+        <source>Номер</source>
+        <translation>Номер</translation>
+    </message>
+    <message id="gain_025">
+        <source>Название</source>
+        <translation>Название</translation>
+    </message>
+    <message id="gain_026">
+        <source>Название зоны, до 64 символов</source>
+        <translation>Название зоны, до 64 символов</translation>
+    </message>
+    <message id="gain_027">
+        <source>Широта</source>
+        <translation>Широта</translation>
+    </message>
+    <message id="gain_028">
+        <source>Широта, градусы: от -90 до 90, например 55.751244</source>
+        <translation>Широта, градусы: от -90 до 90, например 55.751244</translation>
+    </message>
+    <message id="gain_029">
+        <source>Долгота</source>
+        <translation>Долгота</translation>
+    </message>
+    <message id="gain_030">
+        <source>Долгота, градусы: от -180 до 180, например 37.618423</source>
+        <translation>Долгота, градусы: от -180 до 180, например 37.618423</translation>
+    </message>
+    <message id="gain_031">
+        <source>Радиус, м</source>
+        <translation>Радиус, м</translation>
+    </message>
+    <message id="gain_032">
+        <source>Радиус зоны: от 10 до 100000 м</source>
+        <translation>Радиус зоны: от 10 до 100000 м</translation>
+    </message>
+    <message id="gain_033">
+        <source>Курс въезда, °</source>
+        <translation>Курс въезда, °</translation>
+    </message>
+    <message id="gain_034">
+        <source>Курс въезда: от 0 до 359°</source>
+        <translation>Курс въезда: от 0 до 359°</translation>
+    </message>
+    <message id="gain_035">
+        <source>Выходы</source>
+        <translation>Выходы</translation>
+    </message>
+    <message id="gain_036">
+        <source>16 знаков 0/1: состояние выходов 1…16 при въезде</source>
+        <translation>16 знаков 0/1: состояние выходов 1…16 при въезде</translation>
+    </message>
+    <message id="gain_037">
+        <source>Режим скорости</source>
+        <translation>Режим скорости</translation>
+    </message>
+    <message id="gain_038">
+        <source>Режим скорости в зоне: номер скоростной зоны или 0</source>
+        <translation>Режим скорости в зоне: номер скоростной зоны или 0</translation>
+    </message>
+    <message id="gain_039">
+        <source>Событие при въезде</source>
+        <translation>Событие при въезде</translation>
+    </message>
+    <message id="gain_040">
+        <source>Событие при выезде</source>
+        <translation>Событие при выезде</translation>
+    </message>
+    <message id="gain_041">
+        <source>Звук при въезде</source>
+        <translation>Звук при въезде</translation>
+    </message>
+    <message id="gain_042">
+        <source>Звук при выезде</source>
+        <translation>Звук при выезде</translation>
+    </message>
+    <message id="gain_043">
+        <source>Выходы при въезде</source>
+        <translation>Выходы при въезде</translation>
+    </message>
+    <message id="gain_044">
+        <source>Контроль скорости</source>
+        <translation>Контроль скорости</translation>
+    </message>
+    <message id="gain_045">
+        <source>Проверять курс въезда</source>
+        <translation>Проверять курс въезда</translation>
+    </message>
+    <message id="gain_046">
+        <source>Зона отключена</source>
+        <translation>Зона отключена</translation>
+    </message>
+    <message id="gain_047">
+        <source>По умолчанию для новых</source>
+        <translation>По умолчанию для новых</translation>
+    </message>
+    <message id="gain_048">
+        <source>Параметры отмеченных флагов станут параметрами новых зон</source>
+        <translation>Параметры отмеченных флагов станут параметрами новых зон</translation>
+    </message>
+    <message id="gain_049">
+        <source>Параметры зоны</source>
+        <translation>Параметры зоны</translation>
+    </message>
+    <message id="gain_050">
+        <source>Добавить маршрут</source>
+        <translation>Добавить маршрут</translation>
+    </message>
+    <message id="gain_051">
+        <source>Новый маршрут с параметрами по умолчанию (не более 100 маршрутов)</source>
+        <translation>Новый маршрут с параметрами по умолчанию (не более 100 маршрутов)</translation>
+    </message>
+    <message id="gain_052">
+        <source>Удалить маршрут</source>
+        <translation>Удалить маршрут</translation>
+    </message>
+    <message id="gain_053">
+        <source>Удалить выбранный маршрут</source>
+        <translation>Удалить выбранный маршрут</translation>
+    </message>
+    <message id="gain_054">
+        <source>Кольцевой</source>
+        <translation>Кольцевой</translation>
+    </message>
+    <message id="gain_055">
+        <source>Объявлять следующую</source>
+        <translation>Объявлять следующую</translation>
+    </message>
+    <message id="gain_056">
+        <source>Обратный ход</source>
+        <translation>Обратный ход</translation>
+    </message>
+    <message id="gain_057">
+        <source>Строгий порядок</source>
+        <translation>Строгий порядок</translation>
+    </message>
+    <message id="gain_058">
+        <source>Пропускать пропущенные</source>
+        <translation>Пропускать пропущенные</translation>
+    </message>
+    <message id="gain_059">
+        <source>Событие при сходе</source>
+        <translation>Событие при сходе</translation>
+    </message>
+    <message id="gain_060">
+        <source>Резерв 6</source>
+        <translation>Резерв 6</translation>
+    </message>
+    <message id="gain_061">
+        <source>Резерв 7</source>
+        <translation>Резерв 7</translation>
+    </message>
+    <message id="gain_062">
+        <source>Добавить остановку</source>
+        <translation>Добавить остановку</translation>
+    </message>
+    <message id="gain_063">
+        <source>Остановка в выбранной на карте/в списке зоне (не более 200 на маршрут)</source>
+        <translation>Остановка в выбранной на карте/в списке зоне (не более 200 на маршрут)</translation>
+    </message>
+    <message id="gain_064">
+        <source>Удалить остановку</source>
+        <translation>Удалить остановку</translation>
+    </message>
+    <message id="gain_065">
+        <source>Удалить выбранную остановку</source>
+        <translation>Удалить выбранную остановку</translation>
+    </message>
+    <message id="gain_066">
+        <source>Номер</source>
+        <translation>Номер</translation>
+    </message>
+    <message id="gain_067">
+        <source>Номер нового маршрута</source>
+        <translation>Номер нового маршрута</translation>
+    </message>
+    <message id="gain_068">
+        <source>Литера</source>
+        <translation>Литера</translation>
+    </message>
+    <message id="gain_069">
+        <source>Литера нового маршрута</source>
+        <translation>Литера нового маршрута</translation>
+    </message>
+    <message id="gain_070">
+        <source>Начало</source>
+        <translation>Начало</translation>
+    </message>
+    <message id="gain_071">
+        <source>Начальная остановка нового маршрута</source>
+        <translation>Начальная остановка нового маршрута</translation>
+    </message>
+    <message id="gain_072">
+        <source>Конец</source>
+        <translation>Конец</translation>
+    </message>
+    <message id="gain_073">
+        <source>Конечная остановка нового маршрута</source>
+        <translation>Конечная остановка нового маршрута</translation>
+    </message>
+    <message id="gain_074">
+        <source>Набор звуков</source>
+        <translation>Набор звуков</translation>
+    </message>
+    <message id="gain_075">
+        <source>Набор звуков: от 0 до 255</source>
+        <translation>Набор звуков: от 0 до 255</translation>
+    </message>
+    <message id="gain_076">
+        <source>Флаги</source>
+        <translation>Флаги</translation>
+    </message>
+    <message id="gain_077">
+        <source>8 знаков 0/1: флаги нового маршрута, бит 0 первым</source>
+        <translation>8 знаков 0/1: флаги нового маршрута, бит 0 первым</translation>
+    </message>
+    <message id="gain_078">
+        <source>Параметры по умолчанию</source>
+        <translation>Параметры по умолчанию</translation>
+    </message>
+    <message id="gain_079">
+        <source>Добавить</source>
+        <translation>Добавить</translation>
+    </message>
+    <message id="gain_080">
+        <source>Новая скоростная зона (не более 100)</source>
+        <translation>Новая скоростная зона (не более 100)</translation>
+    </message>
+    <message id="gain_081">
+        <source>Удалить</source>
+        <translation>Удалить</translation>
+    </message>
+    <message id="gain_082">
+        <source>Удалить выбранную скоростную зону</source>
+        <translation>Удалить выбранную скоростную зону</translation>
+    </message>
+    <message id="gain_083">
+        <source>Режим скорости</source>
+        <translation>Режим скорости</translation>
+    </message>
+    <message id="gain_084">
+        <source>Режим скорости по умолчанию: от 0 до 255</source>
+        <translation>Режим скорости по умолчанию: от 0 до 255</translation>
+    </message>
+    <message id="gain_085">
+        <source>Флаги</source>
+        <translation>Флаги</translation>
+    </message>
+    <message id="gain_086">
+        <source>8 знаков 0/1: флаги скоростных зон, бит 0 первым</source>
+        <translation>8 знаков 0/1: флаги скоростных зон, бит 0 первым</translation>
+    </message>
+    <message id="gain_087">
+        <source>Параметры по умолчанию</source>
+        <translation>Параметры по умолчанию</translation>
+    </message>
+    <message id="gain_088">
+        <source>Подложка</source>
+        <translation>Подложка</translation>
+    </message>
+    <message id="gain_089">
+        <source>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с
+</source>
+        <oldsource>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</oldsource>
+        <translation>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</translation>
+    </message>
+    <message id="gain_090">
+        <source>Применить</source>
+        <translation>Применить</translation>
+    </message>
+    <message id="gain_091">
+        <source>Показать выбранную подложку</source>
+        <translation>Показать выбранную подложку</translation>
+    </message>
+    <message id="gain_092">
+        <source>Все зоны</source>
+        <translation>Все зоны</translation>
+    </message>
+    <message id="gain_093">
+        <source>Показать все зоны на карте</source>
+        <translation>Показать все зоны на карте</translation>
+    </message>
+    <message id="gain_094">
+        <source>Двойной щелчок по карте добавляет зону; выбранную зону можно перетащить за центр, радиус — за край</source>
+        <translation>Двойной щелчок по карте добавляет зону; выбранную зону можно перетащить за центр, радиус — за край</translation>
+    </message>
+    <message id="gain_095">
+        <source>Файл KML</source>
+        <translation>Файл KML</translation>
+    </message>
+    <message id="gain_096">
+        <source>Файл KML с точками (Placemark/Point)</source>
+        <translation>Файл KML с точками (Placemark/Point)</translation>
+    </message>
+    <message id="gain_097">
+        <source>Обзор…</source>
+        <translation>Обзор…</translation>
+    </message>
+    <message id="gain_098">
+        <source>Радиус, м</source>
+        <translation>Радиус, м</translation>
+    </message>
+    <message id="gain_099">
+        <source>Радиус новых зон: от 10 до 100000 м</source>
+        <translation>Радиус новых зон: от 10 до 100000 м</translation>
+    </message>
+    <message id="gain_100">
+        <source>Курс въезда, °</source>
+        <translation>Курс въезда, °</translation>
+    </message>
+    <message id="gain_101">
+        <source>Курс въезда: от 0 до 359°</source>
+        <translation>Курс въезда: от 0 до 359°</translation>
+    </message>
+    <message id="gain_102">
+        <source>Флаги зоны</source>
+        <translation>Флаги зоны</translation>
+    </message>
+    <message id="gain_103">
+        <source>Флаги новых зон, 8 бит: от 0 до 255</source>
+        <translation>Флаги новых зон, 8 бит: от 0 до 255</translation>
+    </message>
+    <message id="gain_104">
+        <source>Импорт зон из KML</source>
+        <translation>Импорт зон из KML</translation>
+    </message>
+    <message id="gmap_001">
+        <source>Трек на карте</source>
+        <translation>Трек на карте</translation>
+    </message>
+    <message id="gain_244">
+        <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
+        <translation>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</translation>
+    </message>
+    <message id="gain_245">
+        <source>Номер зоны остановки: от 1 до 65535</source>
+        <translation>Номер зоны остановки: от 1 до 65535</translation>
+    </message>
+    <message id="wcfg_036">
+        <source>Геозоны</source>
+        <translation>Геозоны</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,74 @@
+#include "config_ui/zrk_dialog_config_compare.h"
+
+#include "ui_zrk_dialog_config_compare.h"
+
+#include <QHeaderView>
+
+// The form's texts (the .ui carries their ids).
+[[maybe_unused]] const char* const kFormTexts[] = {
+    //% "Сравнение конфигураций"
+    QT_TRID_NOOP("cmpc_001"),
+    //% "Раздел / узел"
+    QT_TRID_NOOP("cmpc_002"),
+    //% "Ключ"
+    QT_TRID_NOOP("cmpc_003"),
+    //% "Название"
+    QT_TRID_NOOP("cmpc_004"),
+    //% "В редакторе"
+    QT_TRID_NOOP("cmpc_005"),
+    //% "В другой"
+    QT_TRID_NOOP("cmpc_006"),
+};
+
+ZRK_Dialog_Config_Compare::ZRK_Dialog_Config_Compare(QWidget* parent)
+    : QDialog(parent)
+    , ui(new Ui::ZRK_Designer_Dialog_Config_Compare)
+{
+    ui->setupUi(this);
+    ui->treeWidget_Differences->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+}
+
+ZRK_Dialog_Config_Compare::~ZRK_Dialog_Config_Compare()
+{
+    delete ui;
+}
+
+void ZRK_Dialog_Config_Compare::setDifferences(
+    const QVector<zrk::ConfigDifference>& differences, const QString& against)
+{
+    QTreeWidget* tree = ui->treeWidget_Differences;
+    tree->clear();
+    //% "Сравнение с: %1"
+    setWindowTitle(qtTrId("cmpc_007").arg(against));
+    //% "Различий нет."
+    const QString none = qtTrId("cmpc_008");
+    //% "Различий: %1"
+    const QString some = qtTrId("cmpc_009");
+    ui->label_Summary->setText(differences.isEmpty() ? none : some.arg(differences.size()));
+    //% "(нет)"
+    const QString absent = qtTrId("cmpc_010");
+    //% "(корень)"
+    const QString rootName = qtTrId("cmpc_011");
+    QHash<QString, QTreeWidgetItem*> branches;
+    for (const zrk::ConfigDifference& d : differences) {
+        const QString branch = d.node.isEmpty() ? rootName : d.node.section(QLatin1Char('/'), 0, 0);
+        QTreeWidgetItem*& top = branches[branch];
+        if (!top) {
+            top = new QTreeWidgetItem(tree, QStringList(branch));
+            top->setFirstColumnSpanned(true);
+        }
+        const QString rest = d.node.section(QLatin1Char('/'), 1);
+        new QTreeWidgetItem(top,
+            { rest.isEmpty() ? QString() : rest, d.key, d.label, d.inLeft ? d.left : absent,
+                d.inRight ? d.right : absent });
+    }
+    tree->expandAll();
+}
+
+int ZRK_Dialog_Config_Compare::rowCount() const
+{
+    int rows = 0;
+    for (int i = 0; i < ui->treeWidget_Differences->topLevelItemCount(); ++i)
+        rows += ui->treeWidget_Differences->topLevelItem(i)->childCount();
+    return rows;
+}

@@ -1,0 +1,324 @@
+// The geo page's own rules, reached through its operations: zone ids after deletes, duplicates,
+// limits and their messages, KML import counts, the geo file through the page, and the card write
+// through 2400/2401 against a simulated card that answers inside the request's call.
+#include "../map/web_test_main.h"
+#include "config_model/geo_file.h"
+#include "config_ui/zrk_form_config_ainf.h"
+#include "config_ui/zrk_form_config_ainf_route.h"
+#include "device/zrk_device_k7140.h"
+#include "translations/catalogue.h"
+
+#include <QFile>
+#include <QMap>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+namespace {
+
+ZRK_Form_Config_Ainf* g_page = nullptr;
+QMap<QString, QByteArray> g_card; // what the simulated card holds
+QMap<QString, QByteArray> g_open; // files being written
+int g_requests = 0;
+qint32 g_failWith = ZRK_SD_OK; // a result the card gives to writes
+
+QByteArray reply(const szSDFile& r, qint32 result)
+{
+    const QByteArray name = r.fileName.toUtf8();
+    szSDFileReplyHeader h { quint8(r.operation), qint8(result), quint16(name.size()), r.offset, 0, 0 };
+    return QByteArray(reinterpret_cast<const char*>(&h), sizeof h) + name;
+}
+
+unsigned long hostCallback(void*, int msg, unsigned long w, unsigned long)
+{
+    if (msg != ZRK_MSG_SD_FILE_OPERATION)
+        return 0;
+    auto* r = reinterpret_cast<szSDFile*>(w);
+    ++g_requests;
+    r->result = ZRK_SD_OK;
+    qint32 result = ZRK_SD_OK;
+    switch (r->operation) {
+    case ZRK_SD_OPEN:
+        g_open[r->fileName].clear();
+        break;
+    case ZRK_SD_WRITE:
+        if (g_failWith != ZRK_SD_OK || int(r->size) != r->data.size() || r->data.size() > ZRK_SD_CHUNK_MAX) {
+            result = g_failWith != ZRK_SD_OK ? g_failWith : ZRK_SD_BAD_REQUEST;
+            break;
+        }
+        g_open[r->fileName].replace(int(r->offset), r->data.size(), r->data);
+        break;
+    case ZRK_SD_CLOSE:
+        g_card[r->fileName] = g_open.take(r->fileName);
+        break;
+    default:
+        result = ZRK_SD_BAD_REQUEST;
+    }
+    QByteArray answer = reply(*r, result);
+    g_page->receive_SD_File(&answer); // the reply comes inside the request's call
+    return 0;
+}
+
+coreGeoZone zone(int id, double lat = 55.75, double lon = 37.62)
+{
+    coreGeoZone z;
+    z.id = id;
+    z.name = QStringLiteral("Зона %1").arg(id);
+    z.lat = lat;
+    z.lon = lon;
+    return z;
+}
+
+QVector<int> ids(const ZRK_Form_Config_Ainf& page)
+{
+    QVector<int> out;
+    for (const coreGeoZone& z : page.data().zones)
+        out << z.id;
+    return out;
+}
+
+} // namespace
+
+class TstFormConfigAinf : public QObject
+{
+    Q_OBJECT
+
+    ZRK_Form_Config_Ainf* m_page = nullptr;
+    QStringList m_messages;
+    QTemporaryDir m_dir;
+
+private slots:
+    void initTestCase() { QVERIFY(zrk::installCatalogue(QStringLiteral("ru"))); }
+
+    void init()
+    {
+        m_page = new ZRK_Form_Config_Ainf;
+        g_page = m_page;
+        m_messages.clear();
+        m_page->setMessageSink([this](const QString& m) { m_messages << m; });
+    }
+    void cleanup()
+    {
+        delete m_page;
+        g_page = nullptr;
+    }
+
+    void firstFreeIdAfterDeletesAndDuplicate()
+    {
+        for (int i = 0; i < 5; ++i)
+            QCOMPARE(m_page->addGeoZone(
+                         QStringLiteral("z"), 150, 10, 3, QStringLiteral("55.1"), QStringLiteral("37,2")),
+                i + 1);
+        QCOMPARE(m_page->deleteZones({ 3, 1, 3 }), 2); // ids 4 and 2; a repeated row counts once
+        QCOMPARE(ids(*m_page), (QVector<int> { 1, 3, 5 }));
+        QCOMPARE(m_page->addZoneAt(56.0, 38.0), 2);
+        QCOMPARE(m_page->duplicateZone(m_page->rowOfZone(5)), 4);
+        const coreGeoZone& copy = m_page->data().zones.last();
+        QCOMPARE(copy.id, 4);
+        QCOMPARE(copy.size, 150);
+        QCOMPARE(copy.angle, 10);
+        QCOMPARE(copy.gob, 3);
+        QCOMPARE(copy.lon, 37.2);
+        QCOMPARE(copy.outputs, QStringLiteral("0000000000000000"));
+        QCOMPARE(m_page->addZoneAt(1, 1), 6);
+        QCOMPARE(m_page->duplicateZone(99), 0); // no such row: nothing, no message
+        QVERIFY(m_messages.isEmpty());
+    }
+
+    void refusedZones_data()
+    {
+        QTest::addColumn<QString>("lat");
+        QTest::addColumn<QString>("lon");
+        QTest::newRow("latitude past the pole") << "90.5"
+                                                << "37";
+        QTest::newRow("longitude past 180") << "55"
+                                            << "-180.01";
+        QTest::newRow("not a number") << "55.x"
+                                      << "37";
+        QTest::newRow("empty") << ""
+                               << "37";
+    }
+    void refusedZones()
+    {
+        QFETCH(QString, lat);
+        QFETCH(QString, lon);
+        QCOMPARE(m_page->addGeoZone(QStringLiteral("z"), 100, 0, 0, lat, lon), 0);
+        QCOMPARE(m_page->data().zones.size(), 0);
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY(m_messages.first().contains(QStringLiteral("широта")));
+    }
+
+    void zoneLimit()
+    {
+        coreAinfData data;
+        for (int i = 1; i <= m_page->caps().maxZones; ++i)
+            data.zones << zone(i);
+        m_page->setData(data);
+        QCOMPARE(m_page->addZoneAt(55, 37), 0);
+        QCOMPARE(m_page->duplicateZone(0), 0);
+        QCOMPARE(m_messages.size(), 2);
+        QVERIFY2(m_messages.first().contains(QString::number(m_page->caps().maxZones)),
+            qPrintable(m_messages.first()));
+        QCOMPARE(m_page->data().zones.size(), m_page->caps().maxZones);
+        // Deleting many at once keeps the rest in order.
+        QCOMPARE(m_page->deleteZones({ 0, 1, 9999 }), 3);
+        QCOMPARE(m_page->data().zones.first().id, 3);
+        QCOMPARE(m_page->addZoneAt(55, 37), 1);
+    }
+
+    void stopZoneIsNotDeleted()
+    {
+        coreAinfData data;
+        data.zones << zone(1) << zone(2) << zone(3);
+        coreGeoRoute route;
+        route.id = 1;
+        route.stops << coreGeoStop { GeoStop_Stop, 2, 1, QStringLiteral("Вокзал"), QString() };
+        data.routes << route;
+        m_page->setData(data);
+        QCOMPARE(m_page->deleteZones({ 0, 1, 2 }), 2);
+        QCOMPARE(ids(*m_page), (QVector<int> { 2 }));
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY(m_messages.first().contains(QLatin1String("2")));
+    }
+
+    void routeAndStopLimits()
+    {
+        ZRK_Form_Config_Ainf_Route* routes = m_page->routeForm();
+        Q_UNUSED(routes)
+        coreAinfData data;
+        data.zones << zone(1);
+        for (int i = 1; i <= m_page->caps().maxRoutes; ++i) {
+            coreGeoRoute r;
+            r.id = i;
+            data.routes << r;
+        }
+        for (int i = 0; i < m_page->caps().maxStopsPerRoute; ++i)
+            data.routes[0].stops << coreGeoStop { GeoStop_Stop, 1, i + 1, QString(), QString() };
+        m_page->setData(data);
+        QCOMPARE(m_page->routeForm()->addRoute(), 0);
+        QVERIFY(!m_page->routeForm()->addStop(0, 1));
+        QCOMPARE(m_messages.size(), 2);
+        QVERIFY(m_messages.at(0).contains(QString::number(m_page->caps().maxRoutes)));
+        QVERIFY(m_messages.at(1).contains(QString::number(m_page->caps().maxStopsPerRoute)));
+    }
+
+    void kmlImport()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("points.kml"));
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<kml "
+            "xmlns=\"http://www.opengis.net/kml/2.2\"><Document>"
+            "<Folder><Folder><Placemark><name>Площадь</name><Point><coordinates> 37.61,55.75,0 </coordinates>"
+            "</Point></Placemark></Folder>"
+            "<Placemark><name>Дорога</name><LineString><coordinates>37,55 "
+            "38,56</coordinates></LineString></Placemark>"
+            "<Placemark><name>Мост</name><Point><coordinates>37.7,55.8</coordinates></Point></Placemark></"
+            "Folder>"
+            "<Placemark><name>Без точки</name></Placemark></Document></kml>");
+        f.close();
+        coreAinfData data;
+        data.zones << zone(1) << zone(3);
+        m_page->setData(data);
+        QCOMPARE(m_page->loadFileKML(path, 250, 90, 5), 3);
+        QCOMPARE(ids(*m_page), (QVector<int> { 1, 3, 2, 4, 5 }));
+        const coreGeoZone& bridge = m_page->data().zones.at(3);
+        QCOMPARE(bridge.name, QStringLiteral("Мост"));
+        QCOMPARE(bridge.size, 250);
+        QCOMPARE(bridge.angle, 90);
+        QCOMPARE(bridge.gob, 5);
+        QCOMPARE(m_page->data().zones.at(4).lat, 0.0); // a placemark without a point sits at 0,0
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY2(m_messages.first().contains(QStringLiteral("Дорога")), qPrintable(m_messages.first()));
+
+        // A broken file adds nothing and says so.
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("<kml><Document><Placemark>");
+        f.close();
+        QCOMPARE(m_page->loadFileKML(path, 100, 0, 0), 0);
+        QCOMPARE(m_page->data().zones.size(), 5);
+        QCOMPARE(m_messages.size(), 2);
+    }
+
+    void fileThroughThePage()
+    {
+        coreAinfData data;
+        data.zones << zone(1) << zone(7, -33.9, 151.2);
+        data.defaults.setDefRouteOptions(0x81);
+        m_page->setData(data);
+        const QString path = m_dir.filePath(QStringLiteral("geo.xml"));
+        QVERIFY(m_page->writeFileParamGeo(path, true));
+
+        ZRK_Form_Config_Ainf other;
+        QVERIFY(other.readFileParamGeo(path));
+        QCOMPARE(ids(other), (QVector<int> { 1, 7 }));
+        QCOMPARE(other.data().zones.at(1).lon, 151.2);
+        QCOMPARE(other.data().defaults.getDefRouteOptions(), 0x81);
+
+        // The old format is recognised and refused; the page keeps what it had.
+        const QString old = m_dir.filePath(QStringLiteral("old.xml"));
+        QFile f(old);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("<?xml version=\"1.0\"?>\n<PARAMAINF><ZONE/></PARAMAINF>\n");
+        f.close();
+        QVERIFY(!m_page->readFileParamGeo(old));
+        QCOMPARE(m_messages.size(), 1);
+        QCOMPARE(ids(*m_page), (QVector<int> { 1, 7 }));
+    }
+
+    void proposedName()
+    {
+        const QString name
+            = ZRK_Form_Config_Ainf::proposedFileName(QDateTime(QDate(2026, 3, 7), QTime(9, 5, 4)));
+        QVERIFY2(name.endsWith(QStringLiteral("/Data/AINF(07-03-26 09_05_04).xml")), qPrintable(name));
+    }
+
+    void writeToCard_data()
+    {
+        QTest::addColumn<int>("zones");
+        QTest::addColumn<int>("failWith");
+        QTest::newRow("small set") << 3 << int(ZRK_SD_OK);
+        QTest::newRow("many chunks") << 400 << int(ZRK_SD_OK);
+        QTest::newRow("card full") << 3 << int(ZRK_SD_CARD_FULL);
+    }
+    void writeToCard()
+    {
+        QFETCH(int, zones);
+        QFETCH(int, failWith);
+        ZRK_Device_K7140 device(QStringLiteral("K-7140"), 3, 5, 8, 1);
+        device.InitConfigurator(&hostCallback);
+        g_card.clear();
+        g_requests = 0;
+        g_failWith = failWith;
+        coreAinfData data;
+        for (int i = 1; i <= zones; ++i)
+            data.zones << zone(i);
+        m_page->setData(data);
+
+        QVERIFY(!m_page->saveFileInDevice()); // not connected: nothing goes out
+        QCOMPARE(g_requests, 0);
+        m_page->deviceConnect();
+        QSignalSpy done(m_page, &ZRK_Form_Config_Ainf::sdWriteFinished);
+        QVERIFY(m_page->saveFileInDevice());
+        QTRY_COMPARE(done.count(), 1);
+        QCOMPARE(done.first().first().toBool(), failWith == ZRK_SD_OK);
+        QVERIFY(!m_page->isWritingToDevice());
+        if (failWith != ZRK_SD_OK) {
+            QVERIFY(g_card.isEmpty());
+            QCOMPARE(m_messages.size(), 1);
+            return;
+        }
+        const QByteArray geo = renderFileParamGeo(data, true);
+        QCOMPARE(
+            g_card.keys(), (QStringList { QStringLiteral("GeoZones.cfg"), QStringLiteral("GeoZones.xml") }));
+        QCOMPARE(g_card.value(QStringLiteral("GeoZones.xml")), geo);
+        QCOMPARE(g_card.value(QStringLiteral("GeoZones.cfg")), renderFileCFG(data.defaults));
+        // open + writes of 4 KB at most + close, per file
+        const int cfgChunks = (renderFileCFG(data.defaults).size() + ZRK_SD_CHUNK_MAX - 1) / ZRK_SD_CHUNK_MAX;
+        QCOMPARE(g_requests, 2 + (geo.size() + ZRK_SD_CHUNK_MAX - 1) / ZRK_SD_CHUNK_MAX + 2 + cfgChunks);
+        QVERIFY(m_messages.isEmpty());
+    }
+};
+
+ZRK_WEB_TEST_MAIN(TstFormConfigAinf)
+#include "tst_form_config_ainf.moc"
