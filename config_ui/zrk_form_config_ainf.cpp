@@ -698,8 +698,8 @@ void ZRK_Form_Config_Ainf::slot_pressed_ListGeo_BtnAdd()
 {
     double lat = 0, lon = 0;
     if (!ui->form_GeoParam->typedPosition(&lat, &lon)) {
-        //% "Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок
-        //по карте."
+        //% "Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок "
+        //% "по карте."
         showMessage(qtTrId("gain_293"));
         return;
     }

@@ -51,8 +51,9 @@ bool hasMethod(const QObject* o, const char* signature)
     return o->metaObject()->indexOfMethod(QMetaObject::normalizedSignature(signature).constData()) >= 0;
 }
 
-// For a few seconds, answers the modal dialogs a save brings up: the file dialog gets `file` and
-// is accepted; a message box (a failed save) is logged and closed, so the session goes on.
+// For a few seconds (one more once the file dialog is answered), answers the modal dialogs a save
+// brings up: the file dialog gets `file` and is accepted; a message box (a failed save) is logged
+// and closed, so the session goes on.
 void answerFileDialog(const QString& file)
 {
     auto* poll = new QTimer;
@@ -66,6 +67,7 @@ void answerFileDialog(const QString& file)
             if (auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
                 edit->setText(QFileInfo(file).fileName()); // what a user types
             static_cast<QDialog*>(dialog)->done(QDialog::Accepted); // as if the user pressed Save
+            *tries = qMax(*tries, 70); // a second more for a failure message, then other steps' dialogs are theirs
         } else if (auto* box = qobject_cast<QMessageBox*>(modal)) {
             std::fprintf(stderr, "zrk-host demo: the view says: %s\n", qPrintable(box->text()));
             box->accept();

@@ -72,12 +72,16 @@ int main(int argc, char* argv[])
     {
         ZrkHostDispatcher dispatcher(loader);
         ZrkHostWindow window(loader, dispatcher);
-        new ZrkSimConfig(dispatcher, &window);
+        auto* configuration = new ZrkSimConfig(dispatcher, &window);
         auto* sdCard = new ZrkSimSdCard(dispatcher, &window);
         window.addDockWidget(Qt::RightDockWidgetArea, sdCard->createDock());
         ZrkSimTelemetry telemetry;
         telemetry.install(dispatcher);
         window.addSimulatorPanel(telemetry.createPanel());
+        // A configuration written to the terminal sets the field set of the records it sends next.
+        QObject::connect(configuration, &ZrkSimConfig::configurationWritten, &telemetry,
+            &ZrkSimTelemetry::setConfigurationXml);
+        telemetry.setConfigurationXml(configuration->storedConfiguration());
         if (parser.isSet(demo)) {
             ZrkDemoSession session(window, plugin, parser.value(demo));
             status = session.run();

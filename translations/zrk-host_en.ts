@@ -407,18 +407,6 @@
         <source>Записей: %1 (№ %2–%3); полей в записи: %4, %5 байт</source>
         <translation>Records: %1 (No. %2–%3); fields per record: %4, %5 bytes</translation>
     </message>
-    <message id="host_076">
-        <source>Период записи трека</source>
-        <translation>Track recording period</translation>
-    </message>
-    <message id="host_077">
-        <source>Интервал в секундах, с которым терминал сохраняет точку трека во время движения. При остановке запись идёт с периодом стоянки.
-
-Допустимые значения: от 1 до 3600 с. По умолчанию: 30 с.</source>
-        <translation>The interval in seconds at which the terminal stores a track point while moving. When stopped, points are recorded at the parking period.
-
-Allowed values: 1 to 3600 s. Default: 30 s.</translation>
-    </message>
     <message id="host_708">
         <source>Открыть конфигурацию… (2101)</source>
         <translation>Open configuration… (2101)</translation>
