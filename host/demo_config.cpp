@@ -6,6 +6,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHash>
 #include <QTabWidget>
 
 #include <cstdio>
@@ -29,7 +32,45 @@ bool selectTab(QWidget* config, const char* pageClass)
     return false;
 }
 
+// The record page's field boxes ("checkBox_Field_NNN", NNN the field number).
+QList<QCheckBox*> fieldBoxes(QWidget* config)
+{
+    QList<QCheckBox*> boxes;
+    for (QCheckBox* box : config->findChildren<QCheckBox*>())
+        if (box->objectName().startsWith(QLatin1String("checkBox_Field_")))
+            boxes << box;
+    return boxes;
+}
+
 } // namespace
+
+// The record page: every field ticked goes past the 512-byte limit; then the terminal's own field
+// set plus navigation details and temperatures, which the telemetry steps show after the write.
+bool ZrkDemoSession::runFieldSetSteps(QWidget* config)
+{
+    if (!selectTab(config, "ZRK_Form_Config_Orba3")) {
+        std::fprintf(stderr, "zrk-host: the configuration window has no record page\n");
+        return false;
+    }
+    if (auto* generation = config->findChild<QComboBox*>(QStringLiteral("FlashFormat")))
+        generation->setCurrentIndex(2);
+    const QList<QCheckBox*> boxes = fieldBoxes(config);
+    QHash<QCheckBox*, bool> before;
+    for (QCheckBox* box : boxes) {
+        before.insert(box, box->isChecked());
+        if (box->isEnabled())
+            box->setChecked(true);
+    }
+    bool ok = grab(config, QStringLiteral("config_fieldset_over_512"));
+    const QStringList extra { QStringLiteral("071"), QStringLiteral("073"), QStringLiteral("074"),
+        QStringLiteral("075"), QStringLiteral("076"), QStringLiteral("047"), QStringLiteral("048") };
+    for (QCheckBox* box : boxes) {
+        const bool wanted = extra.contains(box->objectName().mid(15, 3));
+        if (box->isEnabled())
+            box->setChecked(before.value(box) || wanted);
+    }
+    return grab(config, QStringLiteral("config_fieldset_chosen")) && ok;
+}
 
 bool ZrkDemoSession::runConfigSteps()
 {
@@ -66,8 +107,10 @@ bool ZrkDemoSession::runConfigSteps()
     ok = grab(config, QStringLiteral("config_read_from_terminal")) && ok;
     if (selectTab(config, "ZRK_Form_Config_Other"))
         ok = grab(config, QStringLiteral("config_other_settings")) && ok;
+    ok = runFieldSetSteps(config) && ok;
 
-    // Writing back: 2381, the plug-in saves and hands the file over with 2151.
+    // Writing back: 2381, the plug-in saves and hands the file over with 2151; the simulated
+    // terminal's records take the new field set.
     const int writesBefore = terminal ? terminal->writesReceived() : 0;
     m_window.writeConfigurationToTerminal();
     ok = grab(&m_window, QStringLiteral("config_written_to_terminal")) && ok;

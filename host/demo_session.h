@@ -30,6 +30,7 @@ private:
     // The configuration window: new, the track page, the black list, reading from the terminal,
     // the other settings, writing to the terminal.
     bool runConfigSteps();
+    bool runFieldSetSteps(QWidget* config);
     void settle(int ms = 150);
     bool grab(QWidget* widget, const QString& name);
     bool grabScreen(const QString& name);
