@@ -1,9 +1,14 @@
-# zrk_add_qtest(NAME <name> SOURCES <files...> [LIBS <libs...>] [ENV <VAR=value...>] [XVFB] [TOOL])
+# zrk_add_qtest(NAME <name> SOURCES <files...> [LIBS <libs...>] [ENV <VAR=value...>] [XVFB] [WEBENGINE] [TOOL])
 # One QtTest executable, registered with CTest. Widget tests run on the offscreen platform
-# unless XVFB asks for a real X server. TOOL: the test runs the built zrk-tool
-# (tests/common/tool_run.h).
+# unless XVFB asks for a real X server. WEBENGINE: a test with a web view, under Xvfb; the
+# sanitizers still check its memory accesses, but not leaks, since Chromium inside Qt WebEngine
+# leaves blocks behind at exit, some from code already unloaded that no suppression can name.
+# TOOL: the test runs the built zrk-tool (tests/common/tool_run.h).
 function(zrk_add_qtest)
-  cmake_parse_arguments(T "XVFB;TOOL" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
+  cmake_parse_arguments(T "XVFB;WEBENGINE;TOOL" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
+  if(T_WEBENGINE)
+    set(T_XVFB TRUE)
+  endif()
   add_executable(${T_NAME} ${T_SOURCES})
   if(T_TOOL)
     target_compile_definitions(${T_NAME} PRIVATE ZRK_TOOL_PATH="$<TARGET_FILE:zrk-tool>")
@@ -18,8 +23,13 @@ function(zrk_add_qtest)
     add_test(NAME ${T_NAME} COMMAND ${T_NAME})
     list(APPEND T_ENV QT_QPA_PLATFORM=offscreen)
   endif()
+  if(T_WEBENGINE)
+    set(leaks 0)
+  else()
+    set(leaks 1)
+  endif()
   list(APPEND T_ENV "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
-                    "ASAN_OPTIONS=detect_leaks=1"
+                    "ASAN_OPTIONS=detect_leaks=${leaks}"
                     "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
                     "LC_ALL=C.UTF-8")
   set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV}" TIMEOUT 300)
