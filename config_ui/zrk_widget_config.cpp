@@ -2,6 +2,8 @@
 
 #include "config_model/app_settings.h"
 #include "config_model/config_document.h"
+#include "config_model/orba_fieldset.h"
+#include "config_model/xml_workdata.h"
 #include "config_model/serialize.h"
 #include "config_ui/zrk_dialog_config_compare.h"
 #include "config_ui/zrk_form_config_ainf.h"
@@ -313,6 +315,17 @@ void ZRK_Widget_Config::resetToDefaults()
 QByteArray ZRK_Widget_Config::currentXml()
 {
     return isFullEditorShown() ? m_full->renderXml() : m_light->renderDocument();
+}
+
+QStringList ZRK_Widget_Config::openUserParamTypes()
+{
+    if (!isVisible())
+        return {};
+    const zrk::ConfigLoadResult loaded = zrk::loadConfigBytes(currentXml());
+    if (!loaded.doc)
+        return {};
+    CXMLWorkData root(loaded.doc.get(), "DEVICE");
+    return zrk::fieldset::userParamTypes(&root);
 }
 
 bool ZRK_Widget_Config::saveFile(const QString& path)

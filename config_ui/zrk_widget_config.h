@@ -98,6 +98,9 @@ public:
 
     // The configuration as the editor showing would save it.
     QByteArray currentXml();
+    // The user-parameter types (1-, 2-, 4-, 8-byte) of the configuration open in the window, for
+    // the header of a saved telemetry file; empty when no configuration is open.
+    QStringList openUserParamTypes();
     // Compares with what was last opened or saved now, without waiting for the pause after edits.
     void updateModified();
     bool isModified() const { return m_modified; }

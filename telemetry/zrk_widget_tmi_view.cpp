@@ -1,5 +1,6 @@
 #include "telemetry/zrk_widget_tmi_view.h"
 
+#include "config_ui/zrk_widget_config.h"
 #include "device/zrk_device_k7140.h"
 #include "telemetry/orba_page.h"
 #include "telemetry/tmipage_orba3.h"
@@ -1058,6 +1059,12 @@ bool ZRK_Widget_Tmi_View::WriteTmiToFile(const QString& name, QString* error)
         ok = zrk::tmi::exportKml(name, records, &fault);
     } else {
         zrk::tmi::Header header = m_titles;
+        // The user-parameter types of the configuration open in the configuration window, if any.
+        if (ZRK_Widget_Config* config = lpGlobalDevice ? lpGlobalDevice->widgetConfig() : nullptr) {
+            const QStringList types = config->openUserParamTypes();
+            if (!types.isEmpty())
+                header.userParamTypes = types;
+        }
         header.model = lpGlobalDevice ? lpGlobalDevice->getDeviceType() : QString();
         header.vendor = lpGlobalDevice ? lpGlobalDevice->getDeviceVendor() : QString();
         header.timezoneOffset = timeOffset();

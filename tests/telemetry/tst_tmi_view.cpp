@@ -2,6 +2,7 @@
 // what the connection state allows.
 #include "../common/test_support.h"
 #include "device/zrk_device_k7140.h"
+#include "config_model/orba_fieldset.h"
 #include "orba_records.h"
 #include "telemetry/zrk_form_tmi_orba3.h"
 #include "telemetry/zrk_tmi_session.h"
@@ -350,6 +351,16 @@ private slots:
         QCOMPARE(back.records[1].fromHistory, true);
         QVERIFY(!view->WriteTmiToFile(home.filePath(QStringLiteral("no/such/dir/x.tmi")), &error));
         QVERIFY(!error.isEmpty());
+
+        // With a configuration open, the header takes its user-parameter types.
+        QVERIFY(back.header.userParamTypes.join(QString()).isEmpty());
+        szConfigFile none {};
+        none.mode = 1;
+        dev->ZRK_ReceiveMessage(dev, ZRK_MSG_OPEN_CONFIGURATION, addr(none), 0);
+        QVERIFY(view->WriteTmiToFile(path, &error));
+        const zrk::fieldset::UserParams defaults = zrk::fieldset::defaultUserParams();
+        QCOMPARE(zrk::tmi::read(path).header.userParamTypes,
+            QStringList({ defaults.types[0], defaults.types[1], defaults.types[2], defaults.types[3] }));
     }
 
     void sessionDropsOldestFirst()
