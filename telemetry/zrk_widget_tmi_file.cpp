@@ -1,5 +1,6 @@
 #include "telemetry/zrk_widget_tmi_file.h"
 
+#include "map/zrk_dialog_map_track.h"
 #include "telemetry/orba_dispatch.h"
 #include "telemetry/orba_field_labels.h"
 #include "telemetry/tmipage_orba3.h"
@@ -63,6 +64,10 @@ namespace {
     QT_TRID_NOOP("tmif_055"),
     //% "Сохранить трек показанных записей в KML"
     QT_TRID_NOOP("tmif_056"),
+    //% "На карте…"
+    QT_TRID_NOOP("tmif_062"),
+    //% "Показать трек показанных записей на карте"
+    QT_TRID_NOOP("tmif_063"),
 };
 
 QString boxTitle()
@@ -296,6 +301,7 @@ ZRK_Widget_Tmi_Table::ZRK_Widget_Tmi_Table(QWidget* parent)
     connect(m_ui->Columns, &QPushButton::pressed, this, &ZRK_Widget_Tmi_Table::slot_pressed_Columns);
     connect(m_ui->ExportCsv, &QPushButton::pressed, this, &ZRK_Widget_Tmi_Table::slot_pressed_ExportCsv);
     connect(m_ui->ExportKml, &QPushButton::pressed, this, &ZRK_Widget_Tmi_Table::slot_pressed_ExportKml);
+    connect(m_ui->ShowOnMap, &QPushButton::pressed, this, &ZRK_Widget_Tmi_Table::slot_pressed_ShowOnMap);
     connect(m_ui->UseTime, &QCheckBox::toggled, m_ui->From, &QWidget::setEnabled);
     connect(m_ui->UseTime, &QCheckBox::toggled, m_ui->To, &QWidget::setEnabled);
     connect(m_model, &QAbstractItemModel::modelReset, this, &ZRK_Widget_Tmi_Table::updateCount);
@@ -420,6 +426,37 @@ void ZRK_Widget_Tmi_Table::slot_pressed_ExportCsv()
 void ZRK_Widget_Tmi_Table::slot_pressed_ExportKml()
 {
     exportWithDialog(true);
+}
+
+void ZRK_Widget_Tmi_Table::slot_pressed_ShowOnMap()
+{
+    const QVector<ZrkMapTrackPoint> points = shownTrack();
+    if (points.isEmpty()) {
+        //% "Среди показанных записей нет ни одной с координатами."
+        tell(qtTrId("tmif_064"));
+        return;
+    }
+    ZRK_Dialog_Map_Track::showTrack(points, this);
+}
+
+QVector<ZrkMapTrackPoint> ZRK_Widget_Tmi_Table::shownTrack() const
+{
+    QVector<ZrkMapTrackPoint> points;
+    const zrk::tmi::RecordSource next = m_model->shownRecords();
+    zrk::tmi::Record record;
+    while (next(record)) {
+        const zrk::tmi::RecordKeys keys = zrk::tmi::keysOf(record.bytes);
+        if (!keys.hasPosition)
+            continue;
+        ZrkMapTrackPoint p;
+        p.lat = keys.latitude;
+        p.lon = keys.longitude;
+        if (keys.hasTime)
+            p.time = QDateTime::fromSecsSinceEpoch(keys.time);
+        p.speed = keys.hasSpeed ? keys.speed : 0.0;
+        points.append(p);
+    }
+    return points;
 }
 
 void ZRK_Widget_Tmi_Table::exportWithDialog(bool kml)

@@ -88,6 +88,8 @@ private:
 
 // One row per record: chosen columns, sorting, a filter by event code and time, CSV/KML export
 // of the rows shown.
+struct ZrkMapTrackPoint;
+
 class ZRK_Widget_Tmi_Table : public ZRK_Widget_Tmi_File
 {
     Q_OBJECT
@@ -105,6 +107,8 @@ public:
     void setFieldShown(int no, bool shown);
     // The rows shown, in their order, as CSV or KML.
     bool exportShown(const QString& path, bool kml, QString* error);
+    // The positions of the rows shown, in their order, as a track for the map.
+    QVector<ZrkMapTrackPoint> shownTrack() const;
 
 protected:
     void setRecords(zrk::tmi::RecordStore&& store) override;
@@ -115,6 +119,7 @@ private slots:
     void slot_pressed_Columns();
     void slot_pressed_ExportCsv();
     void slot_pressed_ExportKml();
+    void slot_pressed_ShowOnMap();
 
 private:
     void updateCount();

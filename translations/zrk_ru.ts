@@ -2127,7 +2127,6 @@
     </message>
     <message id="tmiw_081">
         <source>Терминал подключён</source>
-        <oldsource>Терминал подключёнТерминал не подключён</oldsource>
         <translation>Терминал подключёнТерминал не подключён</translation>
     </message>
     <message id="tmiw_082">
@@ -2244,7 +2243,6 @@
     </message>
     <message id="tmiw_108">
         <source>Файл тахографа прочитан</source>
-        <oldsource>Файл тахографа прочитанФайл тахографа не прочитан</oldsource>
         <translation>Файл тахографа прочитанФайл тахографа не прочитан</translation>
     </message>
     <message id="tmiw_109">
@@ -2257,7 +2255,6 @@
     </message>
     <message id="tmiw_111">
         <source>Файл данных датчика прочитан</source>
-        <oldsource>Файл данных датчика прочитанФайл данных датчика не прочитан</oldsource>
         <translation>Файл данных датчика прочитанФайл данных датчика не прочитан</translation>
     </message>
     <message id="tmiw_112">
@@ -2266,7 +2263,6 @@
     </message>
     <message id="tmiw_114">
         <source>Сохранить записи телеметрии</source>
-        <oldsource>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</oldsource>
         <translation>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
     </message>
     <message id="tmiw_115">
@@ -2794,9 +2790,7 @@
         <translation>(корень)</translation>
     </message>
     <message id="cfgx_002">
-        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в
-</source>
-        <oldsource>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</oldsource>
+        <source>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</source>
         <translation>Настройки терминала, для которых в этом редакторе нет страницы. Они сохраняются и записываются в терминал без изменений; значения можно править (двойной щелчок по строке).</translation>
     </message>
     <message id="cfgx_003">
@@ -3021,17 +3015,14 @@
     </message>
     <message id="cfgl_012">
         <source>Поколение 1 (ORBA 1)</source>
-        <oldsource>ORBA 1</oldsource>
         <translation>Поколение 1 (ORBA 1)</translation>
     </message>
     <message id="cfgl_013">
         <source>Поколение 2 (ORBA 2)</source>
-        <oldsource>ORBA 2</oldsource>
         <translation>Поколение 2 (ORBA 2)</translation>
     </message>
     <message id="cfgl_014">
         <source>Поколение 3 (ORBA 3)</source>
-        <oldsource>ORBA 3</oldsource>
         <translation>Поколение 3 (ORBA 3)</translation>
     </message>
     <message id="gain_260">
@@ -3123,9 +3114,7 @@
         <translation>В терминале нет SD-карты; файл %1 не записан.</translation>
     </message>
     <message id="gain_293">
-        <source>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок
-</source>
-        <oldsource>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</oldsource>
+        <source>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</source>
         <translation>Введите широту (от -90 до 90) и долготу (от -180 до 180) новой зоны или сделайте двойной щелчок по карте.</translation>
     </message>
     <message id="gain_294">
@@ -3609,9 +3598,7 @@
         <translation>Подложка</translation>
     </message>
     <message id="gain_089">
-        <source>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с
-</source>
-        <oldsource>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</oldsource>
+        <source>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</source>
         <translation>Пусто — координатная сетка; адрес сервера тайлов вида http://host/{z}/{x}/{y}.png; или папка с тайлами z/x/y</translation>
     </message>
     <message id="gain_090">
@@ -3689,6 +3676,18 @@
     <message id="wcfg_036">
         <source>Геозоны</source>
         <translation>Геозоны</translation>
+    </message>
+    <message id="tmif_062">
+        <source>На карте…</source>
+        <translation>На карте…</translation>
+    </message>
+    <message id="tmif_063">
+        <source>Показать трек показанных записей на карте</source>
+        <translation>Показать трек показанных записей на карте</translation>
+    </message>
+    <message id="tmif_064">
+        <source>Среди показанных записей нет ни одной с координатами.</source>
+        <translation>Среди показанных записей нет ни одной с координатами.</translation>
     </message>
 </context>
 </TS>

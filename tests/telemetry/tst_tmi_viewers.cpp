@@ -1,4 +1,5 @@
 // The page and table viewers of a saved telemetry file, offscreen.
+#include "map/zrk_widget_map.h"
 #include "orba_records.h"
 #include "telemetry/zrk_form_tmi_ext.h"
 #include "telemetry/zrk_form_tmi_orba3.h"
@@ -200,6 +201,30 @@ private slots:
             why.isEmpty());
         QVERIFY(reason.contains(why));
         QCOMPARE(table.model()->rowCount(), rows);
+    }
+
+    // "On the map" takes the positions of the rows shown, in their order, and skips rows without one.
+    void tableTrackOfShownRows()
+    {
+        QVector<zrk::tmi::Record> records;
+        for (int i = 0; i < 6; ++i) {
+            RecordBuilder b;
+            b.setNumber(orba::F_NumPage, quint64(i)).setNumber(orba::F_Code, i % 2 ? 7 : 5);
+            if (i != 3)
+                b.setNumber(orba::F_Latitude, 33000000 + i).setNumber(orba::F_Longitude, 22200000);
+            records.append({ b.record(3), QDateTime(), false });
+        }
+        const QString path = m_dir.filePath(QStringLiteral("track.tmi"));
+        QString error;
+        QVERIFY(zrk::tmi::write(path, {}, records, &error));
+        ZRK_Widget_Tmi_Table table;
+        table.setFileTmi(path);
+        QCOMPARE(table.shownTrack().size(), 5);
+        QVERIFY(table.applyFilter(QStringLiteral("7"), false, {}, {}, &error));
+        const QVector<ZrkMapTrackPoint> track = table.shownTrack();
+        QCOMPARE(track.size(), 2); // rows 1 and 5; row 3 has no position
+        QCOMPARE(track[1].lat, (33000000 + 5) / 600000.0);
+        QCOMPARE(track[1].lon, 22200000 / 600000.0);
     }
 
     void tableSortColumnsExport()
