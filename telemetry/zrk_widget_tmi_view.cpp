@@ -14,6 +14,7 @@
 #include "ui_zrk_widget_tmi_view.h"
 
 #include <QEvent>
+#include <QShowEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -207,7 +208,6 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
     ui->ChartField->setCurrentIndex(ui->ChartField->findData(int(orba::F_Speed)));
     ui->MainSplitter->setStretchFactor(1, 3);
     ui->MainSplitter->setStretchFactor(2, 2);
-    ui->MainSplitter->setSizes({ 200, 620, 460 });
     ui->TimeMoment->setDateTime(QDateTime::currentDateTime());
     ui->HistoryMark->hide();
 
@@ -323,6 +323,17 @@ void ZRK_Widget_Tmi_View::translateForm()
     updateFreshness();
     if (ui)
         setTerminalControlsEnabled();
+}
+
+void ZRK_Widget_Tmi_View::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_splitterSized)
+        return;
+    m_splitterSized = true;
+    // Most of the width for the record; the session list narrow; chart and commands beside.
+    const int w = width();
+    ui->MainSplitter->setSizes({ w * 14 / 100, w * 52 / 100, w * 34 / 100 });
 }
 
 void ZRK_Widget_Tmi_View::changeEvent(QEvent* event)

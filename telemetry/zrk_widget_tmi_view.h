@@ -112,13 +112,14 @@ public:
     // Saves the session's records: .tmi/.xml as the telemetry file, .csv and .kml as exports.
     // Whole or not at all; error gets a Russian text naming the file.
     bool WriteTmiToFile(const QString& name, QString* error = nullptr);
-    // Titles of inputs, outputs, temperature sensors and the user-parameter types of the open
-    // configuration, written into the head of saved files; the configuration window sets them
-    // when it opens or saves a configuration (empty until then).
+    // Titles of inputs, outputs and temperature sensors and user-parameter types written into the
+    // head of saved files (the user-parameter types of a configuration open in the configuration
+    // window take precedence).
     void setFileTitles(const zrk::tmi::Header& titles);
 
 protected:
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private slots:
     void slot_pressed_GetCurrent();
@@ -169,6 +170,7 @@ private:
 
     std::unique_ptr<Ui::ZRK_Designer_Widget_Tmi_View> ui;
     bool m_connected = false;
+    bool m_splitterSized = false; // the columns get their shares of the width once, when first shown
     bool m_rcsEnded = false;
     int m_direction = 0;
     int m_autoCounter = 1;

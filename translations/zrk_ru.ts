@@ -2127,7 +2127,7 @@
     </message>
     <message id="tmiw_081">
         <source>Терминал подключён</source>
-        <translation>Терминал подключёнТерминал не подключён</translation>
+        <translation>Терминал подключён</translation>
     </message>
     <message id="tmiw_082">
         <source>Терминал не подключён</source>
@@ -2243,7 +2243,7 @@
     </message>
     <message id="tmiw_108">
         <source>Файл тахографа прочитан</source>
-        <translation>Файл тахографа прочитанФайл тахографа не прочитан</translation>
+        <translation>Файл тахографа прочитан</translation>
     </message>
     <message id="tmiw_109">
         <source>Файл тахографа не прочитан</source>
@@ -2255,7 +2255,7 @@
     </message>
     <message id="tmiw_111">
         <source>Файл данных датчика прочитан</source>
-        <translation>Файл данных датчика прочитанФайл данных датчика не прочитан</translation>
+        <translation>Файл данных датчика прочитан</translation>
     </message>
     <message id="tmiw_112">
         <source>Файл данных датчика не прочитан</source>
@@ -2263,7 +2263,7 @@
     </message>
     <message id="tmiw_114">
         <source>Сохранить записи телеметрии</source>
-        <translation>Сохранить записи телеметрииТелеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</translation>
+        <translation>Сохранить записи телеметрии</translation>
     </message>
     <message id="tmiw_115">
         <source>Телеметрия (*.tmi);;XML (*.xml);;CSV (*.csv);;KML (*.kml)</source>
