@@ -439,23 +439,27 @@ void ZRK_Widget_Tmi_Table::slot_pressed_ShowOnMap()
     ZRK_Dialog_Map_Track::showTrack(points, this);
 }
 
+bool zrkTrackPointOf(const QByteArray& record, ZrkMapTrackPoint* point)
+{
+    const zrk::tmi::RecordKeys keys = zrk::tmi::keysOf(record);
+    if (!keys.hasPosition)
+        return false;
+    point->lat = keys.latitude;
+    point->lon = keys.longitude;
+    point->time = keys.hasTime ? QDateTime::fromSecsSinceEpoch(keys.time) : QDateTime();
+    point->speed = keys.hasSpeed ? keys.speed : 0.0;
+    return true;
+}
+
 QVector<ZrkMapTrackPoint> ZRK_Widget_Tmi_Table::shownTrack() const
 {
     QVector<ZrkMapTrackPoint> points;
     const zrk::tmi::RecordSource next = m_model->shownRecords();
     zrk::tmi::Record record;
-    while (next(record)) {
-        const zrk::tmi::RecordKeys keys = zrk::tmi::keysOf(record.bytes);
-        if (!keys.hasPosition)
-            continue;
-        ZrkMapTrackPoint p;
-        p.lat = keys.latitude;
-        p.lon = keys.longitude;
-        if (keys.hasTime)
-            p.time = QDateTime::fromSecsSinceEpoch(keys.time);
-        p.speed = keys.hasSpeed ? keys.speed : 0.0;
-        points.append(p);
-    }
+    ZrkMapTrackPoint p;
+    while (next(record))
+        if (zrkTrackPointOf(record.bytes, &p))
+            points.append(p);
     return points;
 }
 

@@ -2,6 +2,7 @@
 
 #include "config_ui/zrk_widget_config.h"
 #include "device/zrk_device_k7140.h"
+#include "map/zrk_dialog_map_track.h"
 #include "telemetry/orba_page.h"
 #include "telemetry/tmipage_orba3.h"
 #include "telemetry/tmi_file.h"
@@ -11,6 +12,7 @@
 #include "telemetry/zrk_tmi_chart.h"
 #include "telemetry/orba_field_labels.h"
 #include "telemetry/zrk_tmi_session.h"
+#include "telemetry/zrk_widget_tmi_file.h"
 #include "ui_zrk_widget_tmi_view.h"
 
 #include <QEvent>
@@ -62,6 +64,10 @@ template <typename T> unsigned long addr(T& v)
     QT_TRID_NOOP("tmiw_008"),
     //% "Сохранить…"
     QT_TRID_NOOP("tmiw_009"),
+    //% "На карте…"
+    QT_TRID_NOOP("tmiw_116"),
+    //% "Показать на карте трек записей этого сеанса"
+    QT_TRID_NOOP("tmiw_117"),
     //% "График"
     QT_TRID_NOOP("tmiw_010"),
     //% "Команды"
@@ -223,6 +229,7 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
     connect(ui->SessionList, &QListView::activated, this, &ZRK_Widget_Tmi_View::slot_activated_SessionList);
     connect(ui->HideAbsent, &QCheckBox::toggled, this, &ZRK_Widget_Tmi_View::slot_toggled_HideAbsent);
     connect(ui->SaveFile, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_SaveFile);
+    connect(ui->ShowOnMap, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_ShowOnMap);
     connect(ui->ChartAdd, &QPushButton::clicked, this,
         [this] { m_chart->addField(ui->ChartField->currentData().toInt(), *m_session); });
     connect(ui->ChartClear, &QPushButton::clicked, m_chart, &ZRK_Tmi_Chart::clearFields);
@@ -1084,6 +1091,27 @@ bool ZRK_Widget_Tmi_View::WriteTmiToFile(const QString& name, QString* error)
     if (!ok && error)
         *error = fault;
     return ok;
+}
+
+QVector<ZrkMapTrackPoint> ZRK_Widget_Tmi_View::sessionTrack() const
+{
+    QVector<ZrkMapTrackPoint> points;
+    ZrkMapTrackPoint p;
+    for (const ZRK_Tmi_Session::Entry& e : m_session->entries())
+        if (zrkTrackPointOf(e.bytes, &p))
+            points.append(p);
+    return points;
+}
+
+void ZRK_Widget_Tmi_View::slot_pressed_ShowOnMap()
+{
+    const QVector<ZrkMapTrackPoint> points = sessionTrack();
+    if (points.isEmpty()) {
+        //% "Ни в одной записи сеанса нет координат."
+        QMessageBox::information(this, windowTitle(), qtTrId("tmiw_118"));
+        return;
+    }
+    ZRK_Dialog_Map_Track::showTrack(points, this);
 }
 
 void ZRK_Widget_Tmi_View::slot_pressed_SaveFile()

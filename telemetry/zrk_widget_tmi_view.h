@@ -26,6 +26,8 @@ class ZRK_Designer_Widget_Tmi_View;
 // The telemetry view: asks the host for records, decodes and shows them. One per plug-in,
 // created on first need by the device object and never deleted while the library is loaded.
 // The record and reply operations are virtual so that the device object's routing can be watched.
+struct ZrkMapTrackPoint;
+
 class ZRK_Widget_Tmi_View : public QWidget
 {
     Q_OBJECT
@@ -116,6 +118,8 @@ public:
     // head of saved files (the user-parameter types of a configuration open in the configuration
     // window take precedence).
     void setFileTitles(const zrk::tmi::Header& titles);
+    // The positions of this session's records, in order, as a track for the map.
+    QVector<ZrkMapTrackPoint> sessionTrack() const;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -132,6 +136,7 @@ private slots:
     void slot_activated_SessionList(const QModelIndex& index);
     void slot_toggled_HideAbsent(bool hide);
     void slot_pressed_SaveFile();
+    void slot_pressed_ShowOnMap();
     // Commands to the terminal.
     void slot_pressed_OutOn();
     void slot_pressed_OutOff();

@@ -3689,5 +3689,17 @@ The old file is unchanged.</translation>
         <source>Среди показанных записей нет ни одной с координатами.</source>
         <translation>None of the shown records has coordinates.</translation>
     </message>
+    <message id="tmiw_116">
+        <source>На карте…</source>
+        <translation>On the map…</translation>
+    </message>
+    <message id="tmiw_117">
+        <source>Показать на карте трек записей этого сеанса</source>
+        <translation>Show the track of this session&apos;s records on the map</translation>
+    </message>
+    <message id="tmiw_118">
+        <source>Ни в одной записи сеанса нет координат.</source>
+        <translation>None of the session&apos;s records has coordinates.</translation>
+    </message>
 </context>
 </TS>

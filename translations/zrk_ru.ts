@@ -3689,5 +3689,17 @@
         <source>Среди показанных записей нет ни одной с координатами.</source>
         <translation>Среди показанных записей нет ни одной с координатами.</translation>
     </message>
+    <message id="tmiw_116">
+        <source>На карте…</source>
+        <translation>На карте…</translation>
+    </message>
+    <message id="tmiw_117">
+        <source>Показать на карте трек записей этого сеанса</source>
+        <translation>Показать на карте трек записей этого сеанса</translation>
+    </message>
+    <message id="tmiw_118">
+        <source>Ни в одной записи сеанса нет координат.</source>
+        <translation>Ни в одной записи сеанса нет координат.</translation>
+    </message>
 </context>
 </TS>

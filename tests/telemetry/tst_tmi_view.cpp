@@ -3,6 +3,7 @@
 #include "../common/test_support.h"
 #include "device/zrk_device_k7140.h"
 #include "config_model/orba_fieldset.h"
+#include "map/zrk_widget_map.h"
 #include "orba_records.h"
 #include "telemetry/zrk_form_tmi_orba3.h"
 #include "telemetry/zrk_tmi_session.h"
@@ -361,6 +362,24 @@ private slots:
         const zrk::fieldset::UserParams defaults = zrk::fieldset::defaultUserParams();
         QCOMPARE(zrk::tmi::read(path).header.userParamTypes,
             QStringList({ defaults.types[0], defaults.types[1], defaults.types[2], defaults.types[3] }));
+    }
+
+    // "On the map" takes the session's records that have a position, in order.
+    void sessionTrackSkipsRecordsWithoutPosition()
+    {
+        const QByteArray placed = RecordBuilder()
+                                      .setNumber(orba::F_NumPage, 7)
+                                      .setNumber(orba::F_Latitude, 33000000)
+                                      .setNumber(orba::F_Longitude, 22200000)
+                                      .record(3)
+            + QByteArray(80, '\0');
+        QByteArray a = reply(3, record(6) + QByteArray(80, '\0')), b = reply(3, placed);
+        view->setTmiCur(&a);
+        view->setTmiCur(&b);
+        const QVector<ZrkMapTrackPoint> track = view->sessionTrack();
+        QCOMPARE(track.size(), 1);
+        QCOMPARE(track[0].lat, 55.0);
+        QCOMPARE(track[0].lon, 37.0);
     }
 
     void sessionDropsOldestFirst()
