@@ -32,13 +32,13 @@ public:
     int capacity() const { return m_capacity; }
     int count() const { return m_entries.size(); }
     const Entry& at(int row) const { return m_entries.at(row); }
-    const QVector<Entry>& entries() const { return m_entries; }
+    const QList<Entry>& entries() const { return m_entries; }
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    QVector<Entry> m_entries;
+    QList<Entry> m_entries; // a list of pointers: dropping the oldest of a full session moves nothing
     int m_capacity;
 };
 
