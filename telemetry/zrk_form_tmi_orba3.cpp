@@ -1,15 +1,23 @@
 #include "telemetry/zrk_form_tmi_orba3.h"
 
-#include "telemetry/orba_page.h"
 #include "telemetry/orba_field_labels.h"
+#include "telemetry/orba_page.h"
 #include "ui_zrk_form_tmi_orba3.h"
 
+#include <algorithm>
+
+#include <QAbstractTableModel>
+#include <QAction>
+#include <QClipboard>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPainter>
-#include <QPlainTextEdit>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -28,7 +36,8 @@ struct TabDef
 
 const TabDef kTabs[] = {
     //% "Основное"
-    { QT_TRID_NOOP("tmio_001"), { { 1, 6 }, { 123, 125 }, { 7, 8 }, { 200, 200 }, { 104, 105 }, { 122, 122 } } },
+    { QT_TRID_NOOP("tmio_001"),
+        { { 1, 6 }, { 123, 125 }, { 7, 8 }, { 200, 200 }, { 104, 105 }, { 122, 122 } } },
     //% "Навигация"
     { QT_TRID_NOOP("tmio_002"), { { 9, 18 }, { 70, 77 } } },
     //% "Питание, входы и выходы"
@@ -65,7 +74,10 @@ static_assert(orba::S_TiresTemp30 == orba::S_TiresNum1 + 3 * kTyres - 1, "tyre s
 
 int tyreField(int i)
 {
-    return i < 2 ? orba::F_Tires1_2 : i < 6 ? orba::F_Tires3_6 : i < 14 ? orba::F_Tires7_14 : orba::F_Tires15_30;
+    return i < 2 ? orba::F_Tires1_2
+        : i < 6  ? orba::F_Tires3_6
+        : i < 14 ? orba::F_Tires7_14
+                 : orba::F_Tires15_30;
 }
 
 bool isDiagnostic(int sub)
@@ -89,6 +101,54 @@ const QColor kAbsentColour(0x99, 0x99, 0x99);
 
 } // namespace
 
+// The record body, sixteen bytes a row, offsets down the side.
+class ZRK_Form_TMI_Orba3::RawBytesModel : public QAbstractTableModel
+{
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    const QByteArray& bytes() const { return m_bytes; }
+    void setBytes(const QByteArray& bytes)
+    {
+        if (rows(bytes) != rows(m_bytes) || bytes.size() % 16 != m_bytes.size() % 16) {
+            beginResetModel();
+            m_bytes = bytes;
+            endResetModel();
+        } else if (!bytes.isEmpty()) {
+            m_bytes = bytes;
+            emit dataChanged(index(0, 0), index(rows(bytes) - 1, 15), { Qt::DisplayRole });
+        }
+    }
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : rows(m_bytes);
+    }
+    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : 16; }
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        const int at = index.row() * 16 + index.column();
+        if (at >= m_bytes.size())
+            return {};
+        if (role == Qt::DisplayRole)
+            return QStringLiteral("%1").arg(quint8(m_bytes.at(at)), 2, 16, QLatin1Char('0'));
+        if (role == Qt::TextAlignmentRole)
+            return int(Qt::AlignCenter);
+        return {};
+    }
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (role != Qt::DisplayRole)
+            return {};
+        if (orientation == Qt::Horizontal)
+            return QString::number(section, 16).toUpper();
+        return QStringLiteral("%1").arg(section * 16, 4, 16, QLatin1Char('0'));
+    }
+
+private:
+    static int rows(const QByteArray& b) { return (b.size() + 15) / 16; }
+    QByteArray m_bytes;
+};
+
 ZRK_Form_TMI_Orba3::ZRK_Form_TMI_Orba3(QWidget* parent)
     : QWidget(parent)
     , ui(new Ui::ZRK_Designer_Form_TMI_Orba3)
@@ -97,6 +157,8 @@ ZRK_Form_TMI_Orba3::ZRK_Form_TMI_Orba3(QWidget* parent)
     setObjectName(QStringLiteral("ZRK_Form_TMI_Orba3"));
     m_fieldRow.fill(-1, orba::kFieldCount + 1);
     buildTabs();
+    m_tabStale.fill(false, ui->Tabs->count());
+    connect(ui->Tabs, &QTabWidget::currentChanged, this, &ZRK_Form_TMI_Orba3::refreshTab);
     translateForm();
 }
 
@@ -126,6 +188,9 @@ void ZRK_Form_TMI_Orba3::buildTabs()
             for (int no = r.from; no <= r.to; ++no)
                 addFieldRows(tree, no);
         tree->expandAll();
+        // Wide enough for the names, once: the rows never change their names afterwards.
+        tree->resizeColumnToContents(0);
+        tree->setColumnWidth(0, qBound(210, tree->columnWidth(0) + 8, 360));
         ui->Tabs->addTab(tree, QString());
         m_tabTitleIds << tabNo++;
         if (tabNo == kTyreTabAfter + 1) {
@@ -142,16 +207,41 @@ void ZRK_Form_TMI_Orba3::buildTabs()
             m_tabTitleIds << -1;
         }
     }
-    m_raw = new QPlainTextEdit;
-    m_raw->setObjectName(QStringLiteral("RawText"));
-    m_raw->setReadOnly(true);
+    // The raw tab: the field set as names, and the body as a hex table whose cells change in
+    // place, so a live record costs no text layout here.
+    auto* raw = new QWidget;
+    raw->setObjectName(QStringLiteral("Raw"));
+    auto* rawLayout = new QVBoxLayout(raw);
+    m_rawFields = new QLabel;
+    m_rawFields->setObjectName(QStringLiteral("RawFields"));
+    m_rawFields->setWordWrap(true);
+    m_rawFields->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    rawLayout->addWidget(m_rawFields);
+    m_rawModel = new RawBytesModel(this);
+    m_rawBytes = new QTableView;
+    m_rawBytes->setObjectName(QStringLiteral("RawBytes"));
+    m_rawBytes->setModel(m_rawModel);
     // The system's fixed font rather than a family named by a literal: Qt's font cache keeps such a
     // name after the plug-in is unloaded, and the literal's bytes go with the plug-in.
     QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     fixed.setPointSize(9);
-    m_raw->setFont(fixed);
-    m_raw->setLineWrapMode(QPlainTextEdit::WidgetWidth);
-    ui->Tabs->addTab(m_raw, QString());
+    m_rawBytes->setFont(fixed);
+    m_rawBytes->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_rawBytes->horizontalHeader()->setDefaultSectionSize(
+        QFontMetrics(fixed).horizontalAdvance(QStringLiteral("000")) + 6);
+    m_rawBytes->verticalHeader()->setFont(fixed);
+    m_rawBytes->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_rawBytes->verticalHeader()->setDefaultSectionSize(QFontMetrics(fixed).height() + 4);
+    m_rawBytes->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_rawCopy = new QAction(this);
+    m_rawCopy->setShortcut(QKeySequence::Copy);
+    m_rawCopy->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(
+        m_rawCopy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(rawText()); });
+    m_rawBytes->addAction(m_rawCopy);
+    rawLayout->addWidget(m_rawBytes, 1);
+    m_raw = raw;
+    ui->Tabs->addTab(raw, QString());
     m_tabTitleIds << -2;
 }
 
@@ -164,8 +254,9 @@ void ZRK_Form_TMI_Orba3::addFieldRows(QTreeWidget* tree, int no)
         kind = Kind::EventCode;
     else if (no == orba::F_Time)
         kind = Kind::TimeUtc;
+    const int tab = ui->Tabs->count();
     m_fieldRow[no] = m_rows.size();
-    m_rows.append({ item, no, -1, kind, QString() });
+    m_rows.append({ item, tab, no, -1, kind, QString() });
     const orba::Rule rule = orba::kFields[no - 1].rule;
     if (rule != orba::Rule::Bits && rule != orba::Rule::Parts)
         return;
@@ -179,7 +270,7 @@ void ZRK_Form_TMI_Orba3::addFieldRows(QTreeWidget* tree, int no)
             k = Kind::Lamp;
         else if (isDiagnostic(id))
             k = Kind::Diagnostic;
-        m_rows.append({ child, no, id, k, QString() });
+        m_rows.append({ child, tab, no, id, k, QString() });
     }
 }
 
@@ -190,6 +281,8 @@ void ZRK_Form_TMI_Orba3::translateForm()
         const char* title = id >= 0 ? kTabs[id].titleId : id == -1 ? kTyreTitle : kRawTitle;
         ui->Tabs->setTabText(i, qtTrId(title));
     }
+    //% "Копировать"
+    m_rawCopy->setText(qtTrId("tmio_055"));
     if (m_tyres) {
         m_tyres->setHorizontalHeaderLabels({
             //% "Номер датчика"
@@ -225,9 +318,9 @@ QString ZRK_Form_TMI_Orba3::rowText(const Row& row, const OrbaPage& page) const
         return page.getStrDateTimeUTC_Offset();
     case Kind::EventCode: {
         const QString code = page.fieldText(row.field);
-        const QString text
-            = m_eventText ? m_eventText(quint16(orba::readLE(page.recordBytes() + orba::kOffsets[row.field], 2)))
-                          : QString();
+        const QString text = m_eventText
+            ? m_eventText(quint16(orba::readLE(page.recordBytes() + orba::kOffsets[row.field], 2)))
+            : QString();
         return text.isEmpty() ? code : code + QStringLiteral(" — ") + text;
     }
     case Kind::Diagnostic: {
@@ -295,49 +388,76 @@ void ZRK_Form_TMI_Orba3::updateTyres(const OrbaPage& page)
 
 void ZRK_Form_TMI_Orba3::updateRaw(const OrbaPage& page)
 {
-    if (page.version() == m_rawVersion && page.body() == m_rawShown)
+    if (page.version() == m_rawVersion && page.body() == m_rawModel->bytes())
         return;
     m_rawVersion = page.version();
-    m_rawShown = page.body();
     QStringList names;
     for (int no = 1; no <= page.lastField(); ++no)
         if (page.isUsed(no))
             names << QLatin1String(orba::kFields[no - 1].name);
-    QString text;
     //% "Версия %1, набор полей (%2): %3"
-    text += qtTrId("tmio_023").arg(page.version()).arg(names.size()).arg(names.join(QStringLiteral(", ")));
+    QString text
+        = qtTrId("tmio_023").arg(page.version()).arg(names.size()).arg(names.join(QStringLiteral(", ")));
     //% "Тело записи, %1 байт:"
-    text += QStringLiteral("\n\n") + qtTrId("tmio_024").arg(m_rawShown.size()) + QLatin1Char('\n');
-    for (int at = 0; at < m_rawShown.size(); at += 16) {
-        text += QStringLiteral("%1  ").arg(at, 4, 16, QLatin1Char('0'));
-        text += QString::fromLatin1(m_rawShown.mid(at, 16).toHex(' ')) + QLatin1Char('\n');
-    }
-    m_raw->setPlainText(text);
+    text += QLatin1Char('\n') + qtTrId("tmio_024").arg(page.body().size());
+    if (text != m_rawFields->text())
+        m_rawFields->setText(text);
+    m_rawModel->setBytes(page.body());
 }
 
-void ZRK_Form_TMI_Orba3::setPage(const OrbaPage& page)
+QString ZRK_Form_TMI_Orba3::rawText() const
 {
-    m_changed = 0;
-    for (Row& row : m_rows)
-        updateRow(row, page);
-    updateTyres(page);
-    updateRaw(page);
+    QString text = m_rawFields->text() + QLatin1Char('\n');
+    const QByteArray& body = m_rawModel->bytes();
+    for (int at = 0; at < body.size(); at += 16)
+        text += QStringLiteral("%1  ").arg(at, 4, 16, QLatin1Char('0'))
+            + QString::fromLatin1(body.mid(at, 16).toHex(' ')) + QLatin1Char('\n');
+    return text;
 }
 
-QString ZRK_Form_TMI_Orba3::shownText(int no, int sub) const
+void ZRK_Form_TMI_Orba3::setPage(std::shared_ptr<const OrbaPage> page)
+{
+    m_page = std::move(page);
+    m_tabStale.fill(bool(m_page));
+    m_changed = 0;
+    refreshTab(ui->Tabs->currentIndex());
+}
+
+void ZRK_Form_TMI_Orba3::refreshTab(int tab)
+{
+    if (tab < 0 || tab >= m_tabStale.size() || !m_tabStale[tab])
+        return;
+    m_tabStale[tab] = false;
+    const OrbaPage& page = *m_page;
+    const QWidget* widget = ui->Tabs->widget(tab);
+    if (widget == m_tyres) {
+        updateTyres(page);
+    } else if (widget == m_raw) {
+        updateRaw(page);
+    } else {
+        // A tab's rows are consecutive, in the order the tabs were built.
+        auto row = std::find_if(m_rows.begin(), m_rows.end(), [tab](const Row& r) { return r.tab == tab; });
+        for (; row != m_rows.end() && row->tab == tab; ++row)
+            updateRow(*row, page);
+    }
+}
+
+QString ZRK_Form_TMI_Orba3::shownText(int no, int sub)
 {
     if (no < 1 || no > orba::kFieldCount || m_fieldRow[no] < 0)
         return QString();
+    refreshTab(m_rows[m_fieldRow[no]].tab);
     for (int i = m_fieldRow[no]; i < m_rows.size() && m_rows[i].field == no; ++i)
         if (m_rows[i].sub == sub)
             return m_rows[i].text;
     return QString();
 }
 
-bool ZRK_Form_TMI_Orba3::isRowHidden(int no) const
+bool ZRK_Form_TMI_Orba3::isRowHidden(int no)
 {
     if (no < 1 || no > orba::kFieldCount || m_fieldRow[no] < 0)
         return true;
+    refreshTab(m_rows[m_fieldRow[no]].tab);
     return m_rows[m_fieldRow[no]].item->isHidden();
 }
 

@@ -8,7 +8,9 @@
 
 class OrbaPage;
 class QTableWidget;
-class QPlainTextEdit;
+class QAction;
+class QLabel;
+class QTableView;
 class QTreeWidget;
 class QTreeWidgetItem;
 namespace Ui {
@@ -16,8 +18,10 @@ class ZRK_Designer_Form_TMI_Orba3;
 }
 
 // The record form of versions 1 to 3: tabs as a technician reads a record, their rows made from
-// the field table once, and each record only changing the texts that differ. A version-1 or
-// version-2 record leaves the rows of the fields its version lacks hidden.
+// the field table once, and each record only changing the texts that differ. Only the open tab
+// follows each record; the others catch up with the last record when they are opened, so a live
+// stream of records costs one tab's rows. A version-1 or version-2 record leaves the rows of the
+// fields its version lacks hidden.
 class ZRK_Form_TMI_Orba3 : public QWidget
 {
     Q_OBJECT
@@ -34,16 +38,19 @@ public:
     // Absent fields: hidden, or shown as "n/a" in grey.
     void setHideAbsent(bool hide);
     bool hideAbsent() const { return m_hideAbsent; }
-    void setPage(const OrbaPage& page);
+    // The form keeps the page until the next one, for the tabs not yet brought up to date.
+    void setPage(std::shared_ptr<const OrbaPage> page);
     void translateForm();
 
-    // The value text the form shows for field no (sub < 0) or for sub-value sub of it; for tests
-    // and the production check.
-    QString shownText(int no, int sub = -1) const;
-    bool isRowHidden(int no) const;
+    // The value text the form shows for field no (sub < 0) or for sub-value sub of it, its tab
+    // brought up to date first; for tests and the production check.
+    QString shownText(int no, int sub = -1);
+    bool isRowHidden(int no);
     int tabCount() const;
-    // How many row texts the last record changed.
+    // How many row texts the last record changed on the open tab.
     int lastChangedCount() const { return m_changed; }
+    // The raw tab as text: the field set, then the body as hex lines; what its copy action copies.
+    QString rawText() const;
 
 private:
     enum class Kind
@@ -58,6 +65,7 @@ private:
     struct Row
     {
         QTreeWidgetItem* item;
+        int tab;
         int field;
         int sub; // -1 for the field itself
         Kind kind;
@@ -66,6 +74,8 @@ private:
     };
     void buildTabs();
     void addFieldRows(QTreeWidget* tree, int no);
+    // Brings tab up to date with the kept page, if it is not already.
+    void refreshTab(int tab);
     void updateRow(Row& row, const OrbaPage& page);
     void updateTyres(const OrbaPage& page);
     void updateRaw(const OrbaPage& page);
@@ -77,10 +87,16 @@ private:
     QTableWidget* m_tyres = nullptr;
     QVector<QString> m_tyreTexts;
     QVector<int> m_tyreState;
-    QPlainTextEdit* m_raw = nullptr;
-    QByteArray m_rawShown;
+    class RawBytesModel;
+    QWidget* m_raw = nullptr;
+    QLabel* m_rawFields = nullptr;
+    QTableView* m_rawBytes = nullptr;
+    RawBytesModel* m_rawModel = nullptr;
+    QAction* m_rawCopy = nullptr;
     int m_rawVersion = -1;
     QVector<int> m_tabTitleIds;
+    std::shared_ptr<const OrbaPage> m_page;
+    QVector<bool> m_tabStale; // per tab: the kept page is not shown on it yet
     EventText m_eventText;
     DiagnosticText m_diagnosticText;
     bool m_hideAbsent = false;

@@ -199,7 +199,7 @@ bool ZRK_Widget_Tmi_Page::showRecordAtTime(const QDateTime& moment)
 // Current records in the record form, extended ones in theirs; anything else as its bytes.
 void ZRK_Widget_Tmi_Page::fillRecordView(const QByteArray& record)
 {
-    const orba::Decoded d = orba::decodeRecord(record);
+    orba::Decoded d = orba::decodeRecord(record);
     const bool extended = d.form == orba::Form::Extended;
     const bool current = d.page && !extended;
     if (current) {
@@ -208,7 +208,7 @@ void ZRK_Widget_Tmi_Page::fillRecordView(const QByteArray& record)
             m_form->translateForm();
             m_ui->layout_Main->addWidget(m_form, 1);
         }
-        m_form->setPage(*d.page);
+        m_form->setPage(std::move(d.page));
     } else if (extended) {
         if (!m_formExt) {
             m_formExt = new ZRK_Form_TMI_Ext(this);

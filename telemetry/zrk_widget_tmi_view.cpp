@@ -3,23 +3,23 @@
 #include "config_ui/zrk_widget_config.h"
 #include "device/zrk_device_k7140.h"
 #include "map/zrk_dialog_map_track.h"
+#include "telemetry/orba_field_labels.h"
 #include "telemetry/orba_page.h"
-#include "telemetry/tmipage_orba3.h"
 #include "telemetry/tmi_file.h"
+#include "telemetry/tmipage_orba3.h"
 #include "telemetry/zrk_form_tmi_ext.h"
 #include "telemetry/zrk_form_tmi_orba3.h"
 #include "telemetry/zrk_form_tmi_production.h"
 #include "telemetry/zrk_tmi_chart.h"
-#include "telemetry/orba_field_labels.h"
 #include "telemetry/zrk_tmi_session.h"
 #include "telemetry/zrk_widget_tmi_file.h"
 #include "ui_zrk_widget_tmi_view.h"
 
 #include <QEvent>
-#include <QShowEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QShowEvent>
 #include <QTextCodec>
 
 namespace {
@@ -203,6 +203,11 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
 {
     ui->setupUi(this);
     setObjectName(QStringLiteral("ZRK_Widget_Tmi_View"));
+    // The freshness line reads as a status line yet can be selected and copied; being an edit
+    // rather than a label, its new text every record does not lay the window out again.
+    QPalette status = ui->Freshness->palette();
+    status.setColor(QPalette::Base, Qt::transparent);
+    ui->Freshness->setPalette(status);
     m_connected = lpGlobalDevice && lpGlobalDevice->isDeviceConnected();
 
     m_session = new ZRK_Tmi_Session(500, this);
@@ -223,7 +228,8 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
     connect(ui->GetPrev, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_GetPrev);
     connect(ui->GetNext, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_GetNext);
     connect(ui->Show, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_Show);
-    connect(ui->GetAutoTmi, &QCheckBox::stateChanged, this, &ZRK_Widget_Tmi_View::slot_stateChanged_GetAutoTmi);
+    connect(
+        ui->GetAutoTmi, &QCheckBox::stateChanged, this, &ZRK_Widget_Tmi_View::slot_stateChanged_GetAutoTmi);
     connect(ui->Period, &QSlider::valueChanged, this, &ZRK_Widget_Tmi_View::slot_valueChanged_Period);
     connect(ui->SessionList, &QListView::clicked, this, &ZRK_Widget_Tmi_View::slot_activated_SessionList);
     connect(ui->SessionList, &QListView::activated, this, &ZRK_Widget_Tmi_View::slot_activated_SessionList);
@@ -233,7 +239,8 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
     connect(ui->ChartAdd, &QPushButton::clicked, this,
         [this] { m_chart->addField(ui->ChartField->currentData().toInt(), *m_session); });
     connect(ui->ChartClear, &QPushButton::clicked, m_chart, &ZRK_Tmi_Chart::clearFields);
-    connect(m_chart, &ZRK_Tmi_Chart::changed, this, [this] { ui->ChartMinMax->setText(m_chart->minMaxText()); });
+    connect(
+        m_chart, &ZRK_Tmi_Chart::changed, this, [this] { ui->ChartMinMax->setText(m_chart->minMaxText()); });
 
     connect(ui->OutOn, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_OutOn);
     connect(ui->OutOff, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_OutOff);
@@ -247,10 +254,13 @@ ZRK_Widget_Tmi_View::ZRK_Widget_Tmi_View(QWidget* parent)
     connect(ui->ReadRfid, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_ReadRfid);
     connect(ui->GetTouch, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_GetTouch);
     connect(ui->GetRfid, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_GetRfid);
-    connect(ui->SendFlsCommand, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_SendFlsCommand);
-    connect(ui->FirmwareUpdate, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_FirmwareUpdate);
+    connect(
+        ui->SendFlsCommand, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_SendFlsCommand);
+    connect(
+        ui->FirmwareUpdate, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_FirmwareUpdate);
     connect(ui->TahoQuery, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_TahoQuery);
-    connect(ui->TahoFileRequest, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_TahoFileRequest);
+    connect(
+        ui->TahoFileRequest, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_TahoFileRequest);
     connect(ui->TahoFileRead, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_TahoFileRead);
     connect(ui->FlsData, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_FlsData);
     connect(ui->FlsDataFile, &QPushButton::clicked, this, &ZRK_Widget_Tmi_View::slot_pressed_FlsDataFile);
@@ -352,7 +362,8 @@ void ZRK_Widget_Tmi_View::changeEvent(QEvent* event)
 
 void ZRK_Widget_Tmi_View::showForm(const QString& text, const szConfigParam& configParam)
 {
-    const QString param = QString::fromLocal8Bit(configParam.text, int(qstrnlen(configParam.text, sizeof configParam.text)));
+    const QString param
+        = QString::fromLocal8Bit(configParam.text, int(qstrnlen(configParam.text, sizeof configParam.text)));
     if (!param.isEmpty())
         //% "Параметры конфигурации: %1"
         logLine(qtTrId("tmiw_083").arg(param));
@@ -449,7 +460,7 @@ bool ZRK_Widget_Tmi_View::setTmiPage(const QByteArray& buf, bool showUnknown, Or
         showPage(ui->UnknownPage);
         return false;
     }
-    const std::unique_ptr<OrbaPage> page = orba::buildPage(form, data, buf.size());
+    const std::shared_ptr<const OrbaPage> page = orba::buildPage(form, data, buf.size());
     if (!page)
         return false;
     const QDateTime now = QDateTime::currentDateTime();
@@ -458,12 +469,13 @@ bool ZRK_Widget_Tmi_View::setTmiPage(const QByteArray& buf, bool showUnknown, Or
     m_chart->appendRecord(*page, now, full);
     m_shownReceived = now;
     m_shownOrigin = origin;
-    showDecoded(*page, form);
+    showDecoded(page, form);
     return true;
 }
 
-void ZRK_Widget_Tmi_View::showDecoded(const OrbaPage& page, orba::Form form)
+void ZRK_Widget_Tmi_View::showDecoded(const std::shared_ptr<const OrbaPage>& shared, orba::Form form)
 {
+    const OrbaPage& page = *shared;
     if (form == orba::Form::Extended) {
         if (!m_formExt) {
             m_formExt = new ZRK_Form_TMI_Ext;
@@ -494,7 +506,7 @@ void ZRK_Widget_Tmi_View::showDecoded(const OrbaPage& page, orba::Form form)
             m_formOrba3->setHideAbsent(ui->HideAbsent->isChecked());
             ui->PageArea->addWidget(m_formOrba3);
         }
-        m_formOrba3->setPage(page);
+        m_formOrba3->setPage(shared);
         showPage(m_formOrba3);
     }
     const unsigned char* rec = page.recordBytes();
@@ -531,12 +543,12 @@ void ZRK_Widget_Tmi_View::showRecordAt(int row)
     const quint32 mode = lpGlobalDevice ? lpGlobalDevice->getConfiguratorMode() : 0;
     const auto* data = reinterpret_cast<const unsigned char*>(e.bytes.constData());
     const orba::Form form = orba::chooseForm(data, e.bytes.size(), int(mode), false);
-    const std::unique_ptr<OrbaPage> page = orba::buildPage(form, data, e.bytes.size());
+    const std::shared_ptr<const OrbaPage> page = orba::buildPage(form, data, e.bytes.size());
     if (!page)
         return;
     m_shownReceived = e.received;
     m_shownOrigin = Origin(e.origin);
-    showDecoded(*page, form);
+    showDecoded(page, form);
 }
 
 void ZRK_Widget_Tmi_View::updateFreshness()
@@ -575,7 +587,8 @@ void ZRK_Widget_Tmi_View::updateFreshness()
 
 QString ZRK_Widget_Tmi_View::freshnessText() const
 {
-    return ui->Freshness->text() + (ui->HistoryMark->isHidden() ? QString() : QLatin1Char(' ') + ui->HistoryMark->text());
+    return ui->Freshness->text()
+        + (ui->HistoryMark->isHidden() ? QString() : QLatin1Char(' ') + ui->HistoryMark->text());
 }
 
 // ---- requests -------------------------------------------------------------------------------
@@ -781,8 +794,8 @@ void ZRK_Widget_Tmi_View::slot_toggled_HideAbsent(bool hide)
 bool ZRK_Widget_Tmi_View::confirm(const QString& question)
 {
     //% "Команда терминалу"
-    return QMessageBox::question(this, qtTrId("tmiw_091"), question, QMessageBox::Yes | QMessageBox::No,
-               QMessageBox::No)
+    return QMessageBox::question(
+               this, qtTrId("tmiw_091"), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
         == QMessageBox::Yes;
 }
 
@@ -953,7 +966,10 @@ void ZRK_Widget_Tmi_View::logBytes(const QString& what, const QByteArray& data)
     for (QChar& c : text)
         if (c.unicode() < 0x20)
             c = QLatin1Char('.');
-    logLine(QStringLiteral("%1 (%2): %3\n    %4").arg(what).arg(data.size()).arg(text, QString::fromLatin1(data.toHex(' '))));
+    logLine(QStringLiteral("%1 (%2): %3\n    %4")
+                .arg(what)
+                .arg(data.size())
+                .arg(text, QString::fromLatin1(data.toHex(' '))));
 }
 
 QString ZRK_Widget_Tmi_View::logText() const
@@ -1018,7 +1034,9 @@ void ZRK_Widget_Tmi_View::receiveCurrentDispValue(quint32 value)
 void ZRK_Widget_Tmi_View::setRFID(quint64 code, quint8 value)
 {
     //% "RFID-карта: %1 (%2)"
-    logLine(qtTrId("tmiw_106").arg(QStringLiteral("%1").arg(code, 16, 16, QLatin1Char('0')).toUpper()).arg(value));
+    logLine(qtTrId("tmiw_106")
+                .arg(QStringLiteral("%1").arg(code, 16, 16, QLatin1Char('0')).toUpper())
+                .arg(value));
 }
 
 void ZRK_Widget_Tmi_View::setReceiveTahoQuest(QByteArray* data)

@@ -164,7 +164,7 @@ private:
     void setTerminalControlsEnabled();
     void setNavigationEnabled(bool enabled);
     void showPage(QWidget* page);
-    void showDecoded(const OrbaPage& page, orba::Form form);
+    void showDecoded(const std::shared_ptr<const OrbaPage>& page, orba::Form form);
     void showRecordAt(int row);
     void updateFreshness();
     void updatePeriodLabel();

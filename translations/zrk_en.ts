@@ -3701,5 +3701,9 @@ The old file is unchanged.</translation>
         <source>Ни в одной записи сеанса нет координат.</source>
         <translation>None of the session&apos;s records has coordinates.</translation>
     </message>
+    <message id="tmio_055">
+        <source>Копировать</source>
+        <translation>Copy</translation>
+    </message>
 </context>
 </TS>

@@ -3701,5 +3701,9 @@
         <source>Ни в одной записи сеанса нет координат.</source>
         <translation>Ни в одной записи сеанса нет координат.</translation>
     </message>
+    <message id="tmio_055">
+        <source>Копировать</source>
+        <translation>Копировать</translation>
+    </message>
 </context>
 </TS>

@@ -74,7 +74,7 @@ private slots:
         auto* values = page.findChild<QTableWidget*>(QStringLiteral("Values"));
         QCOMPARE(page.currentIndex(), 0);
         QVERIFY(!prev->isEnabled() && next->isEnabled());
-        const auto* form = page.findChild<ZRK_Form_TMI_Orba3*>();
+        auto* form = page.findChild<ZRK_Form_TMI_Orba3*>();
         QVERIFY(form && form->isVisibleTo(&page) && !values->isVisibleTo(&page));
         QCOMPARE(form->shownText(orba::F_NumPage), QStringLiteral("1"));
         QTest::mouseClick(page.findChild<QPushButton*>(QStringLiteral("Last")), Qt::LeftButton);
