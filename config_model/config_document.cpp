@@ -208,4 +208,22 @@ QStringList topNodeNames(const CXmlTagV2* root)
     return names;
 }
 
+DeviceTitles deviceTitles(const CXmlTagV2* root)
+{
+    const auto names = [root](const char* branch, const char* item, int count) {
+        QStringList list;
+        for (int n = 1; n <= count; ++n)
+            list << keyValue(
+                childAt(
+                    root, QStringLiteral("%1/%2%3").arg(QLatin1String(branch), QLatin1String(item)).arg(n)),
+                QStringLiteral("name"));
+        return list;
+    };
+    DeviceTitles titles;
+    titles.inputs = names("INPUTS", "IN", DeviceTitles::kInputs);
+    titles.outputs = names("OUTPUTS", "OUT", DeviceTitles::kOutputs);
+    titles.temperatures = names("TEMPSENS", "TEMP", DeviceTitles::kTemperatures);
+    return titles;
+}
+
 } // namespace zrk

@@ -50,4 +50,13 @@ void appendKept(CXmlTagV2* root, const CXmlTagV2* kept);
 // The names of the top-level branches of a document, in order, once each.
 QStringList topNodeNames(const CXmlTagV2* root);
 
+// The names given to the inputs, outputs and temperature sensors, by number from 1: the "name" key
+// of "INPUTS/IN<n>", "OUTPUTS/OUT<n>" and "TEMPSENS/TEMP<n>"; empty where there is none.
+struct DeviceTitles
+{
+    static constexpr int kInputs = 6, kOutputs = 4, kTemperatures = 4;
+    QStringList inputs, outputs, temperatures;
+};
+DeviceTitles deviceTitles(const CXmlTagV2* root);
+
 } // namespace zrk

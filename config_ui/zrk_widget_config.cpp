@@ -3,8 +3,8 @@
 #include "config_model/app_settings.h"
 #include "config_model/config_document.h"
 #include "config_model/orba_fieldset.h"
-#include "config_model/xml_workdata.h"
 #include "config_model/serialize.h"
+#include "config_model/xml_workdata.h"
 #include "config_ui/zrk_dialog_config_compare.h"
 #include "config_ui/zrk_form_config_ainf.h"
 #include "config_ui/zrk_widget_config_full.h"
@@ -317,15 +317,17 @@ QByteArray ZRK_Widget_Config::currentXml()
     return isFullEditorShown() ? m_full->renderXml() : m_light->renderDocument();
 }
 
-QStringList ZRK_Widget_Config::openUserParamTypes()
+bool ZRK_Widget_Config::openFileTitles(zrk::DeviceTitles* titles, QStringList* userParamTypes)
 {
     if (!isVisible())
-        return {};
+        return false;
     const zrk::ConfigLoadResult loaded = zrk::loadConfigBytes(currentXml());
     if (!loaded.doc)
-        return {};
+        return false;
+    *titles = zrk::deviceTitles(loaded.doc->root());
     CXMLWorkData root(loaded.doc.get(), "DEVICE");
-    return zrk::fieldset::userParamTypes(&root);
+    *userParamTypes = zrk::fieldset::userParamTypes(&root);
+    return true;
 }
 
 bool ZRK_Widget_Config::saveFile(const QString& path)

@@ -3,6 +3,7 @@
 #include "zrk/zrk_host_api.h"
 
 #include "config_model/config_diff.h"
+#include "config_model/config_document.h"
 
 #include <QByteArray>
 #include <QDialog>
@@ -98,9 +99,10 @@ public:
 
     // The configuration as the editor showing would save it.
     QByteArray currentXml();
-    // The user-parameter types (1-, 2-, 4-, 8-byte) of the configuration open in the window, for
-    // the header of a saved telemetry file; empty when no configuration is open.
-    QStringList openUserParamTypes();
+    // For the header of a saved telemetry file, from the configuration open in the window: the
+    // names of the inputs, outputs and temperature sensors and the user-parameter types (1-, 2-,
+    // 4-, 8-byte). False, with nothing set, when no configuration is open.
+    bool openFileTitles(zrk::DeviceTitles* titles, QStringList* userParamTypes);
     // Compares with what was last opened or saved now, without waiting for the pause after edits.
     void updateModified();
     bool isModified() const { return m_modified; }

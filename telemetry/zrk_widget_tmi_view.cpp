@@ -1095,11 +1095,16 @@ bool ZRK_Widget_Tmi_View::WriteTmiToFile(const QString& name, QString* error)
         ok = zrk::tmi::exportKml(name, records, &fault);
     } else {
         zrk::tmi::Header header = m_titles;
-        // The user-parameter types of the configuration open in the configuration window, if any.
-        if (ZRK_Widget_Config* config = lpGlobalDevice ? lpGlobalDevice->widgetConfig() : nullptr) {
-            const QStringList types = config->openUserParamTypes();
-            if (!types.isEmpty())
-                header.userParamTypes = types;
+        // The names and user-parameter types of the configuration open in the configuration
+        // window, if any.
+        zrk::DeviceTitles titles;
+        QStringList types;
+        ZRK_Widget_Config* config = lpGlobalDevice ? lpGlobalDevice->widgetConfig() : nullptr;
+        if (config && config->openFileTitles(&titles, &types)) {
+            header.inTitles = titles.inputs;
+            header.outTitles = titles.outputs;
+            header.tempTitles = titles.temperatures;
+            header.userParamTypes = types;
         }
         header.model = lpGlobalDevice ? lpGlobalDevice->getDeviceType() : QString();
         header.vendor = lpGlobalDevice ? lpGlobalDevice->getDeviceVendor() : QString();

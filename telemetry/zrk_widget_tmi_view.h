@@ -115,8 +115,8 @@ public:
     // Whole or not at all; error gets a Russian text naming the file.
     bool WriteTmiToFile(const QString& name, QString* error = nullptr);
     // Titles of inputs, outputs and temperature sensors and user-parameter types written into the
-    // head of saved files (the user-parameter types of a configuration open in the configuration
-    // window take precedence).
+    // head of saved files when no configuration is open in the configuration window (an open one
+    // gives them instead).
     void setFileTitles(const zrk::tmi::Header& titles);
     // The positions of this session's records, in order, as a track for the map.
     QVector<ZrkMapTrackPoint> sessionTrack() const;

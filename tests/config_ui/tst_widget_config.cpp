@@ -83,7 +83,7 @@ szConfigFile configFile(int mode, int source, const QString& path)
 }
 
 const QString kTerminalFile = QStringLiteral(ZRK_SOURCE_DIR "/host/data/terminal_config.xml");
-const QStringList kUnowned { "TRANSFER", "CAN", "INPUTS", "PHONES", "SYSTEM", "GUARD" };
+const QStringList kUnowned { "TRANSFER", "CAN", "INPUTS", "OUTPUTS", "TEMPSENS", "PHONES", "SYSTEM", "GUARD" };
 
 // One branch as the serializer writes it, to compare branches byte for byte.
 QByteArray renderBranch(const CXmlTagV2* root, const QString& name)

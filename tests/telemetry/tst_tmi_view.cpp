@@ -1,8 +1,8 @@
 // The telemetry view against a recording host: what each reply shows, what each action sends, and
 // what the connection state allows.
 #include "../common/test_support.h"
-#include "device/zrk_device_k7140.h"
 #include "config_model/orba_fieldset.h"
+#include "device/zrk_device_k7140.h"
 #include "map/zrk_widget_map.h"
 #include "orba_records.h"
 #include "telemetry/zrk_form_tmi_orba3.h"
@@ -14,6 +14,7 @@
 #include <QDateTimeEdit>
 #include <QDoubleSpinBox>
 #include <QPushButton>
+#include <QTextCodec>
 #include <QtTest>
 
 using orbatest::RecordBuilder;
@@ -160,7 +161,8 @@ private slots:
         QCOMPARE(view->session()->count(), 1);
         QCOMPARE(view->session()->at(0).bytes, rec);
         QCOMPARE(view->shownNumber(), number);
-        QCOMPARE(view->freshnessText().contains(qtTrId("tmiw_089")) || view->freshnessText().contains(qtTrId("tmiw_090")),
+        QCOMPARE(view->freshnessText().contains(qtTrId("tmiw_089"))
+                || view->freshnessText().contains(qtTrId("tmiw_090")),
             history);
     }
 
@@ -172,7 +174,8 @@ private slots:
         QTest::addColumn<quint32>("number");
         QByteArray v40 = record(3) + QByteArray(60, '\0');
         v40[1] = char(40);
-        QTest::newRow("version 40") << v40 << false << QStringLiteral("\n0xB0 0x28 / %1").arg(v40.size()) << 0u;
+        QTest::newRow("version 40") << v40 << false << QStringLiteral("\n0xB0 0x28 / %1").arg(v40.size())
+                                    << 0u;
         QByteArray kind7 = QByteArray(120, '\0');
         kind7[0] = char(0x07);
         kind7[1] = char(0xFF);
@@ -353,15 +356,34 @@ private slots:
         QVERIFY(!view->WriteTmiToFile(home.filePath(QStringLiteral("no/such/dir/x.tmi")), &error));
         QVERIFY(!error.isEmpty());
 
-        // With a configuration open, the header takes its user-parameter types.
+        // With a configuration open, the header takes its names and user-parameter types, the
+        // names of its own branches kept through the editor.
         QVERIFY(back.header.userParamTypes.join(QString()).isEmpty());
-        szConfigFile none {};
-        none.mode = 1;
-        dev->ZRK_ReceiveMessage(dev, ZRK_MSG_OPEN_CONFIGURATION, addr(none), 0);
+        const QString configPath = home.filePath(QStringLiteral("named.xml"));
+        QFile config(configPath);
+        QVERIFY(config.open(QIODevice::WriteOnly));
+        config.write(
+            QTextCodec::codecForName("windows-1251")
+                ->fromUnicode(QStringLiteral("<?xml version=\"1.0\" encoding=\"windows-1251\"?>\r\n<DEVICE>"
+                                             "<INPUTS><IN2 name=\"Дверь\"/><IN9 name=\"лишний\"/></INPUTS>"
+                                             "<OUTPUTS><OUT4 name=\"Сирена &amp; свет\"/></OUTPUTS>"
+                                             "<TEMPSENS><TEMP1 name=\"Кузов\"/></TEMPSENS>"
+                                             "<USERPARAM><PARAM1 type=\"12\"/></USERPARAM></DEVICE>\r\n")));
+        config.close();
+        szConfigFile named {};
+        named.mode = 1;
+        named.source = 1;
+        qstrncpy(named.path, QFile::encodeName(configPath).constData(), sizeof named.path);
+        dev->ZRK_ReceiveMessage(dev, ZRK_MSG_OPEN_CONFIGURATION, addr(named), 0);
         QVERIFY(view->WriteTmiToFile(path, &error));
+        const zrk::tmi::Header h = zrk::tmi::read(path).header;
+        QCOMPARE(h.inTitles, QStringList({ {}, QStringLiteral("Дверь"), {}, {}, {}, {} }));
+        QCOMPARE(h.outTitles, QStringList({ {}, {}, {}, QStringLiteral("Сирена & свет") }));
+        QCOMPARE(h.tempTitles, QStringList({ QStringLiteral("Кузов"), {}, {}, {} }));
         const zrk::fieldset::UserParams defaults = zrk::fieldset::defaultUserParams();
-        QCOMPARE(zrk::tmi::read(path).header.userParamTypes,
-            QStringList({ defaults.types[0], defaults.types[1], defaults.types[2], defaults.types[3] }));
+        QCOMPARE(h.userParamTypes,
+            QStringList({ QStringLiteral("12").leftJustified(defaults.types[0].size(), QLatin1Char('0')),
+                defaults.types[1], defaults.types[2], defaults.types[3] }));
     }
 
     // "On the map" takes the session's records that have a position, in order.
