@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QMetaMethod>
 #include <QSlider>
+#include <QTabWidget>
 #include <QTimer>
 
 #include <cstdio>
@@ -101,8 +102,16 @@ void ZrkDemoSession::runTelemetrySteps()
     view->raise();
     grab(view, QStringLiteral("tmi_view"));
 
-    if (click(view, "GetCurrent"))
+    if (click(view, "GetCurrent")) {
         grab(view, QStringLiteral("tmi_current"));
+        // The record's raw tab (the last of the record form), then back to the first.
+        QWidget* form = view->findChild<QWidget*>(QStringLiteral("ZRK_Form_TMI_Orba3"));
+        if (auto* tabs = form ? form->findChild<QTabWidget*>(QStringLiteral("Tabs")) : nullptr) {
+            tabs->setCurrentIndex(tabs->count() - 1);
+            grab(view, QStringLiteral("tmi_current_raw"));
+            tabs->setCurrentIndex(0);
+        }
+    }
     if (click(view, "GetPrev"))
         grab(view, QStringLiteral("tmi_previous"));
     if (click(view, "GetNext"))
