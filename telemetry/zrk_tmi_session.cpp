@@ -62,7 +62,7 @@ QVariant ZRK_Tmi_Session::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= m_entries.size())
         return {};
     const Entry& e = m_entries.at(index.row());
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole) // the list may be narrower than a label
         return e.label;
     if (role == Qt::ForegroundRole && e.origin != 0)
         return QBrush(QColor(0x80, 0x50, 0x00));
