@@ -4,6 +4,9 @@
 
 #include <QtGlobal>
 
+#include <array>
+#include <iterator>
+
 namespace orba {
 namespace {
 
@@ -523,7 +526,236 @@ const char* const kLabelIds[] = {
 
 static_assert(sizeof(kLabelIds) / sizeof(kLabelIds[0]) == kFieldCount, "one label per record field");
 
+// Sub-value names: one row names a run of sub-values, every step-th id from `from` to `to`; the
+// n-th of the run shows `first` + n in place of %1 (no number when first is -1), or `arg` when
+// it is given. The decoder's identifiers stay in the tooltips; these are what a technician reads.
+struct SubLabelRow
+{
+    int from, to, step;
+    const char* id;
+    int first;
+    const char* arg;
+};
+
+constexpr int kNone = -1;
+
+const SubLabelRow kSubLabels[] = {
+    //% "Тревожное сообщение"
+    { S_AlarmMessage, S_AlarmMessage, 1, QT_TRID_NOOP("orbs_001"), kNone, nullptr },
+    //% "Тревога"
+    { S_Alarm, S_Alarm, 1, QT_TRID_NOOP("orbs_002"), kNone, nullptr },
+    //% "Режим охраны"
+    { S_Guard, S_Guard, 1, QT_TRID_NOOP("orbs_003"), kNone, nullptr },
+    //% "Эвакуация"
+    { S_Evacuation, S_Evacuation, 1, QT_TRID_NOOP("orbs_004"), kNone, nullptr },
+    //% "Энергосбережение"
+    { S_EnergySaving, S_EnergySaving, 1, QT_TRID_NOOP("orbs_005"), kNone, nullptr },
+    //% "Калибровка акселерометра"
+    { S_AccelCalibr, S_AccelCalibr, 1, QT_TRID_NOOP("orbs_006"), kNone, nullptr },
+    //% "Выход %1"
+    { S_StateO1, S_StateO8, 1, QT_TRID_NOOP("orbs_007"), 1, nullptr },
+    //% "Расширенная навигация"
+    { S_NaviMore, S_NaviMore, 1, QT_TRID_NOOP("orbs_008"), kNone, nullptr },
+    //% "Номер SIM-карты"
+    { S_NumSIM, S_NumSIM, 1, QT_TRID_NOOP("orbs_009"), kNone, nullptr },
+    //% "Координаты зафиксированы"
+    { S_CoordFixed, S_CoordFixed, 1, QT_TRID_NOOP("orbs_010"), kNone, nullptr },
+    //% "Акселерометр"
+    { S_State_Accel, S_State_Accel, 1, QT_TRID_NOOP("orbs_011"), kNone, nullptr },
+    //% "Модуль %1"
+    { S_State_Bluetooth, S_State_Bluetooth, 1, QT_TRID_NOOP("orbs_012"), kNone, "Bluetooth" },
+    { S_State_WiFi, S_State_WiFi, 1, QT_TRID_NOOP("orbs_012"), kNone, "Wi-Fi" },
+    { S_StateO9, S_StateO16, 1, QT_TRID_NOOP("orbs_007"), 9, nullptr },
+    //% "Спутники %1"
+    { S_NaviInfoGlonass, S_NaviInfoGlonass, 1, QT_TRID_NOOP("orbs_013"), kNone, "GLONASS" },
+    { S_NaviInfoGPS, S_NaviInfoGPS, 1, QT_TRID_NOOP("orbs_013"), kNone, "GPS" },
+    { S_NaviInfoGalileo, S_NaviInfoGalileo, 1, QT_TRID_NOOP("orbs_013"), kNone, "Galileo" },
+    { S_NaviInfoCompass, S_NaviInfoCompass, 1, QT_TRID_NOOP("orbs_013"), kNone, "Compass" },
+    { S_NaviInfoBeidou, S_NaviInfoBeidou, 1, QT_TRID_NOOP("orbs_013"), kNone, "BeiDou" },
+    { S_NaviInfoDoris, S_NaviInfoDoris, 1, QT_TRID_NOOP("orbs_013"), kNone, "DORIS" },
+    { S_NaviInfoIrnss, S_NaviInfoIrnss, 1, QT_TRID_NOOP("orbs_013"), kNone, "IRNSS" },
+    { S_NaviInfoQzss, S_NaviInfoQzss, 1, QT_TRID_NOOP("orbs_013"), kNone, "QZSS" },
+    //% "Снижение точности в плане (HDOP)"
+    { S_NaviHDop, S_NaviHDop, 1, QT_TRID_NOOP("orbs_014"), kNone, nullptr },
+    //% "Снижение точности по положению (PDOP)"
+    { S_NaviPDop, S_NaviPDop, 1, QT_TRID_NOOP("orbs_015"), kNone, nullptr },
+    //% "Режим навигации"
+    { S_NaviStateMode, S_NaviStateMode, 1, QT_TRID_NOOP("orbs_016"), kNone, nullptr },
+    //% "Число спутников"
+    { S_NaviStateSatelCount, S_NaviStateSatelCount, 1, QT_TRID_NOOP("orbs_017"), kNone, nullptr },
+    //% "Широта приёмника"
+    { S_NaviLatitude, S_NaviLatitude, 1, QT_TRID_NOOP("orbs_018"), kNone, nullptr },
+    //% "Долгота приёмника"
+    { S_NaviLongitude, S_NaviLongitude, 1, QT_TRID_NOOP("orbs_019"), kNone, nullptr },
+    //% "Сота %1: идентификатор (CID)"
+    { S_LbsCellID, S_LbsCellID_2, 5, QT_TRID_NOOP("orbs_020"), 1, nullptr },
+    //% "Сота %1: код зоны (LAC)"
+    { S_LbsLac, S_LbsLac_2, 5, QT_TRID_NOOP("orbs_021"), 1, nullptr },
+    //% "Сота %1: код страны (MCC)"
+    { S_LbsMcc, S_LbsMcc_2, 5, QT_TRID_NOOP("orbs_022"), 1, nullptr },
+    //% "Сота %1: код сети (MNC)"
+    { S_LbsMnc, S_LbsMnc_2, 5, QT_TRID_NOOP("orbs_023"), 1, nullptr },
+    //% "Сота %1: уровень сигнала"
+    { S_LbsLevel, S_LbsLevel_2, 5, QT_TRID_NOOP("orbs_024"), 1, nullptr },
+    //% "Время измерения"
+    { S_LbsTime, S_LbsTime, 1, QT_TRID_NOOP("orbs_025"), kNone, nullptr },
+    //% "Уровень топлива"
+    { S_LevelRS485_7, S_LevelRS485_16, 2, QT_TRID_NOOP("orbs_026"), kNone, nullptr },
+    //% "Температура"
+    { S_TempRS485_7, S_TempRS485_16, 2, QT_TRID_NOOP("orbs_027"), kNone, nullptr },
+    //% "Шина %1: номер датчика"
+    { S_TiresNum1, S_TiresNum30, 3, QT_TRID_NOOP("orbs_028"), 1, nullptr },
+    //% "Шина %1: давление"
+    { S_TiresPres1, S_TiresPres30, 3, QT_TRID_NOOP("orbs_029"), 1, nullptr },
+    //% "Шина %1: температура"
+    { S_TiresTemp1, S_TiresTemp30, 3, QT_TRID_NOOP("orbs_030"), 1, nullptr },
+    //% "Ускорение по оси %1"
+    { S_AccelLinearX, S_AccelLinearX, 1, QT_TRID_NOOP("orbs_031"), kNone, "X" },
+    { S_AccelLinearY, S_AccelLinearY, 1, QT_TRID_NOOP("orbs_031"), kNone, "Y" },
+    { S_AccelLinearZ, S_AccelLinearZ, 1, QT_TRID_NOOP("orbs_031"), kNone, "Z" },
+    //% "Угловое ускорение, плюс"
+    { S_AccelAngularPlus, S_AccelAngularPlus, 1, QT_TRID_NOOP("orbs_032"), kNone, nullptr },
+    //% "Угловое ускорение, минус"
+    { S_AccelAngularMinus, S_AccelAngularMinus, 1, QT_TRID_NOOP("orbs_033"), kNone, nullptr },
+    //% "Угол"
+    { S_AccelAngularCorner, S_AccelAngularCorner, 1, QT_TRID_NOOP("orbs_034"), kNone, nullptr },
+    //% "Канал %1"
+    { S_Passager_1, S_Passager_16, 1, QT_TRID_NOOP("orbs_035"), 1, nullptr },
+    //% "Тангенциальное ускорение"
+    { S_VAccelLineTangential, S_VAccelLineTangential, 1, QT_TRID_NOOP("orbs_036"), kNone, nullptr },
+    //% "Крен"
+    { S_VAccelLineRoll, S_VAccelLineRoll, 1, QT_TRID_NOOP("orbs_037"), kNone, nullptr },
+    { S_VAccelAxelsX, S_VAccelAxelsX, 1, QT_TRID_NOOP("orbs_031"), kNone, "X" },
+    { S_VAccelAxelsY, S_VAccelAxelsY, 1, QT_TRID_NOOP("orbs_031"), kNone, "Y" },
+    { S_VAccelAxelsZ, S_VAccelAxelsZ, 1, QT_TRID_NOOP("orbs_031"), kNone, "Z" },
+    //% "Байт %1"
+    { S_EcoDrivingAccel1, S_EcoDrivingAccel3, 1, QT_TRID_NOOP("orbs_038"), 1, nullptr },
+    //% "Разгон, степень %1"
+    { S_EcoDriving_Accel_1, S_EcoDriving_Accel_4, 1, QT_TRID_NOOP("orbs_039"), 1, nullptr },
+    //% "Торможение, степень %1"
+    { S_EcoDriving_Braking_1, S_EcoDriving_Braking_4, 1, QT_TRID_NOOP("orbs_040"), 1, nullptr },
+    //% "Поворот влево, степень %1"
+    { S_EcoDriving_Left_1, S_EcoDriving_Left_4, 1, QT_TRID_NOOP("orbs_041"), 1, nullptr },
+    //% "Поворот вправо, степень %1"
+    { S_EcoDriving_Right_1, S_EcoDriving_Right_4, 1, QT_TRID_NOOP("orbs_042"), 1, nullptr },
+    //% "Вертикальное ускорение, степень %1"
+    { S_EcoDriving_Vertical_1, S_EcoDriving_Vertical_4, 1, QT_TRID_NOOP("orbs_043"), 1, nullptr },
+    //% "Число ошибок"
+    { S_RefrErrorCount, S_RefrErrorCount, 1, QT_TRID_NOOP("orbs_044"), kNone, nullptr },
+    //% "Код ошибки %1"
+    { S_RefrErrorCode1, S_RefrErrorCode1, 1, QT_TRID_NOOP("orbs_045"), 1, nullptr },
+    { S_RefrErrorCode2, S_RefrErrorCode3, 1, QT_TRID_NOOP("orbs_045"), 2, nullptr },
+    { S_RefrErrorCode4, S_RefrErrorCode6, 1, QT_TRID_NOOP("orbs_045"), 4, nullptr },
+    //% "Режим двигателя"
+    { S_RefrEngineMode, S_RefrEngineMode, 1, QT_TRID_NOOP("orbs_046"), kNone, nullptr },
+    //% "Обороты двигателя"
+    { S_RefrEngineTurns, S_RefrEngineTurns, 1, QT_TRID_NOOP("orbs_047"), kNone, nullptr },
+    //% "Лампа неисправности"
+    { S_CAN3FailureLamp, S_CAN3FailureLamp, 1, QT_TRID_NOOP("orbs_048"), kNone, nullptr },
+    //% "Код неисправности"
+    { S_CAN3FailureCode, S_CAN3FailureCode, 1, QT_TRID_NOOP("orbs_049"), kNone, nullptr },
+};
+
+// The row naming each sub-value and its place in the row's run; -1 where no row names it.
+struct SubLabelRef
+{
+    int row = -1, index = 0;
+};
+
+const std::array<SubLabelRef, kSubCount>& subLabelRefs()
+{
+    static const std::array<SubLabelRef, kSubCount> refs = [] {
+        std::array<SubLabelRef, kSubCount> r {};
+        for (int i = 0; i < int(std::size(kSubLabels)); ++i) {
+            const SubLabelRow& row = kSubLabels[i];
+            for (int id = row.from, n = 0; id <= row.to; id += row.step, ++n)
+                r[size_t(id)] = { i, n };
+        }
+        return r;
+    }();
+    return refs;
+}
+
+// The extended record's head: most values are current-record fields and take their names; the
+// rest describe the record itself.
+struct ExtLabelRow
+{
+    int ext;
+    int field; // 0: named by id
+    const char* id;
+};
+
+constexpr ExtLabelRow kExtLabels[] = {
+    //% "Тип записи"
+    { E_Kind, 0, QT_TRID_NOOP("orbs_050") },
+    //% "Размер данных"
+    { E_DataSize, 0, QT_TRID_NOOP("orbs_051") },
+    //% "Версия открытой части"
+    { E_VisibleVer, 0, QT_TRID_NOOP("orbs_052") },
+    //% "Размер открытой части"
+    { E_VisibleSize, 0, QT_TRID_NOOP("orbs_053") },
+    { E_NumberTmiPage, F_NumPage, nullptr },
+    { E_Code, F_Code, nullptr },
+    { E_EventTime, F_Time, nullptr },
+    { E_StateNGauge, F_StateNGauge, nullptr },
+    { E_LastTime, F_LastTime, nullptr },
+    { E_Latitude, F_Latitude, nullptr },
+    { E_Longitude, F_Longitude, nullptr },
+    { E_Altitude, F_Altitude, nullptr },
+    { E_Speed, F_Speed, nullptr },
+    { E_Course, F_Course, nullptr },
+    { E_Run, F_Run, nullptr },
+    //% "Версия скрытой части"
+    { E_HiddenVer, 0, QT_TRID_NOOP("orbs_054") },
+    //% "Размер скрытой части"
+    { E_HiddenSize, 0, QT_TRID_NOOP("orbs_055") },
+    { E_State, F_State, nullptr },
+    { E_StateOut1, F_Out1, nullptr },
+    { E_StateIn_Imp1, F_In_Imp1, nullptr },
+    { E_StateIn_Imp2, F_In_Imp2, nullptr },
+    { E_Motochas, F_Motochas, nullptr },
+};
+static_assert(std::size(kExtLabels) == kExtCount, "one name per extended head value");
+
+constexpr bool extLabelsInOrder()
+{
+    for (int i = 0; i < kExtCount; ++i)
+        if (kExtLabels[i].ext != i)
+            return false;
+    return true;
+}
+static_assert(extLabelsInOrder(), "extended head names in head order");
+
 } // namespace
+
+QString extFieldLabel(int id)
+{
+    if (id < 0 || id >= kExtCount)
+        return QString();
+    const ExtLabelRow& row = kExtLabels[id];
+    return row.field ? fieldLabel(row.field) : qtTrId(row.id);
+}
+
+const char* subValueLabelId(int id)
+{
+    if (id < 0 || id >= kSubCount || subLabelRefs()[size_t(id)].row < 0)
+        return nullptr;
+    return kSubLabels[subLabelRefs()[size_t(id)].row].id;
+}
+
+QString subValueLabel(int id)
+{
+    const char* trId = subValueLabelId(id);
+    if (!trId)
+        return QString();
+    const SubLabelRef ref = subLabelRefs()[size_t(id)];
+    const SubLabelRow& row = kSubLabels[ref.row];
+    if (row.arg)
+        return qtTrId(trId).arg(QLatin1String(row.arg));
+    if (row.first != kNone)
+        return qtTrId(trId).arg(row.first + ref.index);
+    return qtTrId(trId);
+}
 
 const char* fieldLabelId(int no)
 {

@@ -1,5 +1,6 @@
 #include "telemetry/zrk_form_tmi_ext.h"
 
+#include "telemetry/orba_field_labels.h"
 #include "telemetry/tmipage_orba3.h"
 #include "ui_zrk_form_tmi_ext.h"
 
@@ -32,9 +33,12 @@ ZRK_Form_TMI_Ext::ZRK_Form_TMI_Ext(QWidget* parent)
     fixed.setPointSize(9);
     ui->ExtXml->setFont(fixed);
     // One row per head value, made once; a record changes only their texts.
-    for (int id = 0; id < orba::kExtCount; ++id)
-        new QTreeWidgetItem(ui->ExtHead, QStringList { QString::fromLatin1(orba::kExtFields[id].name), QString() });
-    ui->ExtHead->header()->resizeSection(0, 180);
+    for (int id = 0; id < orba::kExtCount; ++id) {
+        auto* item = new QTreeWidgetItem(ui->ExtHead, QStringList { orba::extFieldLabel(id), QString() });
+        item->setToolTip(0, QLatin1String(orba::kExtFields[id].name));
+    }
+    ui->ExtHead->resizeColumnToContents(0);
+    ui->ExtHead->header()->resizeSection(0, qBound(180, ui->ExtHead->columnWidth(0) + 8, 320));
 }
 
 ZRK_Form_TMI_Ext::~ZRK_Form_TMI_Ext() = default;
@@ -50,7 +54,8 @@ void ZRK_Form_TMI_Ext::setPage(const TmiPage_Orba3& page)
     ui->ExtDynamic->clear();
     for (const orba::DynamicItem& d : page.getDynamicItems_Ext()) {
         const QString value = d.type == 2 ? d.text : QString::number(d.number);
-        new QTreeWidgetItem(ui->ExtDynamic, QStringList { QString::number(d.type), QString::number(d.size), value });
+        new QTreeWidgetItem(
+            ui->ExtDynamic, QStringList { QString::number(d.type), QString::number(d.size), value });
     }
     QString xml;
     QTextStream out(&xml);

@@ -264,7 +264,8 @@ void ZRK_Form_TMI_Orba3::addFieldRows(QTreeWidget* tree, int no)
         const orba::SubInfo& s = orba::kSubValues[id];
         if (s.field != no || !s.shown)
             continue;
-        auto* child = new QTreeWidgetItem(item, QStringList { QString::fromLatin1(s.name), QString() });
+        auto* child = new QTreeWidgetItem(item, QStringList { orba::subValueLabel(id), QString() });
+        child->setToolTip(0, QLatin1String(s.name));
         Kind k = Kind::Sub;
         if (no == orba::F_Out1 || no == orba::F_Out2)
             k = Kind::Lamp;
@@ -276,6 +277,8 @@ void ZRK_Form_TMI_Orba3::addFieldRows(QTreeWidget* tree, int no)
 
 void ZRK_Form_TMI_Orba3::translateForm()
 {
+    for (const Row& row : m_rows)
+        row.item->setText(0, row.sub < 0 ? orba::fieldLabel(row.field) : orba::subValueLabel(row.sub));
     for (int i = 0; i < ui->Tabs->count(); ++i) {
         const int id = m_tabTitleIds.value(i);
         const char* title = id >= 0 ? kTabs[id].titleId : id == -1 ? kTyreTitle : kRawTitle;

@@ -3705,5 +3705,225 @@ The old file is unchanged.</translation>
         <source>Копировать</source>
         <translation>Copy</translation>
     </message>
+    <message id="orbs_001">
+        <source>Тревожное сообщение</source>
+        <translation>Alarm message</translation>
+    </message>
+    <message id="orbs_002">
+        <source>Тревога</source>
+        <translation>Alarm</translation>
+    </message>
+    <message id="orbs_003">
+        <source>Режим охраны</source>
+        <translation>Guard mode</translation>
+    </message>
+    <message id="orbs_004">
+        <source>Эвакуация</source>
+        <translation>Evacuation</translation>
+    </message>
+    <message id="orbs_005">
+        <source>Энергосбережение</source>
+        <translation>Energy saving</translation>
+    </message>
+    <message id="orbs_006">
+        <source>Калибровка акселерометра</source>
+        <translation>Accelerometer calibration</translation>
+    </message>
+    <message id="orbs_007">
+        <source>Выход %1</source>
+        <translation>Output %1</translation>
+    </message>
+    <message id="orbs_008">
+        <source>Расширенная навигация</source>
+        <translation>Extended navigation</translation>
+    </message>
+    <message id="orbs_009">
+        <source>Номер SIM-карты</source>
+        <translation>SIM card number</translation>
+    </message>
+    <message id="orbs_010">
+        <source>Координаты зафиксированы</source>
+        <translation>Coordinates fixed</translation>
+    </message>
+    <message id="orbs_011">
+        <source>Акселерометр</source>
+        <translation>Accelerometer</translation>
+    </message>
+    <message id="orbs_012">
+        <source>Модуль %1</source>
+        <translation>%1 module</translation>
+    </message>
+    <message id="orbs_013">
+        <source>Спутники %1</source>
+        <translation>%1 satellites</translation>
+    </message>
+    <message id="orbs_014">
+        <source>Снижение точности в плане (HDOP)</source>
+        <translation>Horizontal dilution of precision (HDOP)</translation>
+    </message>
+    <message id="orbs_015">
+        <source>Снижение точности по положению (PDOP)</source>
+        <translation>Position dilution of precision (PDOP)</translation>
+    </message>
+    <message id="orbs_016">
+        <source>Режим навигации</source>
+        <translation>Navigation mode</translation>
+    </message>
+    <message id="orbs_017">
+        <source>Число спутников</source>
+        <translation>Satellite count</translation>
+    </message>
+    <message id="orbs_018">
+        <source>Широта приёмника</source>
+        <translation>Receiver latitude</translation>
+    </message>
+    <message id="orbs_019">
+        <source>Долгота приёмника</source>
+        <translation>Receiver longitude</translation>
+    </message>
+    <message id="orbs_020">
+        <source>Сота %1: идентификатор (CID)</source>
+        <translation>Cell %1: identifier (CID)</translation>
+    </message>
+    <message id="orbs_021">
+        <source>Сота %1: код зоны (LAC)</source>
+        <translation>Cell %1: area code (LAC)</translation>
+    </message>
+    <message id="orbs_022">
+        <source>Сота %1: код страны (MCC)</source>
+        <translation>Cell %1: country code (MCC)</translation>
+    </message>
+    <message id="orbs_023">
+        <source>Сота %1: код сети (MNC)</source>
+        <translation>Cell %1: network code (MNC)</translation>
+    </message>
+    <message id="orbs_024">
+        <source>Сота %1: уровень сигнала</source>
+        <translation>Cell %1: signal level</translation>
+    </message>
+    <message id="orbs_025">
+        <source>Время измерения</source>
+        <translation>Measurement time</translation>
+    </message>
+    <message id="orbs_026">
+        <source>Уровень топлива</source>
+        <translation>Fuel level</translation>
+    </message>
+    <message id="orbs_027">
+        <source>Температура</source>
+        <translation>Temperature</translation>
+    </message>
+    <message id="orbs_028">
+        <source>Шина %1: номер датчика</source>
+        <translation>Tyre %1: sensor number</translation>
+    </message>
+    <message id="orbs_029">
+        <source>Шина %1: давление</source>
+        <translation>Tyre %1: pressure</translation>
+    </message>
+    <message id="orbs_030">
+        <source>Шина %1: температура</source>
+        <translation>Tyre %1: temperature</translation>
+    </message>
+    <message id="orbs_031">
+        <source>Ускорение по оси %1</source>
+        <translation>Acceleration along %1</translation>
+    </message>
+    <message id="orbs_032">
+        <source>Угловое ускорение, плюс</source>
+        <translation>Angular acceleration, plus</translation>
+    </message>
+    <message id="orbs_033">
+        <source>Угловое ускорение, минус</source>
+        <translation>Angular acceleration, minus</translation>
+    </message>
+    <message id="orbs_034">
+        <source>Угол</source>
+        <translation>Angle</translation>
+    </message>
+    <message id="orbs_035">
+        <source>Канал %1</source>
+        <translation>Channel %1</translation>
+    </message>
+    <message id="orbs_036">
+        <source>Тангенциальное ускорение</source>
+        <translation>Tangential acceleration</translation>
+    </message>
+    <message id="orbs_037">
+        <source>Крен</source>
+        <translation>Roll</translation>
+    </message>
+    <message id="orbs_038">
+        <source>Байт %1</source>
+        <translation>Byte %1</translation>
+    </message>
+    <message id="orbs_039">
+        <source>Разгон, степень %1</source>
+        <translation>Acceleration, grade %1</translation>
+    </message>
+    <message id="orbs_040">
+        <source>Торможение, степень %1</source>
+        <translation>Braking, grade %1</translation>
+    </message>
+    <message id="orbs_041">
+        <source>Поворот влево, степень %1</source>
+        <translation>Left turn, grade %1</translation>
+    </message>
+    <message id="orbs_042">
+        <source>Поворот вправо, степень %1</source>
+        <translation>Right turn, grade %1</translation>
+    </message>
+    <message id="orbs_043">
+        <source>Вертикальное ускорение, степень %1</source>
+        <translation>Vertical acceleration, grade %1</translation>
+    </message>
+    <message id="orbs_044">
+        <source>Число ошибок</source>
+        <translation>Error count</translation>
+    </message>
+    <message id="orbs_045">
+        <source>Код ошибки %1</source>
+        <translation>Error code %1</translation>
+    </message>
+    <message id="orbs_046">
+        <source>Режим двигателя</source>
+        <translation>Engine mode</translation>
+    </message>
+    <message id="orbs_047">
+        <source>Обороты двигателя</source>
+        <translation>Engine speed</translation>
+    </message>
+    <message id="orbs_048">
+        <source>Лампа неисправности</source>
+        <translation>Malfunction lamp</translation>
+    </message>
+    <message id="orbs_049">
+        <source>Код неисправности</source>
+        <translation>Malfunction code</translation>
+    </message>
+    <message id="orbs_050">
+        <source>Тип записи</source>
+        <translation>Record kind</translation>
+    </message>
+    <message id="orbs_051">
+        <source>Размер данных</source>
+        <translation>Data size</translation>
+    </message>
+    <message id="orbs_052">
+        <source>Версия открытой части</source>
+        <translation>Visible part version</translation>
+    </message>
+    <message id="orbs_053">
+        <source>Размер открытой части</source>
+        <translation>Visible part size</translation>
+    </message>
+    <message id="orbs_054">
+        <source>Версия скрытой части</source>
+        <translation>Hidden part version</translation>
+    </message>
+    <message id="orbs_055">
+        <source>Размер скрытой части</source>
+        <translation>Hidden part size</translation>
+    </message>
 </context>
 </TS>

@@ -3705,5 +3705,225 @@
         <source>Копировать</source>
         <translation>Копировать</translation>
     </message>
+    <message id="orbs_001">
+        <source>Тревожное сообщение</source>
+        <translation>Тревожное сообщение</translation>
+    </message>
+    <message id="orbs_002">
+        <source>Тревога</source>
+        <translation>Тревога</translation>
+    </message>
+    <message id="orbs_003">
+        <source>Режим охраны</source>
+        <translation>Режим охраны</translation>
+    </message>
+    <message id="orbs_004">
+        <source>Эвакуация</source>
+        <translation>Эвакуация</translation>
+    </message>
+    <message id="orbs_005">
+        <source>Энергосбережение</source>
+        <translation>Энергосбережение</translation>
+    </message>
+    <message id="orbs_006">
+        <source>Калибровка акселерометра</source>
+        <translation>Калибровка акселерометра</translation>
+    </message>
+    <message id="orbs_007">
+        <source>Выход %1</source>
+        <translation>Выход %1</translation>
+    </message>
+    <message id="orbs_008">
+        <source>Расширенная навигация</source>
+        <translation>Расширенная навигация</translation>
+    </message>
+    <message id="orbs_009">
+        <source>Номер SIM-карты</source>
+        <translation>Номер SIM-карты</translation>
+    </message>
+    <message id="orbs_010">
+        <source>Координаты зафиксированы</source>
+        <translation>Координаты зафиксированы</translation>
+    </message>
+    <message id="orbs_011">
+        <source>Акселерометр</source>
+        <translation>Акселерометр</translation>
+    </message>
+    <message id="orbs_012">
+        <source>Модуль %1</source>
+        <translation>Модуль %1</translation>
+    </message>
+    <message id="orbs_013">
+        <source>Спутники %1</source>
+        <translation>Спутники %1</translation>
+    </message>
+    <message id="orbs_014">
+        <source>Снижение точности в плане (HDOP)</source>
+        <translation>Снижение точности в плане (HDOP)</translation>
+    </message>
+    <message id="orbs_015">
+        <source>Снижение точности по положению (PDOP)</source>
+        <translation>Снижение точности по положению (PDOP)</translation>
+    </message>
+    <message id="orbs_016">
+        <source>Режим навигации</source>
+        <translation>Режим навигации</translation>
+    </message>
+    <message id="orbs_017">
+        <source>Число спутников</source>
+        <translation>Число спутников</translation>
+    </message>
+    <message id="orbs_018">
+        <source>Широта приёмника</source>
+        <translation>Широта приёмника</translation>
+    </message>
+    <message id="orbs_019">
+        <source>Долгота приёмника</source>
+        <translation>Долгота приёмника</translation>
+    </message>
+    <message id="orbs_020">
+        <source>Сота %1: идентификатор (CID)</source>
+        <translation>Сота %1: идентификатор (CID)</translation>
+    </message>
+    <message id="orbs_021">
+        <source>Сота %1: код зоны (LAC)</source>
+        <translation>Сота %1: код зоны (LAC)</translation>
+    </message>
+    <message id="orbs_022">
+        <source>Сота %1: код страны (MCC)</source>
+        <translation>Сота %1: код страны (MCC)</translation>
+    </message>
+    <message id="orbs_023">
+        <source>Сота %1: код сети (MNC)</source>
+        <translation>Сота %1: код сети (MNC)</translation>
+    </message>
+    <message id="orbs_024">
+        <source>Сота %1: уровень сигнала</source>
+        <translation>Сота %1: уровень сигнала</translation>
+    </message>
+    <message id="orbs_025">
+        <source>Время измерения</source>
+        <translation>Время измерения</translation>
+    </message>
+    <message id="orbs_026">
+        <source>Уровень топлива</source>
+        <translation>Уровень топлива</translation>
+    </message>
+    <message id="orbs_027">
+        <source>Температура</source>
+        <translation>Температура</translation>
+    </message>
+    <message id="orbs_028">
+        <source>Шина %1: номер датчика</source>
+        <translation>Шина %1: номер датчика</translation>
+    </message>
+    <message id="orbs_029">
+        <source>Шина %1: давление</source>
+        <translation>Шина %1: давление</translation>
+    </message>
+    <message id="orbs_030">
+        <source>Шина %1: температура</source>
+        <translation>Шина %1: температура</translation>
+    </message>
+    <message id="orbs_031">
+        <source>Ускорение по оси %1</source>
+        <translation>Ускорение по оси %1</translation>
+    </message>
+    <message id="orbs_032">
+        <source>Угловое ускорение, плюс</source>
+        <translation>Угловое ускорение, плюс</translation>
+    </message>
+    <message id="orbs_033">
+        <source>Угловое ускорение, минус</source>
+        <translation>Угловое ускорение, минус</translation>
+    </message>
+    <message id="orbs_034">
+        <source>Угол</source>
+        <translation>Угол</translation>
+    </message>
+    <message id="orbs_035">
+        <source>Канал %1</source>
+        <translation>Канал %1</translation>
+    </message>
+    <message id="orbs_036">
+        <source>Тангенциальное ускорение</source>
+        <translation>Тангенциальное ускорение</translation>
+    </message>
+    <message id="orbs_037">
+        <source>Крен</source>
+        <translation>Крен</translation>
+    </message>
+    <message id="orbs_038">
+        <source>Байт %1</source>
+        <translation>Байт %1</translation>
+    </message>
+    <message id="orbs_039">
+        <source>Разгон, степень %1</source>
+        <translation>Разгон, степень %1</translation>
+    </message>
+    <message id="orbs_040">
+        <source>Торможение, степень %1</source>
+        <translation>Торможение, степень %1</translation>
+    </message>
+    <message id="orbs_041">
+        <source>Поворот влево, степень %1</source>
+        <translation>Поворот влево, степень %1</translation>
+    </message>
+    <message id="orbs_042">
+        <source>Поворот вправо, степень %1</source>
+        <translation>Поворот вправо, степень %1</translation>
+    </message>
+    <message id="orbs_043">
+        <source>Вертикальное ускорение, степень %1</source>
+        <translation>Вертикальное ускорение, степень %1</translation>
+    </message>
+    <message id="orbs_044">
+        <source>Число ошибок</source>
+        <translation>Число ошибок</translation>
+    </message>
+    <message id="orbs_045">
+        <source>Код ошибки %1</source>
+        <translation>Код ошибки %1</translation>
+    </message>
+    <message id="orbs_046">
+        <source>Режим двигателя</source>
+        <translation>Режим двигателя</translation>
+    </message>
+    <message id="orbs_047">
+        <source>Обороты двигателя</source>
+        <translation>Обороты двигателя</translation>
+    </message>
+    <message id="orbs_048">
+        <source>Лампа неисправности</source>
+        <translation>Лампа неисправности</translation>
+    </message>
+    <message id="orbs_049">
+        <source>Код неисправности</source>
+        <translation>Код неисправности</translation>
+    </message>
+    <message id="orbs_050">
+        <source>Тип записи</source>
+        <translation>Тип записи</translation>
+    </message>
+    <message id="orbs_051">
+        <source>Размер данных</source>
+        <translation>Размер данных</translation>
+    </message>
+    <message id="orbs_052">
+        <source>Версия открытой части</source>
+        <translation>Версия открытой части</translation>
+    </message>
+    <message id="orbs_053">
+        <source>Размер открытой части</source>
+        <translation>Размер открытой части</translation>
+    </message>
+    <message id="orbs_054">
+        <source>Версия скрытой части</source>
+        <translation>Версия скрытой части</translation>
+    </message>
+    <message id="orbs_055">
+        <source>Размер скрытой части</source>
+        <translation>Размер скрытой части</translation>
+    </message>
 </context>
 </TS>

@@ -1,8 +1,13 @@
 // Field display names: the range edges, and that no two fields share a name in either language
-// (a repeated name would make two CSV columns or two check boxes indistinguishable).
+// (a repeated name would make two CSV columns or two check boxes indistinguishable); the same for
+// the sub-values under one field and for the extended record's head.
 #include "telemetry/orba_field_labels.h"
+#include "telemetry/orba_record.h"
 #include "translations/catalogue.h"
 
+#include <algorithm>
+
+#include <QHash>
 #include <QSet>
 #include <QtTest>
 
@@ -16,6 +21,8 @@ private slots:
     void outOfRange();
     void distinctNames_data();
     void distinctNames();
+    void subValueNames_data() { distinctNames_data(); }
+    void subValueNames();
 };
 
 void tst_OrbaFieldLabels::outOfRange_data()
@@ -59,6 +66,40 @@ void tst_OrbaFieldLabels::distinctNames()
         QVERIFY2(!seen.contains(label), qPrintable(QString::number(no) + ": " + label));
         seen.insert(label);
     }
+}
+
+void tst_OrbaFieldLabels::subValueNames()
+{
+    QFETCH(QString, language);
+    QVERIFY(zrk::installCatalogue(language));
+    QVERIFY(orba::subValueLabel(-1).isEmpty() && orba::subValueLabel(orba::kSubCount).isEmpty());
+    QVERIFY(orba::extFieldLabel(-1).isEmpty() && orba::extFieldLabel(orba::kExtCount).isEmpty());
+    QHash<int, QSet<QString>> underField;
+    for (int id = 0; id < orba::kSubCount; ++id) {
+        const QString label = orba::subValueLabel(id);
+        const QString where = QString::number(id) + ": " + QLatin1String(orba::kSubValues[id].name);
+        QVERIFY2(
+            !label.isEmpty() && !label.contains(QLatin1String("orbs_")) && !label.contains(QLatin1Char('%')),
+            qPrintable(where + " -> " + label));
+        // A Russian name without a Russian letter is the identifier left untranslated.
+        QVERIFY2(language != QLatin1String("ru")
+                || std::any_of(
+                    label.begin(), label.end(), [](QChar c) { return c.script() == QChar::Script_Cyrillic; }),
+            qPrintable(where + " -> " + label));
+        QSet<QString>& seen = underField[orba::kSubValues[id].field];
+        QVERIFY2(!seen.contains(label), qPrintable(where + " repeats " + label));
+        seen.insert(label);
+    }
+    QSet<QString> head;
+    for (int id = 0; id < orba::kExtCount; ++id) {
+        const QString label = orba::extFieldLabel(id);
+        QVERIFY2(!label.isEmpty() && !label.startsWith(QLatin1String("orb")) && !head.contains(label),
+            qPrintable(QString::number(id) + ": " + label));
+        head.insert(label);
+    }
+    QCOMPARE(orba::subValueLabel(orba::S_StateO9),
+        language == QLatin1String("ru") ? QStringLiteral("Выход 9") : QStringLiteral("Output 9"));
+    QCOMPARE(orba::subValueLabel(orba::S_TiresPres30).contains(QLatin1String("30")), true);
 }
 
 QTEST_MAIN(tst_OrbaFieldLabels)
