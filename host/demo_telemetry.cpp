@@ -68,7 +68,8 @@ void answerFileDialog(const QString& file)
             if (auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
                 edit->setText(QFileInfo(file).fileName()); // what a user types
             static_cast<QDialog*>(dialog)->done(QDialog::Accepted); // as if the user pressed Save
-            *tries = qMax(*tries, 70); // a second more for a failure message, then other steps' dialogs are theirs
+            *tries = qMax(
+                *tries, 70); // a second more for a failure message, then other steps' dialogs are theirs
         } else if (auto* box = qobject_cast<QMessageBox*>(modal)) {
             std::fprintf(stderr, "zrk-host demo: the view says: %s\n", qPrintable(box->text()));
             box->accept();
@@ -116,6 +117,9 @@ void ZrkDemoSession::runTelemetrySteps()
         grab(view, QStringLiteral("tmi_previous"));
     if (click(view, "GetNext"))
         grab(view, QStringLiteral("tmi_next"));
+
+    // Plot the chart's first field over the records that auto-request brings.
+    click(view, "ChartAdd");
 
     // Auto-request at the shortest period for a few ticks.
     if (auto* autoBox = view->findChild<QCheckBox*>(QStringLiteral("GetAutoTmi"))) {

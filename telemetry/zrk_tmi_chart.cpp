@@ -1,8 +1,8 @@
 #include "telemetry/zrk_tmi_chart.h"
 
 #include "telemetry/orba_dispatch.h"
-#include "telemetry/orba_page.h"
 #include "telemetry/orba_field_labels.h"
+#include "telemetry/orba_page.h"
 #include "telemetry/zrk_tmi_session.h"
 
 #include <QLayout>
@@ -26,6 +26,7 @@ ZRK_Tmi_Chart::ZRK_Tmi_Chart(QWidget* host, QObject* parent)
     m_chart->setMargins(QMargins(2, 2, 2, 2));
     m_axisX->setFormat(QStringLiteral("HH:mm:ss"));
     m_axisX->setTickCount(4);
+    m_axisY->setLabelFormat(QStringLiteral("%g")); // round ticks (below) need no fixed decimals
     m_chart->addAxis(m_axisX, Qt::AlignBottom);
     m_chart->addAxis(m_axisY, Qt::AlignLeft);
     m_view = new QChartView(m_chart, host);
@@ -62,6 +63,7 @@ void ZRK_Tmi_Chart::clearFields()
 {
     m_chart->removeAllSeries();
     m_plots.clear();
+    m_timeLabelsDrawn = false;
     emit changed();
 }
 
@@ -128,6 +130,14 @@ void ZRK_Tmi_Chart::updateRanges()
         const double span = hi - lo;
         const double margin = span > 0 ? span * 0.05 : qMax(1.0, qAbs(hi) * 0.05);
         m_axisY->setRange(lo - margin, hi + margin);
+        m_axisY->applyNiceNumbers();
+        if (!m_timeLabelsDrawn) {
+            // A time axis whose first series came after the chart was shown draws no labels until
+            // they are switched on again.
+            m_axisX->setLabelsVisible(false);
+            m_axisX->setLabelsVisible(true);
+            m_timeLabelsDrawn = true;
+        }
     }
     emit changed();
 }
@@ -138,7 +148,10 @@ QString ZRK_Tmi_Chart::minMaxText() const
     for (const Plot& p : m_plots) {
         if (p.any)
             //% "%1: мин. %2, макс. %3"
-            lines << qtTrId("tmiw_043").arg(orba::fieldLabel(p.field)).arg(p.min, 0, 'g', 6).arg(p.max, 0, 'g', 6);
+            lines << qtTrId("tmiw_043")
+                         .arg(orba::fieldLabel(p.field))
+                         .arg(p.min, 0, 'g', 6)
+                         .arg(p.max, 0, 'g', 6);
         else
             //% "%1: нет данных"
             lines << qtTrId("tmiw_044").arg(orba::fieldLabel(p.field));

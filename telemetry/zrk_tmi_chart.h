@@ -54,4 +54,5 @@ private:
     QtCharts::QDateTimeAxis* m_axisX;
     QtCharts::QValueAxis* m_axisY;
     QVector<Plot> m_plots;
+    bool m_timeLabelsDrawn = false;
 };
