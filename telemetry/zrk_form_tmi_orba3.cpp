@@ -408,8 +408,9 @@ void ZRK_Form_TMI_Orba3::updateRaw(const OrbaPage& page)
     m_rawModel->setBytes(page.body());
 }
 
-QString ZRK_Form_TMI_Orba3::rawText() const
+QString ZRK_Form_TMI_Orba3::rawText()
 {
+    refreshTab(ui->Tabs->indexOf(m_raw));
     QString text = m_rawFields->text() + QLatin1Char('\n');
     const QByteArray& body = m_rawModel->bytes();
     for (int at = 0; at < body.size(); at += 16)

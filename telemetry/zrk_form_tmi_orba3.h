@@ -49,8 +49,9 @@ public:
     int tabCount() const;
     // How many row texts the last record changed on the open tab.
     int lastChangedCount() const { return m_changed; }
-    // The raw tab as text: the field set, then the body as hex lines; what its copy action copies.
-    QString rawText() const;
+    // The raw tab as text, brought up to date first: the field set, then the body as hex lines;
+    // what its copy action copies.
+    QString rawText();
 
 private:
     enum class Kind

@@ -315,6 +315,8 @@ private slots:
         QCOMPARE(form->shownText(orba::F_Power), QStringLiteral("12.34"));
         QCOMPARE(form->shownText(orba::F_Code), QStringLiteral("5 — event 5"));
         QCOMPARE(form->shownText(orba::F_GSM), QStringLiteral("n/a"));
+        QVERIFY2(form->rawText().contains(QLatin1String("\n0000  05 00 00 00 05 00")),
+            qPrintable(form->rawText()));
         QVERIFY(!form->isRowHidden(orba::F_GSM));
         QVERIFY(!form->isRowHidden(orba::F_User8Byte3));
         child<QCheckBox>("HideAbsent")->setChecked(true);
