@@ -4,8 +4,10 @@
 # sanitizers still check its memory accesses, but not leaks, since Chromium inside Qt WebEngine
 # leaves blocks behind at exit, some from code already unloaded that no suppression can name.
 # TOOL: the test runs the built zrk-tool (tests/common/tool_run.h).
+# COMMA_LOCALE: the test runs a second time as <name>_ru, under ru_RU.UTF-8, whose decimal
+# separator is a comma (scripts/install-deps.sh generates the locale).
 function(zrk_add_qtest)
-  cmake_parse_arguments(T "XVFB;WEBENGINE;TOOL" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
+  cmake_parse_arguments(T "XVFB;WEBENGINE;TOOL;COMMA_LOCALE" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
   if(T_WEBENGINE)
     set(T_XVFB TRUE)
   endif()
@@ -30,9 +32,17 @@ function(zrk_add_qtest)
   endif()
   list(APPEND T_ENV "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
                     "ASAN_OPTIONS=detect_leaks=${leaks}"
-                    "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
-                    "LC_ALL=C.UTF-8")
-  set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV}" TIMEOUT 300)
+                    "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+  set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV};LC_ALL=C.UTF-8" TIMEOUT 300)
+  if(T_COMMA_LOCALE)
+    if(T_XVFB)
+      add_test(NAME ${T_NAME}_ru COMMAND xvfb-run -a $<TARGET_FILE:${T_NAME}>)
+    else()
+      add_test(NAME ${T_NAME}_ru COMMAND ${T_NAME})
+    endif()
+    set_tests_properties(${T_NAME}_ru PROPERTIES ENVIRONMENT "${T_ENV};LC_ALL=ru_RU.UTF-8;ZRK_COMMA_LOCALE=1"
+                                                 TIMEOUT 300)
+  endif()
 endfunction()
 
 # zrk_add_fuzzer(NAME <name> SOURCES <files...> [LIBS <libs...>])

@@ -253,6 +253,11 @@ void ZRK_Widget_Config::openConfig(szConfigFile* file, szConfigParam& configPara
             m_filePath.clear();
             setTitleName(QLatin1String(kDeviceTitle));
         }
+    } else {
+        // The message is out; the editing goes on as it was, unsaved edits and editor included.
+        show();
+        raise();
+        return;
     }
     if (file->mode == 1)
         showWidgetConfigFull();

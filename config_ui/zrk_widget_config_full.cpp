@@ -310,10 +310,9 @@ void ZRK_Widget_Config_Full::writeHeader(CXMLWorkData* root)
 
 void ZRK_Widget_Config_Full::writePages(CXMLWorkData* root)
 {
-    for (const Page& p : m_pages) {
-        if (p.widget != m_other)
-            p.write(root);
-    }
+    // The kept branches follow the pages; the user parameters are always last.
+    for (const Page& p : m_pages)
+        p.write(root);
     m_fieldSet->writeUserParam(root);
 }
 
@@ -326,7 +325,6 @@ QByteArray ZRK_Widget_Config_Full::renderXml()
         root.clearNode();
         writeHeader(&root);
         writePages(&root);
-        m_other->writeFormParam(&root);
         root.writeParameters();
     }
     return doc.render();

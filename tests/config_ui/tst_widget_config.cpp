@@ -83,7 +83,8 @@ szConfigFile configFile(int mode, int source, const QString& path)
 }
 
 const QString kTerminalFile = QStringLiteral(ZRK_SOURCE_DIR "/host/data/terminal_config.xml");
-const QStringList kUnowned { "TRANSFER", "CAN", "INPUTS", "OUTPUTS", "TEMPSENS", "PHONES", "SYSTEM", "GUARD" };
+const QStringList kUnowned { "TRANSFER", "CAN", "INPUTS", "OUTPUTS", "TEMPSENS", "PHONES", "SYSTEM",
+    "GUARD" };
 
 // One branch as the serializer writes it, to compare branches byte for byte.
 QByteArray renderBranch(const CXmlTagV2* root, const QString& name)
@@ -332,8 +333,9 @@ private slots:
         QCOMPARE(window()->widgetFull()->otherPage()->keptBranchNames(), kUnowned);
         for (const QString& branch : kUnowned)
             QCOMPARE(renderBranch(after.doc->root(), branch), renderBranch(before.doc->root(), branch));
-        const QStringList order = zrk::topNodeNames(after.doc->root());
-        QCOMPARE(order.mid(order.size() - kUnowned.size()), kUnowned);
+        // Pages first, then what the terminal had beyond them, and the user parameters last.
+        QCOMPARE(zrk::topNodeNames(after.doc->root()),
+            QStringList({ "PROTOCOL", "TRACK", "LOCATOR" }) + kUnowned + QStringList { "USERPARAM" });
         // The root's own keys beyond the header stay too.
         QCOMPARE(zrk::keyValue(after.doc->root(), "imei"), QStringLiteral("861234567890123"));
         QCOMPARE(zrk::keyValue(after.doc->root(), "creator"), QStringLiteral("config"));
@@ -385,6 +387,43 @@ private slots:
         QCOMPARE(window()->messages.size(), 2);
         QVERIFY(!QFileInfo::exists(dirAsFile));
         QCOMPARE(window()->windowTitle(), title);
+    }
+
+    // A file that does not open through the host leaves the editing as it was, unsaved mark included.
+    void failedOpenByHostChangesNothing_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("source");
+        QTest::newRow("full editor asked") << 1 << 1;
+        QTest::newRow("light editor asked") << 0 << 1;
+        QTest::newRow("from the terminal") << 0 << 0;
+    }
+    void failedOpenByHostChangesNothing()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, source);
+        open(1, 1, kTerminalFile);
+        window()
+            ->widgetFull()
+            ->trackPage()
+            ->findChild<QSpinBox*>("Additional_spinBox_Distance")
+            ->setValue(250);
+        window()->updateModified();
+        const QByteArray editing = window()->currentXml();
+        const QString title = window()->windowTitle();
+        QVERIFY(title.endsWith('*'));
+        const QString lastRead = window()->lastReadCopy();
+        open(mode, source, m_home.filePath(QStringLiteral("no-such-file.xml")));
+        QCOMPARE(window()->messages.size(), 1);
+        QVERIFY(window()->isModified());
+        QCOMPARE(window()->windowTitle(), title);
+        QVERIFY(window()->isFullEditorShown());
+        QCOMPARE(window()->currentXml(), editing);
+        QCOMPARE(window()->lastReadCopy(), lastRead);
+        // Closing still asks about the edits.
+        window()->answer = TestWindow::UnsavedAnswer::Cancel;
+        QVERIFY(!window()->closeWidgetConfig());
+        QCOMPARE(window()->questions, 1);
     }
 
     void otherSettingsFilter_data()
