@@ -120,18 +120,22 @@ BranchDecl trackBranch(const ZRK_Track_Caps& caps)
     k << integer("POINTS", "angleMode", 2, 2, 0, 2, QT_TRID_NOOP("cfgt3_010"));
     //% "Угол поворота, °"
     k << integer("POINTS", "angle", 5, 5, 1, 90, QT_TRID_NOOP("cfgt3_013"));
+    k.last().lightWidget = QStringLiteral("spinBox_Angle");
     //% "Ставить точку по расстоянию, м"
     k << boolean("POINTS", "useDist", true, true, QT_TRID_NOOP("cfgt3_014"));
     //% "Расстояние, м"
     k << integer("POINTS", "dist", 500, 500, 1, 10000, QT_TRID_NOOP("cfgt3_015"));
+    k.last().lightWidget = QStringLiteral("spinBox_Dist");
     //% "Ставить точку по таймеру в движении, с"
     k << boolean("POINTS", "useTimer", true, true, QT_TRID_NOOP("cfgt3_016"));
     //% "Таймер в движении, с"
     k << integer("POINTS", "moveTimer", 60, 60, 0, 99999, QT_TRID_NOOP("cfgt3_017"));
+    k.last().lightWidget = QStringLiteral("spinBox_MoveTimer");
     //% "Признаки движения для таймера"
     k << flags("POINTS", "moveTimerSens", 4, "0000", "0000", QT_TRID_NOOP("cfgt3_018"));
     //% "Таймер на стоянке, с"
     k << integer("POINTS", "stopTimer", 600, 600, 0, 99999, QT_TRID_NOOP("cfgt3_023"));
+    k.last().lightWidget = QStringLiteral("spinBox_StopTimer");
 
     //% "Не ставить точки ближе, м"
     k << boolean("LIMPOINT", "blockDist", true, true, QT_TRID_NOOP("cfgt3_025"));
@@ -318,6 +322,7 @@ BranchDecl protocolBranch(bool useState2, bool useReserv)
             //% "Поколение протокола ORBA"
             QT_TRID_NOOP("cfgo_081"));
     format.choices = { 10, 20, 30 };
+    format.lightWidget = QStringLiteral("comboBox_FlashFormat");
     b.keys << format;
     KeyDecl mask = flags(fs::kOrbaNode, fs::kMaskKey, fs::kMaskLength, fs::defaultMask(useState2),
         fs::defaultMask(useState2, useReserv),
@@ -325,6 +330,30 @@ BranchDecl protocolBranch(bool useState2, bool useReserv)
         QT_TRID_NOOP("cfgo_082"));
     mask.checkedApart = true;
     b.keys << mask;
+    return b;
+}
+
+BranchDecl userParamBranch()
+{
+    namespace fs = fieldset;
+    BranchDecl b;
+    b.top = QLatin1String(fs::kUserNode);
+    for (int g = 0; g < 4; ++g) {
+        const QString group = fs::userGroupNode(g);
+        b.groups << group;
+        const QString types(fs::kUserCounts[g], QLatin1Char('0'));
+        //% "Типы пользовательских параметров (0 — без знака, 1 — со знаком, 2 — hex, 3 — float)"
+        KeyDecl type = text("", fs::kUserTypeKey, types, types, QT_TRID_NOOP("cfgo_083"));
+        type.group = group;
+        b.keys << type;
+        for (int i = 1; i <= fs::kUserCounts[g]; ++i) {
+            //% "Название пользовательского параметра %1"
+            KeyDecl name = text("", "", QString(), QString(), QT_TRID_NOOP("cfgo_084"));
+            name.group = group;
+            name.key = QStringLiteral("name%1").arg(i);
+            b.keys << name;
+        }
+    }
     return b;
 }
 
@@ -358,7 +387,13 @@ const KeyDecl* findDeclaredKey(const QString& node, const QString& key)
     const int slash = node.indexOf(QLatin1Char('/'));
     const QString top = slash < 0 ? QString() : node.left(slash);
     const QString group = slash < 0 ? node : node.mid(slash + 1);
-    for (const BranchDecl& b : declaredBranches()) {
+    static const BranchDecl user = userParamBranch();
+    QVector<const BranchDecl*> branches;
+    for (const BranchDecl& b : declaredBranches())
+        branches << &b;
+    branches << &user;
+    for (const BranchDecl* branch : branches) {
+        const BranchDecl& b = *branch;
         if (!top.isEmpty() && b.top != top)
             continue;
         // A key on the top node itself is named by the top node alone.

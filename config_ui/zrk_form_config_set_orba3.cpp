@@ -1037,7 +1037,7 @@ void ZRK_Form_Config_Set_Orba3_Tab_User::writeUserParam(CXMLWorkData* root)
 // ---- The page --------------------------------------------------------------------------------
 
 ZRK_Form_Config_Set_Orba3::ZRK_Form_Config_Set_Orba3(QWidget* parent)
-    : QWidget(parent)
+    : ZRK_Form_Config_Page(parent)
     , ui(new Ui::ZRK_Designer_Form_Config_Set_Orba3)
 {
     ui->setupUi(this);
@@ -1348,6 +1348,45 @@ void ZRK_Form_Config_Set_Orba3::writeFormParam(CXMLWorkData* root)
     if (!root)
         return;
     writeFieldSet(root, { getTypeDFProtocol(), getStrFormat() });
+}
+
+QVector<zrk::cfg::BranchDecl> ZRK_Form_Config_Set_Orba3::shownBranches() const
+{
+    return { zrk::cfg::protocolBranch(m_useDefState2), zrk::cfg::userParamBranch() };
+}
+
+// The user branch's values run by width: the type digits, then the names.
+zrk::cfg::Values ZRK_Form_Config_Set_Orba3::shownValues(int branch) const
+{
+    if (branch == 0)
+        return { getTypeDFProtocol(), getStrFormat() };
+    zrk::cfg::Values values;
+    const UserParams params = m_tabUser ? m_tabUser->userParams() : defaultUserParams();
+    for (int g = 0; g < 4; ++g) {
+        values << params.types[g];
+        for (const QString& name : params.names[g])
+            values << name;
+    }
+    return values;
+}
+
+void ZRK_Form_Config_Set_Orba3::showValues(int branch, const zrk::cfg::Values& values)
+{
+    if (branch == 0) {
+        setTypeDFProtocol(values.value(0));
+        setStrFormat(values.value(1));
+        return;
+    }
+    if (!m_tabUser)
+        return;
+    UserParams params;
+    int at = 0;
+    for (int g = 0; g < 4; ++g) {
+        params.types[g] = values.value(at++);
+        for (int i = 0; i < kUserCounts[g]; ++i)
+            params.names[g] << values.value(at++);
+    }
+    m_tabUser->setUserParams(params);
 }
 
 void ZRK_Form_Config_Set_Orba3::deviceConnect()

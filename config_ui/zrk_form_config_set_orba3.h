@@ -6,6 +6,7 @@
 // the terminal's limit.
 
 #include "config_model/orba_fieldset.h"
+#include "config_ui/zrk_form_config_page.h"
 
 #include <QMap>
 #include <QSet>
@@ -319,7 +320,7 @@ private:
     QMap<int, QComboBox*> m_types;
 };
 
-class ZRK_Form_Config_Set_Orba3 : public QWidget
+class ZRK_Form_Config_Set_Orba3 : public ZRK_Form_Config_Page
 {
     Q_OBJECT
 
@@ -327,18 +328,20 @@ public:
     explicit ZRK_Form_Config_Set_Orba3(QWidget* parent = nullptr);
     ~ZRK_Form_Config_Set_Orba3() override;
 
-    void applyCaps();
-    void translateForm();
-    void initForm();
-    QString getTabTitle() const { return m_tabTitle; }
-    void setDefaultParam();
-    void readFormParam(CXMLWorkData* root);
-    void writeFormParam(CXMLWorkData* root);
-    void deviceConnect();
-    void deviceDisconnect();
-    void setFormEnabled(bool enabled);
-    void setTabIndex(int index) { m_tabIndex = index; }
-    int getTabIndex() const { return m_tabIndex; }
+    void applyCaps() override;
+    void translateForm() override;
+    void initForm() override;
+    QString getTabTitle() const override { return m_tabTitle; }
+    void setDefaultParam() override;
+    void readFormParam(CXMLWorkData* root) override;
+    void writeFormParam(CXMLWorkData* root) override;
+    void deviceConnect() override;
+    void deviceDisconnect() override;
+    void setFormEnabled(bool enabled) override;
+    // "PROTOCOL" and "USERPARAM".
+    QVector<zrk::cfg::BranchDecl> shownBranches() const override;
+    zrk::cfg::Values shownValues(int branch) const override;
+    void showValues(int branch, const zrk::cfg::Values& values) override;
 
     QString getStrFormat() const;
     void setStrFormat(const QString& mask);
@@ -448,7 +451,6 @@ private:
 
     Ui::ZRK_Designer_Form_Config_Set_Orba3* ui;
     QString m_tabTitle;
-    int m_tabIndex = -1;
     int m_curSize = 0;
     bool m_excessSize = false;
     bool m_useDefState2 = false;

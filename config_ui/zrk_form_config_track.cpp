@@ -52,7 +52,7 @@ ZRK_Form_Config_Track::ZRK_Form_Config_Track(QWidget* parent)
 }
 
 ZRK_Form_Config_Track::ZRK_Form_Config_Track(const ZRK_Track_Caps& caps, QWidget* parent)
-    : QWidget(parent)
+    : ZRK_Form_Config_Page(parent)
     , m_caps(caps)
     , ui(new Ui::ZRK_Designer_Form_Config_Track)
     , m_trackDecl(zrk::cfg::trackBranch(caps))
@@ -351,6 +351,20 @@ Values ZRK_Form_Config_Track::trackValues() const
 Values ZRK_Form_Config_Track::locatorValues() const
 {
     return collect(m_locatorDecl, m_locatorBind);
+}
+
+Values ZRK_Form_Config_Track::shownValues(int branch) const
+{
+    return branch == 0 ? trackValues() : locatorValues();
+}
+
+void ZRK_Form_Config_Track::showValues(int branch, const Values& values)
+{
+    if (branch == 0)
+        applyValues(m_trackDecl, m_trackBind, values, false);
+    else
+        applyValues(m_locatorDecl, m_locatorBind, values, false);
+    runDependentSlots();
 }
 
 // ---- the contract --------------------------------------------------------------------------------

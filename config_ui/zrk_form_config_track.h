@@ -2,9 +2,9 @@
 
 #include "config_model/config_keys.h"
 #include "config_model/zrk_track_caps.h"
+#include "config_ui/zrk_form_config_page.h"
 
 #include <QHash>
-#include <QWidget>
 
 #include <functional>
 
@@ -20,7 +20,7 @@ class ZRK_Designer_Form_Config_Track;
 // The track page: when points are laid down, their density, the coordinate filter, averaging
 // while stopped, parking, the satellite receiver ("TRACK") and alternative positioning
 // ("LOCATOR"). Widgets are bound to the declared keys; the rules below are the special ones.
-class ZRK_Form_Config_Track : public QWidget
+class ZRK_Form_Config_Track : public ZRK_Form_Config_Page
 {
     Q_OBJECT
 
@@ -30,18 +30,20 @@ public:
     explicit ZRK_Form_Config_Track(const ZRK_Track_Caps& caps, QWidget* parent = nullptr);
     ~ZRK_Form_Config_Track() override;
 
-    void applyCaps();
-    void translateForm();
-    void initForm();
-    QString getTabTitle() const { return m_tabTitle; }
-    void setDefaultParam();
-    void readFormParam(CXMLWorkData* root);
-    void writeFormParam(CXMLWorkData* root);
-    void deviceConnect();
-    void deviceDisconnect();
-    void setFormEnabled(bool enabled);
-    void setTabIndex(int index) { m_tabIndex = index; }
-    int getTabIndex() const { return m_tabIndex; }
+    void applyCaps() override;
+    void translateForm() override;
+    void initForm() override;
+    QString getTabTitle() const override { return m_tabTitle; }
+    void setDefaultParam() override;
+    void readFormParam(CXMLWorkData* root) override;
+    void writeFormParam(CXMLWorkData* root) override;
+    void deviceConnect() override;
+    void deviceDisconnect() override;
+    void setFormEnabled(bool enabled) override;
+    // "TRACK" and "LOCATOR".
+    QVector<zrk::cfg::BranchDecl> shownBranches() const override { return { m_trackDecl, m_locatorDecl }; }
+    zrk::cfg::Values shownValues(int branch) const override;
+    void showValues(int branch, const zrk::cfg::Values& values) override;
 
     const ZRK_Track_Caps& caps() const { return m_caps; }
 
@@ -128,5 +130,4 @@ private:
     QVector<Binding> m_locatorBind;
     ZRK_Form_Config_Track_Locator_BList* m_blackList = nullptr;
     QString m_tabTitle;
-    int m_tabIndex = -1;
 };

@@ -586,6 +586,11 @@ ZRK_Widget_Config* ZRK_Device_K7140::widgetConfig() const
     return m_widgetConfig;
 }
 
+const zrk::ConfigSession* ZRK_Device_K7140::configSession() const
+{
+    return m_widgetConfig ? &m_widgetConfig->session() : nullptr;
+}
+
 ZRK_Widget_Tmi_View* ZRK_Device_K7140::widgetTmiView() const
 {
     return m_widgetTmiView;

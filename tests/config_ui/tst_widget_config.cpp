@@ -58,8 +58,17 @@ public:
     int questions = 0;
     QStringList messages;
     QString saveAsPath;
+    bool writeAnswer = true;
+    QVector<QVector<zrk::ConfigDifference>> reviews; // what each review before a write showed
+    QStringList reviewedAgainst;
 
 protected:
+    bool confirmWrite(const QVector<zrk::ConfigDifference>& differences, const QString& against) override
+    {
+        reviews << differences;
+        reviewedAgainst << against;
+        return writeAnswer;
+    }
     UnsavedAnswer askUnsavedChanges() override { return ++questions, answer; }
     void showMessage(const QString& text) override { messages << text; }
     QString chooseFileToSave() override { return saveAsPath; }
@@ -189,9 +198,11 @@ private slots:
     {
         open(1, 1, kTerminalFile);
         open(1, 1, QString());
-        ZRK_Widget_Config_Full defaults;
-        defaults.initDefaultParam();
-        QCOMPARE(window()->currentXml(), defaults.renderXml());
+        // The window's own "new" and save, against the file kept in the tests.
+        const QString saved = m_home.filePath(QStringLiteral("new.xml"));
+        QVERIFY(window()->saveFile(saved));
+        QCOMPARE(fileBytes(saved),
+            fileBytes(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
         // Nothing of the terminal's file survives a new configuration.
         QVERIFY(window()->widgetFull()->otherPage()->keptBranchNames().isEmpty());
         // The header as the window writes it.
@@ -339,14 +350,14 @@ private slots:
         // The root's own keys beyond the header stay too.
         QCOMPARE(zrk::keyValue(after.doc->root(), "imei"), QStringLiteral("861234567890123"));
         QCOMPARE(zrk::keyValue(after.doc->root(), "creator"), QStringLiteral("config"));
-        // The light editor keeps them as well, changing only its own keys.
+        // The light editor shows the same configuration: its save differs only by its own edit.
         open(0, 0, kTerminalFile);
         window()->widgetLight()->setValue("moveTimer", "120");
         const QString light = m_home.filePath(QStringLiteral("light.xml"));
         QVERIFY(window()->widgetLight()->saveConfigLight(light));
         const auto lightDoc = zrk::loadConfigFile(light);
         QVERIFY(lightDoc.doc);
-        const auto differences = zrk::diffConfigs(before.doc->root(), lightDoc.doc->root());
+        const auto differences = zrk::diffConfigs(after.doc->root(), lightDoc.doc->root());
         QCOMPARE(differences.size(), 1);
         QCOMPARE(differences[0].node + '/' + differences[0].key, QStringLiteral("TRACK/POINTS/moveTimer"));
         QCOMPARE(differences[0].right, QStringLiteral("120"));
