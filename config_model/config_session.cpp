@@ -87,6 +87,7 @@ public:
     QString path;
     quint64 state = 0;
     quint64 docState = 0;
+    quint64 savedDocState = 0;
     QHash<QString, QString> edited;
 };
 
@@ -342,6 +343,7 @@ std::shared_ptr<const ConfigSession::Snapshot> ConfigSession::snapshot() const
     s->path = m_path;
     s->state = m_state;
     s->docState = m_docState;
+    s->savedDocState = m_savedDocState;
     s->edited = m_editedSinceSave;
     return s;
 }
@@ -356,8 +358,10 @@ void ConfigSession::restore(const Snapshot& snapshot)
     const bool wasModified = isModified();
     m_state = snapshot.state;
     m_docState = snapshot.docState;
-    // Tracked edits hold only against the saved document they were made on.
-    m_editedSinceSave = m_docState == m_savedDocState ? snapshot.edited : QHash<QString, QString>();
+    // The mark is against the file the snapshot had: going back to a configuration as it was
+    // opened or saved is no unsaved change.
+    m_savedDocState = snapshot.savedDocState;
+    m_editedSinceSave = snapshot.edited;
     notifyModified(wasModified);
     emit documentReplaced();
     if (sourceChanged)

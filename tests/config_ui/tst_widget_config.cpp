@@ -4,6 +4,7 @@
 #include "config_model/app_settings.h"
 #include "config_model/config_diff.h"
 #include "config_model/config_document.h"
+#include "config_model/config_keys.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
 #include "config_ui/zrk_form_config_orba3.h"
@@ -15,8 +16,12 @@
 #include "device/zrk_device_k7140.h"
 #include "translations/catalogue.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QUndoStack>
 #include <QtTest>
 
 #include <cstring>
@@ -126,6 +131,7 @@ private:
     ZRK_Device_K7140* m_device = nullptr;
     WindowFactory m_factory;
     TestWindow* window() { return static_cast<TestWindow*>(m_device->widgetConfig()); }
+    ZRK_Widget_Config_Full* full() { return window()->widgetFull(); }
     void open(int mode, int source, const QString& path)
     {
         szConfigFile f = configFile(mode, source, path);
@@ -485,6 +491,120 @@ private slots:
             750);
         QVERIFY(window()->isModified());
         QVERIFY(window()->widgetFull()->otherPage()->keptBranchNames().contains("PHONES"));
+    }
+
+    // Every kind of edit is one step that undo takes back to the very bytes, and redo brings again.
+    void undoEachKindOfEdit_data()
+    {
+        QTest::addColumn<QString>("kind");
+        for (const char* kind :
+            { "track number", "track box", "turn rule (two boxes)", "light editor", "kept value",
+                "record field", "generation", "user parameter name", "defaults", "new", "open another file" })
+            QTest::newRow(kind) << kind;
+    }
+    void undoEachKindOfEdit()
+    {
+        QFETCH(QString, kind);
+        open(1, 1, kTerminalFile);
+        window()->undoStack().clear();
+        const QByteArray before = window()->currentXml();
+        ZRK_Widget_Config_Full* full = window()->widgetFull();
+        auto* orba = full->fieldSetPage();
+        if (kind == "track number")
+            full->trackPage()->findChild<QSpinBox*>("Additional_spinBox_Distance")->setValue(777);
+        else if (kind == "track box")
+            full->trackPage()->findChild<QCheckBox*>("checkBox_BlockTimer")->toggle();
+        else if (kind == "turn rule (two boxes)")
+            full->trackPage()->findChild<QCheckBox*>("Additional_checkBox_Corner")->toggle();
+        else if (kind == "light editor")
+            window()->widgetLight()->setValue("angle", "45");
+        else if (kind == "kept value")
+            QVERIFY(full->otherPage()->setKeptValue("CAN/CAN1", "baud", "500"));
+        else if (kind == "record field")
+            orba->tabNavi()->box(10)->toggle();
+        else if (kind == "generation")
+            orba->flashFormat()->setCurrentIndex(0);
+        else if (kind == "user parameter name")
+            QTest::keyClicks(orba->tabUser()->nameEdit(230), "Brake");
+        else if (kind == "defaults")
+            window()->resetToDefaults();
+        else if (kind == "new")
+            window()->newConfig();
+        else
+            QVERIFY(
+                window()->openFile(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/track_page.xml")));
+        const QByteArray after = window()->currentXml();
+        QVERIFY(after != before);
+        QCOMPARE(window()->undoStack().count(), 1); // typing a name is one step too
+        window()->undo();
+        QCOMPARE(window()->currentXml(), before);
+        QVERIFY(!window()->isModified());
+        QVERIFY(!window()->windowTitle().endsWith('*'));
+        window()->redo();
+        QCOMPARE(window()->currentXml(), after);
+        // The pages show what was brought back: saving them again changes nothing.
+        window()->undo();
+        QCOMPARE(full->trackPage()->trackValues(),
+            window()->session().branchValues(zrk::cfg::trackBranch(full->trackPage()->caps())));
+    }
+
+    // "Write to the terminal" shows what will change there and writes only when confirmed.
+    void reviewBeforeWrite()
+    {
+        setConnected(true);
+        open(1, 0, kTerminalFile); // read from the terminal
+        window()->reviews.clear();
+        window()->reviewedAgainst.clear();
+        window()->writeAnswer = false;
+        gSent.clear();
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QCOMPARE(window()->reviews.size(), 1);
+        QVERIFY(gSent.isEmpty()); // refused: nothing written
+        // As read, a write changes only what this editor normalises.
+        const int normalised = window()->reviews[0].size();
+        full()->trackPage()->findChild<QSpinBox*>("Additional_spinBox_Distance")->setValue(250);
+        QVERIFY(full()->otherPage()->setKeptValue("GUARD/ALARM", "timer", "90"));
+        window()->writeAnswer = true;
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QCOMPARE(window()->reviews.size(), 2);
+        QCOMPARE(window()->reviews[1].size(), normalised + 2);
+        QStringList changed;
+        for (const zrk::ConfigDifference& d : window()->reviews[1])
+            changed << d.node + '/' + d.key + '=' + d.left + '>' + d.right;
+        QVERIFY2(changed.contains("TRACK/POINTS/dist=300>250"), qPrintable(changed.join(' ')));
+        QVERIFY2(changed.contains("GUARD/ALARM/timer=60>90"), qPrintable(changed.join(' ')));
+        QCOMPARE(sentIds(), QVector<int>({ ZRK_MSG_WRITE_FILE_TO_DEVICE }));
+        QFile::remove(gSent[0].path);
+        // The terminal now holds what was written: nothing differs.
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QVERIFY(window()->reviews[2].isEmpty());
+        QFile::remove(gSent[1].path);
+        // An experienced user turned the review off.
+        setReviewBeforeWrite(false);
+        gSent.clear();
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QCOMPARE(window()->reviews.size(), 3);
+        QCOMPARE(sentIds(), QVector<int>({ ZRK_MSG_WRITE_FILE_TO_DEVICE }));
+        QFile::remove(gSent[0].path);
+        setReviewBeforeWrite(true);
+        setConnected(false);
+    }
+
+    // The dated copies read from terminals are listed newest first and compare with the editor.
+    void historyOfReads()
+    {
+        open(1, 0, kTerminalFile);
+        open(1, 0, kTerminalFile);
+        const QVector<zrk::ReadCopy> copies = window()->readHistory();
+        QVERIFY(copies.size() >= 2);
+        QCOMPARE(copies[0].path, window()->lastReadCopy());
+        for (int i = 1; i < copies.size(); ++i)
+            QVERIFY(copies[i - 1].when >= copies[i].when);
+        full()->trackPage()->findChild<QSpinBox*>("Additional_spinBox_Distance")->setValue(250);
+        bool ok = false;
+        const auto differences = window()->compareWithFile(copies[1].path, &ok);
+        QVERIFY(ok);
+        QVERIFY(!differences.isEmpty());
     }
 
     // A read from the terminal is kept dated; comparing with it shows the key's label and values.
