@@ -31,8 +31,6 @@ std::unique_ptr<CSerialize> emptyDocument()
 std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
 {
     auto out = emptyDocument();
-    std::unique_ptr<CXmlTagV2> kept
-        = extractUnowned(from ? from->root() : nullptr, ConfigSession::ownedTopNodes());
     CXMLWorkData dst(out.get(), cfg::kRootNode);
     if (!from) {
         for (const cfg::BranchDecl& b : cfg::declaredBranches())
@@ -40,7 +38,26 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
         fieldset::writeUserParams(&dst, fieldset::defaultUserParams());
         return out;
     }
-    // Reading creates the pages' missing nodes in the source, which is thrown away after.
+    // What no page owns is moved over as it is (the source is thrown away after); the header is
+    // the session's own.
+    const QStringList owned = ConfigSession::ownedTopNodes();
+    const QStringList& header = configHeaderKeys();
+    CXmlTagV2* source = from->root();
+    CXmlTagV2* target = out->root();
+    QVector<CXmlTagV2*> keptKeys, keptBranches;
+    for (CXmlTagV2* attr : source->values) {
+        if (!header.contains(attr->name))
+            keptKeys << attr;
+    }
+    for (CXmlTagV2* child : source->children) {
+        if (!owned.contains(child->name))
+            keptBranches << child;
+    }
+    // Reading creates the pages' missing nodes in the source; the kept ones are taken first.
+    for (CXmlTagV2* attr : keptKeys)
+        source->values.deleteTag(attr);
+    for (CXmlTagV2* child : keptBranches)
+        source->children.deleteTag(child);
     CXMLWorkData src(from, cfg::kRootNode);
     for (const cfg::BranchDecl& b : cfg::declaredBranches()) {
         cfg::Values values = cfg::readBranch(&src, b);
@@ -48,7 +65,14 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
             values[i] = cfg::normalizedValue(b.keys[i], values[i]);
         cfg::writeBranch(&dst, b, values);
     }
-    appendKept(dst.tag(), kept.get());
+    for (CXmlTagV2* attr : keptKeys) {
+        attr->parent = target;
+        target->values.addTag(attr);
+    }
+    for (CXmlTagV2* child : keptBranches) {
+        child->parent = target;
+        target->children.addTag(child);
+    }
     fieldset::writeUserParams(&dst, fieldset::readUserParams(&src));
     return out;
 }

@@ -261,10 +261,16 @@ void ZRK_Widget_Config_Full::showConfiguration()
             const zrk::cfg::BranchDecl& decl = branches[b];
             if (decl.keys.isEmpty())
                 continue;
+            // A page already showing these values (the same configuration again) is left alone.
+            const zrk::cfg::Values stored = session.branchValues(decl);
+            if (p.form->shownValues(b) == stored)
+                continue;
             showBranch(p.form, b);
             const zrk::cfg::Values shown = p.form->shownValues(b);
-            for (int i = 0; i < decl.keys.size() && i < shown.size(); ++i)
-                session.absorbValue(nodeOf(decl, decl.keys[i]), decl.keys[i].key, shown[i]);
+            for (int i = 0; i < decl.keys.size() && i < shown.size(); ++i) {
+                if (shown[i] != stored.value(i))
+                    session.absorbValue(nodeOf(decl, decl.keys[i]), decl.keys[i].key, shown[i]);
+            }
         }
     }
     m_other->refresh();
