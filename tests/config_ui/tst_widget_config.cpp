@@ -7,6 +7,7 @@
 #include "config_model/config_keys.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
+#include "config_ui/zrk_dialog_config_compare.h"
 #include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_other.h"
 #include "config_ui/zrk_form_config_track.h"
@@ -588,6 +589,23 @@ private slots:
         QFile::remove(gSent[0].path);
         setReviewBeforeWrite(true);
         setConnected(false);
+    }
+
+    // The review lists every difference once, says how many, and says so when there is none.
+    void reviewDialog()
+    {
+        ZRK_Dialog_Config_Compare dialog;
+        const QVector<zrk::ConfigDifference> two { { "TRACK/POINTS", "dist", "", "300", "250" },
+            { "GUARD/ALARM", "timer", "", "60", "90" } };
+        dialog.setReview(two, "x");
+        QCOMPARE(dialog.rowCount(), 2);
+        QVERIFY2(dialog.summary().contains(": 2."), qPrintable(dialog.summary()));
+        QVERIFY(dialog.reviewAgain());
+        dialog.findChild<QCheckBox*>("checkBox_ReviewAgain")->setChecked(false);
+        QVERIFY(!dialog.reviewAgain());
+        dialog.setReview({}, "x");
+        QCOMPARE(dialog.rowCount(), 0);
+        QVERIFY2(dialog.summary().contains("ничего не изменится"), qPrintable(dialog.summary()));
     }
 
     // The dated copies read from terminals are listed newest first and compare with the editor.
