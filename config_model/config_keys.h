@@ -49,6 +49,11 @@ struct KeyDecl
     bool zeroMeansOff = false; // Integer: 0 switches the setting off, else min..max
     QVector<int> choices; // Integer, Text: the only values allowed, when not empty
     bool checkedApart = false; // lint checks it by a rule of its own (the record mask)
+    // The page's widget showing the key: "name" (its usual value: a box's check, a spin box's
+    // number, a line's text, a list's index), "name.property" (a property of that widget), or
+    // "name:property" (the widget shows it, a property of the page reads and writes it by a rule of
+    // the page; "[n]" after it takes element n of a list). Empty: no page shows it by itself.
+    QString widget;
     // The light editor's widget showing the key (object name); empty when it does not show it.
     QString lightWidget;
 };

@@ -2,9 +2,10 @@
 
 #include "config_model/config_keys.h"
 #include "config_model/zrk_track_caps.h"
+#include "config_ui/zrk_config_binding.h"
 #include "config_ui/zrk_form_config_page.h"
 
-#include <QHash>
+#include <QStringList>
 
 #include <functional>
 
@@ -23,6 +24,21 @@ class ZRK_Designer_Form_Config_Track;
 class ZRK_Form_Config_Track : public ZRK_Form_Config_Page
 {
     Q_OBJECT
+    // The keys whose widgets follow a rule of the page (see the declarations' "widget").
+    Q_PROPERTY(int angleMode READ getAngleMode WRITE setAngleMode)
+    Q_PROPERTY(QString tmrFlags READ getTmrFlags WRITE setTmrFlags)
+    Q_PROPERTY(int minAlt READ getMinAlt WRITE setMinAlt)
+    Q_PROPERTY(int maxAlt READ getMaxAlt WRITE setMaxAlt)
+    Q_PROPERTY(int deltaNtp READ getDeltaNtp WRITE setDeltaNtp)
+    Q_PROPERTY(int coldRstTimer READ getColdRstTimer WRITE setColdRstTimer)
+    Q_PROPERTY(int rejCnt READ getRejCnt WRITE setRejCnt)
+    Q_PROPERTY(int averageMode READ getAverageMode WRITE setAverageMode)
+    Q_PROPERTY(QString sensorAverage READ getSensorAverage WRITE setSensorAverage)
+    Q_PROPERTY(int parkingMode READ getParkingMode WRITE setParkingMode)
+    Q_PROPERTY(QString gnssMode READ getGnssMode WRITE setGnssMode)
+    Q_PROPERTY(int gnssCoord READ getGnssCoord WRITE setGnssCoord)
+    Q_PROPERTY(int locCondition READ getLocCondition WRITE setLocCondition)
+    Q_PROPERTY(QStringList blackList READ getBlackList WRITE setBlackList)
 
 public:
     explicit ZRK_Form_Config_Track(QWidget* parent = nullptr);
@@ -60,6 +76,24 @@ public:
     int getLocConditionCode4Name(const QString& text) const;
     QString getLocConditionName4Code(int code) const;
     QRadioButton* gnssButton(int index) const;
+    int getAngleMode() const;
+    void setAngleMode(int mode);
+    int getMinAlt() const;
+    void setMinAlt(int metres);
+    int getMaxAlt() const;
+    void setMaxAlt(int metres);
+    int getDeltaNtp() const;
+    void setDeltaNtp(int seconds);
+    int getColdRstTimer() const;
+    void setColdRstTimer(int value);
+    int getRejCnt() const;
+    void setRejCnt(int count);
+    int getAverageMode() const;
+    void setAverageMode(int mode);
+    int getLocCondition() const;
+    void setLocCondition(int code);
+    QStringList getBlackList() const;
+    void setBlackList(const QStringList& rows);
     static QString getFloatToStr(float value, int decimals);
     // Enables the density-limit group while any point rule (angle, direction, distance, timer) is on.
     void setRestrictionEnabled();
@@ -101,33 +135,23 @@ private slots:
     void slot_pressed_pushButton_BlackList();
 
 private:
-    // How one declared key meets the form: a getter and setter over the key's text value, and
-    // the widget that shows it (for its tooltip).
-    struct Binding
-    {
-        std::function<QString()> get;
-        std::function<void(const QString&)> set;
-        QWidget* widget = nullptr;
-    };
-    void bind(QHash<QString, Binding>& map, const char* group, const char* key, Binding binding);
-    QVector<Binding> alignBindings(const zrk::cfg::BranchDecl& branch, QHash<QString, Binding>& map);
+    QVector<ZRK_Config_Binding> bindBranch(const zrk::cfg::BranchDecl& branch);
     void setCounter(QAbstractButton* box, QSpinBox* spin, int value, int onValue);
     void applyCounter(QSpinBox* spin, bool on, int onValue);
     void enableSensorAverageForMode();
     void setRangeTips();
-    void bindTrack();
-    void bindLocator();
-    void applyValues(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings,
+    void applyValues(const zrk::cfg::BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings,
         const zrk::cfg::Values& values, bool reset);
-    zrk::cfg::Values collect(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings) const;
+    zrk::cfg::Values collect(
+        const zrk::cfg::BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings) const;
     void runDependentSlots();
 
     ZRK_Track_Caps m_caps;
     Ui::ZRK_Designer_Form_Config_Track* ui;
     zrk::cfg::BranchDecl m_trackDecl;
     zrk::cfg::BranchDecl m_locatorDecl;
-    QVector<Binding> m_trackBind;
-    QVector<Binding> m_locatorBind;
+    QVector<ZRK_Config_Binding> m_trackBind;
+    QVector<ZRK_Config_Binding> m_locatorBind;
     ZRK_Form_Config_Track_Locator_BList* m_blackList = nullptr;
     QString m_tabTitle;
 };
