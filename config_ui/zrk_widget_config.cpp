@@ -319,8 +319,6 @@ QByteArray ZRK_Widget_Config::currentXml()
 
 bool ZRK_Widget_Config::openFileTitles(zrk::DeviceTitles* titles, QStringList* userParamTypes)
 {
-    if (!isVisible())
-        return false;
     const zrk::ConfigLoadResult loaded = zrk::loadConfigBytes(currentXml());
     if (!loaded.doc)
         return false;
