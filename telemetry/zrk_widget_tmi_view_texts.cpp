@@ -11,7 +11,7 @@ namespace {
     QT_TRID_NOOP("tmiw_003"),
     //% "Показать"
     QT_TRID_NOOP("tmiw_004"),
-    //% "Часы терминала, UTC +"
+    //% "Часы терминала от UTC:"
     QT_TRID_NOOP("tmiw_005"),
     //% "Автозапрос"
     QT_TRID_NOOP("tmiw_006"),

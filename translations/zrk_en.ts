@@ -1874,8 +1874,8 @@ Built %7</translation>
         <translation>Show</translation>
     </message>
     <message id="tmiw_005">
-        <source>Часы терминала, UTC +</source>
-        <translation>Terminal clock, UTC +</translation>
+        <source>Часы терминала от UTC:</source>
+        <translation>Terminal clock from UTC:</translation>
     </message>
     <message id="tmiw_006">
         <source>Автозапрос</source>

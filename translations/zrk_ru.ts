@@ -1874,8 +1874,8 @@
         <translation>Показать</translation>
     </message>
     <message id="tmiw_005">
-        <source>Часы терминала, UTC +</source>
-        <translation>Часы терминала, UTC +</translation>
+        <source>Часы терминала от UTC:</source>
+        <translation>Часы терминала от UTC:</translation>
     </message>
     <message id="tmiw_006">
         <source>Автозапрос</source>
