@@ -16,6 +16,19 @@ QString hexByte(unsigned char b)
     return QStringLiteral("%1").arg(b, 2, 16, QLatin1Char('0')).toUpper();
 }
 
+// The host's text for a code, asked once per code.
+template <typename Code>
+QString askOnce(QHash<Code, QString>& cache, int msg, Code code, const ZRK_Tmi_Record_Area::Send& send)
+{
+    auto it = cache.constFind(code);
+    if (it != cache.constEnd())
+        return *it;
+    QString text;
+    send(msg, code, reinterpret_cast<unsigned long>(&text));
+    cache.insert(code, text);
+    return text;
+}
+
 } // namespace
 
 ZRK_Tmi_Record_Area::ZRK_Tmi_Record_Area(
@@ -97,22 +110,10 @@ void ZRK_Tmi_Record_Area::showWidget(QWidget* w)
 
 QString ZRK_Tmi_Record_Area::eventText(quint16 code)
 {
-    auto it = m_eventTexts.constFind(code);
-    if (it != m_eventTexts.constEnd())
-        return *it;
-    QString text;
-    m_send(ZRK_MSG_EVENT_CODE_TEXT, code, reinterpret_cast<unsigned long>(&text));
-    m_eventTexts.insert(code, text);
-    return text;
+    return askOnce(m_eventTexts, ZRK_MSG_EVENT_CODE_TEXT, code, m_send);
 }
 
 QString ZRK_Tmi_Record_Area::diagnosticText(quint8 code)
 {
-    auto it = m_diagnosticTexts.constFind(code);
-    if (it != m_diagnosticTexts.constEnd())
-        return *it;
-    QString text;
-    m_send(ZRK_MSG_DIAGNOSTIC_CODE_TEXT, code, reinterpret_cast<unsigned long>(&text));
-    m_diagnosticTexts.insert(code, text);
-    return text;
+    return askOnce(m_diagnosticTexts, ZRK_MSG_DIAGNOSTIC_CODE_TEXT, code, m_send);
 }
