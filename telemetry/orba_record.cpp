@@ -2,14 +2,10 @@
 
 #include "config_model/cp1251.h"
 
-#include <QDateTime>
-#include <QLocale>
 #include <QTextStream>
 #include <QtEndian>
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 
 namespace orba {
 
@@ -119,49 +115,71 @@ void buildPlan(RunPlan& plan, const unsigned char* mask, int lastField)
         add(first, end);
 }
 
-QString withUnit(const QString& number)
+// The sub-values of each field, [first, end) in kSubValues: the table keeps a field's rows together.
+struct SubRange
 {
-    return QStringLiteral("%1 %2").arg(number, temperatureUnit());
-}
-
-// value / 10^decimals with exactly that many decimals, from an integer, so no binary rounding
-// shows in the text.
-QString fixedPoint(qint64 value, int decimals)
+    int first = 0, end = 0;
+};
+constexpr std::array<SubRange, kFieldCount + 1> makeSubRanges()
 {
-    qint64 scale = 1;
-    for (int i = 0; i < decimals; ++i)
-        scale *= 10;
-    const bool negative = value < 0;
-    const quint64 a = negative ? quint64(0) - quint64(value) : quint64(value);
-    QString s = QString::number(a / quint64(scale));
-    if (decimals > 0)
-        s += QLatin1Char('.') + QStringLiteral("%1").arg(a % quint64(scale), decimals, 10, QLatin1Char('0'));
-    return negative ? QLatin1Char('-') + s : s;
-}
-
-QString shortestFloat(double v, bool single)
-{
-    if (!std::isfinite(v))
-        return QString::number(v);
-    char buf[64];
-    const auto r = single ? std::to_chars(buf, buf + sizeof buf, static_cast<float>(v))
-                          : std::to_chars(buf, buf + sizeof buf, v);
-    return QString::fromLatin1(buf, int(r.ptr - buf));
-}
-
-QString partsText(int field, const unsigned char* fieldBytes)
-{
-    QStringList parts;
-    for (int id = 0; id < kSubCount; ++id) {
-        const SubInfo& s = kSubValues[id];
-        if (s.field == field && s.shown)
-            parts << QStringLiteral("%1 %2").arg(
-                QLatin1String(s.label), subValueText(id, fieldBytes - kOffsets[field]));
+    std::array<SubRange, kFieldCount + 1> r {};
+    for (int id = kSubCount - 1; id >= 0; --id) {
+        SubRange& f = r[kSubValues[id].field];
+        if (f.end == 0)
+            f.end = id + 1;
+        f.first = id;
     }
-    return parts.join(QStringLiteral(", "));
+    return r;
+}
+inline constexpr std::array<SubRange, kFieldCount + 1> kSubRanges = makeSubRanges();
+
+constexpr bool subValuesAreGrouped()
+{
+    for (int id = 0; id < kSubCount; ++id) {
+        const SubRange& f = kSubRanges[kSubValues[id].field];
+        if (id < f.first || id >= f.end)
+            return false;
+    }
+    for (int no = 1; no <= kFieldCount; ++no) {
+        for (int id = kSubRanges[no].first; id < kSubRanges[no].end; ++id) {
+            if (kSubValues[id].field != no)
+                return false;
+        }
+    }
+    return true;
+}
+static_assert(subValuesAreGrouped(), "the sub-values of a field are consecutive rows");
+
+void appendWithUnit(zrk::TextBuffer& out, qint64 number, TextContext& context)
+{
+    out.appendSigned(number);
+    out.append(' ');
+    out.append(context.unit);
 }
 
-QString valueText(Rule rule, Type type, int width, const unsigned char* p, int field)
+void appendNoData(zrk::TextBuffer& out)
+{
+    out.appendLiteral("n/a");
+}
+
+void appendParts(zrk::TextBuffer& out, int field, const unsigned char* fieldBytes, TextContext& context)
+{
+    bool first = true;
+    for (int id = kSubRanges[field].first; id < kSubRanges[field].end; ++id) {
+        const SubInfo& s = kSubValues[id];
+        if (!s.shown)
+            continue;
+        if (!first)
+            out.appendLiteral(", ");
+        first = false;
+        out.append(s.label, std::strlen(s.label));
+        out.append(' ');
+        appendSubValueText(out, id, fieldBytes - kOffsets[field], context);
+    }
+}
+
+void appendValueText(zrk::TextBuffer& out, Rule rule, Type type, int width, const unsigned char* p, int field,
+    TextContext& context)
 {
     const quint64 u = type == Type::B ? 0 : readLE(p, std::min(width, 8));
     const qint64 s = signExtend(u, std::min(width, 8));
@@ -169,35 +187,70 @@ QString valueText(Rule rule, Type type, int width, const unsigned char* p, int f
     case Rule::Plain:
         break;
     case Rule::DateTime:
-        return dateTimeText(quint32(u));
+        appendDateTime(out, quint32(u), context.clock);
+        return;
     case Rule::Coord:
-        return coordinateText(qint32(s));
+        appendCoordinate(out, qint32(s));
+        return;
     case Rule::Altitude:
-        return QString::number(qint32(s) / 10);
+        out.appendSigned(qint32(s) / 10);
+        return;
     case Rule::Float2:
-        return QString::number(double(readValue<4, Type::F>(p)), 'f', 2);
+        out.appendFixed(double(readValue<4, Type::F>(p)), 2);
+        return;
     case Rule::Volts:
         // Rounded half up to hundredths of a volt.
-        return fixedPoint(qint64((u + 5) / 10), 2);
+        out.appendFixedPoint(qint64((u + 5) / 10), 2);
+        return;
     case Rule::Temp:
-        return s == -128 ? QString() : withUnit(QString::number(s));
+        if (s != -128)
+            appendWithUnit(out, s, context);
+        return;
     case Rule::HpTemp:
         // 1/20 degree is 5 hundredths: exact in two decimals.
-        return u == 0x8000 ? noDataText() : withUnit(fixedPoint(s * 5, 2));
+        if (u == 0x8000) {
+            appendNoData(out);
+        } else {
+            out.appendFixedPoint(s * 5, 2);
+            out.append(' ');
+            out.append(context.unit);
+        }
+        return;
     case Rule::SignedTemp:
-        return withUnit(QString::number(s));
+        appendWithUnit(out, s, context);
+        return;
     case Rule::Bits:
-        return QStringLiteral("%1 (%2)").arg(u, 8, 2, QLatin1Char('0')).arg(partsText(field, p));
+        out.appendBits(static_cast<unsigned char>(u));
+        out.appendLiteral(" (");
+        appendParts(out, field, p, context);
+        out.append(')');
+        return;
     case Rule::Parts:
-        return partsText(field, p);
+        appendParts(out, field, p, context);
+        return;
     case Rule::Tenths:
-        return fixedPoint(qint64(u), 1);
+        out.appendFixedPoint(qint64(u), 1);
+        return;
     case Rule::TyreTemp:
-        return u == 0x81 ? noDataText() : QString::number(s);
+        if (u == 0x81)
+            appendNoData(out);
+        else
+            out.appendSigned(s);
+        return;
     case Rule::Degrees:
-        return QString::number(readValue<8, Type::D>(p), 'f', 6);
+        out.appendFixed(readValue<8, Type::D>(p), 6);
+        return;
     }
-    return numberText(type, width, p);
+    appendNumberText(out, type, width, p);
+}
+
+// A text made by an append function, as a QString.
+template <class F> QString textOf(F&& append)
+{
+    thread_local zrk::TextBuffer buffer;
+    buffer.clear();
+    append(buffer);
+    return buffer.toString();
 }
 
 } // namespace
@@ -308,6 +361,11 @@ void writeXmlPageExt(QTextStream& out, const szExtTMI_ORBA3& ext)
     out << "\t</Page>\r\n";
 }
 
+TextContext::TextContext()
+    : unit(temperatureUnit().toUtf8())
+{
+}
+
 QString noDataText()
 {
     return QStringLiteral("n/a");
@@ -319,10 +377,36 @@ QString temperatureUnit()
     return qtTrId("abbr_017");
 }
 
+void appendDateTime(zrk::TextBuffer& out, quint32 unixSeconds, zrk::LocalClock& clock)
+{
+    // "dd.MM.yyyy H:mm:ss"
+    const zrk::CivilTime t = clock.civil(qint64(unixSeconds));
+    char* p = out.room(20);
+    const auto two = [&p](int v) {
+        *p++ = char('0' + v / 10);
+        *p++ = char('0' + v % 10);
+    };
+    two(t.day);
+    *p++ = '.';
+    two(t.month);
+    *p++ = '.';
+    two(t.year / 100);
+    two(t.year % 100);
+    *p++ = ' ';
+    if (t.hour >= 10)
+        *p++ = char('0' + t.hour / 10);
+    *p++ = char('0' + t.hour % 10);
+    *p++ = ':';
+    two(t.minute);
+    *p++ = ':';
+    two(t.second);
+    out.advance(std::size_t(p - (out.data() + out.size())));
+}
+
 QString dateTimeText(quint32 unixSeconds)
 {
-    const QDateTime t = QDateTime::fromSecsSinceEpoch(qint64(unixSeconds), Qt::LocalTime);
-    return QLocale::c().toString(t, QStringLiteral("dd.MM.yyyy H:mm:ss"));
+    zrk::LocalClock clock;
+    return textOf([&](zrk::TextBuffer& out) { appendDateTime(out, unixSeconds, clock); });
 }
 
 QString utcOffsetText(int seconds)
@@ -335,55 +419,98 @@ QString utcOffsetText(int seconds)
     return QStringLiteral("(UTC %1%2)").arg(sign).arg(hours);
 }
 
-QString coordinateText(qint32 value)
+void appendCoordinate(zrk::TextBuffer& out, qint32 value)
 {
     const qint32 degrees = value / 600000;
     const qint64 rest = qint64(value) - 600000 * qint64(degrees); // same sign as value
-    return QStringLiteral("%1 %2'").arg(degrees).arg(fixedPoint(rest, 4));
+    out.appendSigned(degrees);
+    out.append(' ');
+    out.appendFixedPoint(rest, 4);
+    out.append('\'');
+}
+
+QString coordinateText(qint32 value)
+{
+    return textOf([&](zrk::TextBuffer& out) { appendCoordinate(out, value); });
+}
+
+void appendFieldText(zrk::TextBuffer& out, int no, const unsigned char* rec, TextContext& context)
+{
+    if (no < 1 || no > kFieldCount) {
+        appendNoData(out);
+        return;
+    }
+    const FieldInfo& f = kFields[no - 1];
+    appendValueText(out, f.rule, f.type, f.width, rec + kOffsets[no], no, context);
 }
 
 QString fieldText(int no, const unsigned char* rec)
 {
-    if (no < 1 || no > kFieldCount)
-        return noDataText();
-    const FieldInfo& f = kFields[no - 1];
-    return valueText(f.rule, f.type, f.width, rec + kOffsets[no], no);
+    TextContext c;
+    return textOf([&](zrk::TextBuffer& out) { appendFieldText(out, no, rec, c); });
+}
+
+void appendSubValueText(zrk::TextBuffer& out, int id, const unsigned char* rec, TextContext& context)
+{
+    if (id < 0 || id >= kSubCount) {
+        appendNoData(out);
+        return;
+    }
+    const SubInfo& s = kSubValues[id];
+    const unsigned char* p = rec + kOffsets[s.field] + s.offset;
+    if (s.bits != 0)
+        out.appendUnsigned(bitsFromByte(p[0], s.shift, s.bits));
+    else
+        appendValueText(out, s.rule, s.type, s.width, p, s.field, context);
 }
 
 QString subValueText(int id, const unsigned char* rec)
 {
-    if (id < 0 || id >= kSubCount)
-        return noDataText();
-    const SubInfo& s = kSubValues[id];
-    const unsigned char* p = rec + kOffsets[s.field] + s.offset;
-    if (s.bits != 0)
-        return QString::number(bitsFromByte(p[0], s.shift, s.bits));
-    return valueText(s.rule, s.type, s.width, p, s.field);
+    TextContext c;
+    return textOf([&](zrk::TextBuffer& out) { appendSubValueText(out, id, rec, c); });
+}
+
+void appendExtFieldText(zrk::TextBuffer& out, int id, const szExtTMI_ORBA3& ext, TextContext& context)
+{
+    if (id < 0 || id >= kExtCount) {
+        appendNoData(out);
+        return;
+    }
+    const ExtInfo& e = kExtFields[id];
+    appendValueText(
+        out, e.rule, e.type, e.width, reinterpret_cast<const unsigned char*>(&ext) + e.offset, 0, context);
 }
 
 QString extFieldText(int id, const szExtTMI_ORBA3& ext)
 {
-    if (id < 0 || id >= kExtCount)
-        return noDataText();
-    const ExtInfo& e = kExtFields[id];
-    return valueText(e.rule, e.type, e.width, reinterpret_cast<const unsigned char*>(&ext) + e.offset, 0);
+    TextContext c;
+    return textOf([&](zrk::TextBuffer& out) { appendExtFieldText(out, id, ext, c); });
+}
+
+void appendNumberText(zrk::TextBuffer& out, Type type, int width, const unsigned char* p)
+{
+    switch (type) {
+    case Type::U:
+        out.appendUnsigned(readLE(p, width));
+        return;
+    case Type::S:
+        out.appendSigned(signExtend(readLE(p, width), width));
+        return;
+    case Type::F:
+        out.appendShortest(readValue<4, Type::F>(p));
+        return;
+    case Type::D:
+        out.appendShortest(readValue<8, Type::D>(p));
+        return;
+    case Type::B:
+        break;
+    }
+    out.appendHex(p, width);
 }
 
 QString numberText(Type type, int width, const unsigned char* p)
 {
-    switch (type) {
-    case Type::U:
-        return QString::number(readLE(p, width));
-    case Type::S:
-        return QString::number(signExtend(readLE(p, width), width));
-    case Type::F:
-        return shortestFloat(double(readValue<4, Type::F>(p)), true);
-    case Type::D:
-        return shortestFloat(readValue<8, Type::D>(p), false);
-    case Type::B:
-        break;
-    }
-    return QString::fromLatin1(QByteArray(reinterpret_cast<const char*>(p), width).toHex());
+    return textOf([&](zrk::TextBuffer& out) { appendNumberText(out, type, width, p); });
 }
 
 } // namespace orba
