@@ -57,14 +57,15 @@ __attribute__((always_inline)) inline int copyRun(
 }
 
 // The runs of present fields of one mask: where each goes in the structure and how long it is, in
-// field order. A terminal sends the same field set record after record, so the plan of the last
-// mask is kept (per thread) and the mask walk is skipped while the mask stays the same.
+// field order. Plans are kept (PlanCache), so the mask walk is done once per field set.
 struct RunPlan
 {
     unsigned char mask[kMaskBytes];
     int lastField = -1; // no plan yet
     int count = 0;
+    int total = 0; // body bytes of all runs
     qint16 to[kFieldCount / 2 + 1]; // at most every other field starts a run
+    qint16 from[kFieldCount / 2 + 1]; // where the run starts in the body
     qint16 size[kFieldCount / 2 + 1];
 };
 
@@ -73,12 +74,15 @@ void buildPlan(RunPlan& plan, const unsigned char* mask, int lastField)
     std::memcpy(plan.mask, mask, kMaskBytes);
     plan.lastField = lastField;
     plan.count = 0;
+    plan.total = 0;
     // The pending run of present fields, as bit positions [first, end) (position = number - 1);
     // runs that meet at a 64-bit word boundary are joined into one.
     int first = -1, end = -1;
     auto add = [&plan](int runFirst, int runEnd) {
         plan.to[plan.count] = qint16(kOffsets[runFirst + 1]);
         plan.size[plan.count] = qint16(kOffsets[runEnd + 1] - kOffsets[runFirst + 1]);
+        plan.from[plan.count] = qint16(plan.total);
+        plan.total += plan.size[plan.count];
         ++plan.count;
     };
     for (int wi = 0; wi < 4; ++wi) {
@@ -253,6 +257,57 @@ template <class F> QString textOf(F&& append)
     return buffer.toString();
 }
 
+// The plans of the field sets met last, per thread. A terminal sends the same field set record after
+// record, and an archive of many terminals moves among a few: the plan of the record before is
+// tried first, then the four kept for masks of the same hash, the oldest of which gives way.
+class PlanCache
+{
+public:
+    const RunPlan& planFor(const unsigned char* mask, int lastField)
+    {
+        quint64 words[4];
+        std::memcpy(words, mask, sizeof words);
+        const quint64 hash
+            = (words[0] ^ (words[1] * 0x9E3779B97F4A7C15ULL) ^ (words[2] * 0xC2B2AE3D27D4EB4FULL)
+                  ^ (words[3] * 0x165667B19E3779F9ULL) ^ quint64(lastField))
+            * 0xFF51AFD7ED558CCDULL;
+        if (m_last && fits(*m_last, hash, mask, lastField))
+            return m_last->plan;
+        Set& set = m_sets[hash >> (64 - kSetBits)];
+        for (Way& way : set.ways) {
+            if (fits(way, hash, mask, lastField))
+                return (m_last = &way)->plan;
+        }
+        Way& oldest = set.ways[set.next];
+        set.next = (set.next + 1) % kWays;
+        oldest.hash = hash;
+        buildPlan(oldest.plan, mask, lastField);
+        return (m_last = &oldest)->plan;
+    }
+
+private:
+    static constexpr int kSetBits = 3;
+    static constexpr int kWays = 4;
+    struct Way
+    {
+        quint64 hash = 0;
+        RunPlan plan;
+    };
+    struct Set
+    {
+        Way ways[kWays];
+        int next = 0;
+    };
+    static bool fits(const Way& way, quint64 hash, const unsigned char* mask, int lastField)
+    {
+        return way.hash == hash && way.plan.lastField == lastField
+            && std::memcmp(way.plan.mask, mask, kMaskBytes) == 0;
+    }
+
+    Set m_sets[1 << kSetBits];
+    const Way* m_last = nullptr;
+};
+
 } // namespace
 
 void decodeFields(
@@ -260,9 +315,14 @@ void decodeFields(
 {
     if (!body || len < 0)
         len = 0;
-    thread_local RunPlan plan;
-    if (plan.lastField != lastField || std::memcmp(plan.mask, mask, kMaskBytes) != 0)
-        buildPlan(plan, mask, lastField);
+    thread_local PlanCache plans;
+    const RunPlan& plan = plans.planFor(mask, lastField);
+    if (len >= plan.total) {
+        // The whole body is there, as in every record a terminal sends: copies only.
+        for (int i = 0; i < plan.count; ++i)
+            copyBytes(rec + plan.to[i], body + plan.from[i], plan.size[i]);
+        return;
+    }
     int at = 0; // read position in the body
     for (int i = 0; i < plan.count; ++i)
         at = copyRun(plan.to[i], plan.size[i], body, len, at, rec);
