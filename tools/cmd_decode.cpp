@@ -128,8 +128,9 @@ void decodeBatch(Batch& b, orba::RecordWriter& writer, std::vector<unsigned char
 class Progress
 {
 public:
-    Progress(bool on, QTextStream& err)
-        : m_on(on)
+    Progress(const QString& who, bool on, QTextStream& err)
+        : m_who(who)
+        , m_on(on)
         , m_terminal(isatty(STDERR_FILENO) != 0)
         , m_err(err)
         , m_start(Clock::now())
@@ -158,7 +159,7 @@ private:
         const double seconds = std::chrono::duration<double>(Clock::now() - m_start).count();
         const qint64 rate = seconds > 0 ? qint64(double(m_records) / seconds) : 0;
         const QString text
-            = QStringLiteral("zrk-tool decode: %1 records, %2 records/s").arg(m_records).arg(rate);
+            = QStringLiteral("%1: %2 records, %3 records/s").arg(m_who).arg(m_records).arg(rate);
         if (m_terminal)
             m_err << '\r' << text << "\x1b[K" << (last ? "\n" : "");
         else
@@ -166,6 +167,7 @@ private:
         m_err.flush();
     }
 
+    QString m_who;
     bool m_on;
     bool m_terminal;
     QTextStream& m_err;
@@ -178,8 +180,10 @@ private:
 class Pipeline
 {
 public:
-    Pipeline(int jobs, orba::RecordWriter::Format format, Progress& progress, QTextStream& err)
-        : m_progress(progress)
+    Pipeline(
+        const QString& who, int jobs, orba::RecordWriter::Format format, Progress& progress, QTextStream& err)
+        : m_who(who)
+        , m_progress(progress)
         , m_err(err)
         , m_limit(size_t(2 * jobs + 2))
     {
@@ -225,6 +229,13 @@ public:
         return m_failed ? 1 : 0;
     }
 
+    // Says why the command fails; nothing more is written after it.
+    void fail(const QString& why)
+    {
+        m_err << m_who << ": " << why << '\n';
+        m_failed = true;
+    }
+
     // Writes text that is not a batch's, such as the CSV header.
     bool writeText(const char* data, size_t size)
     {
@@ -233,8 +244,8 @@ public:
             if (n < 0 && errno == EINTR)
                 continue;
             if (n <= 0) {
-                m_err << "zrk-tool decode: cannot write the output: " << std::strerror(errno) << '\n';
-                m_failed = true;
+                fail(QStringLiteral("cannot write the output: %1")
+                         .arg(QString::fromLocal8Bit(std::strerror(errno))));
                 return false;
             }
             data += n;
@@ -268,8 +279,7 @@ private:
         m_progress.add(b.records);
         const QString& error = b.error.isEmpty() ? b.readError : b.error;
         if (!error.isEmpty()) {
-            m_err << "zrk-tool decode: " << error << '\n';
-            m_failed = true;
+            fail(error);
         }
     }
 
@@ -308,6 +318,7 @@ private:
         m_threads.clear();
     }
 
+    QString m_who; // "zrk-tool decode", before every message
     Progress& m_progress;
     QTextStream& m_err;
     const size_t m_limit; // batches in flight at most, so memory stays bounded
@@ -430,7 +441,7 @@ std::unique_ptr<Batch> newBatch(InputKind kind, const QString& where)
 }
 
 // Lines of hex, cut into batches at line ends.
-bool readHex(Reader& reader, Pipeline& pipeline, QTextStream& err)
+bool readHex(Reader& reader, Pipeline& pipeline)
 {
     std::string carry; // the start of a line the last block cut
     qint64 line = 1;
@@ -439,7 +450,7 @@ bool readHex(Reader& reader, Pipeline& pipeline, QTextStream& err)
         carry.clear();
         const int r = reader.readSome(block, kBlockBytes);
         if (r < 0) {
-            err << "zrk-tool decode: " << reader.readError() << '\n';
+            pipeline.fail(reader.readError());
             return false;
         }
         const bool atEnd = r == 0;
@@ -464,11 +475,11 @@ bool readHex(Reader& reader, Pipeline& pipeline, QTextStream& err)
 }
 
 // The whole input as one record.
-bool readBinary(Reader& reader, Pipeline& pipeline, QTextStream& err)
+bool readBinary(Reader& reader, Pipeline& pipeline)
 {
     auto b = newBatch(InputKind::Binary, reader.where());
     if (!reader.readAll(b->text)) {
-        err << "zrk-tool decode: " << reader.readError() << '\n';
+        pipeline.fail(reader.readError());
         return false;
     }
     b->ends.push_back(int(b->text.size()));
@@ -476,11 +487,11 @@ bool readBinary(Reader& reader, Pipeline& pipeline, QTextStream& err)
 }
 
 // The records of a saved file, through the file reader the viewers use.
-bool readTmi(Reader& reader, Pipeline& pipeline, QTextStream& err)
+bool readTmi(Reader& reader, Pipeline& pipeline)
 {
     std::string all;
     if (!reader.readAll(all)) {
-        err << "zrk-tool decode: " << reader.readError() << '\n';
+        pipeline.fail(reader.readError());
         return false;
     }
     auto b = newBatch(InputKind::Tmi, reader.where());
@@ -604,8 +615,9 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
     zrk::installCatalogue(language);
     out.flush();
     const auto format = csv ? orba::RecordWriter::Format::Csv : orba::RecordWriter::Format::JsonLines;
-    Progress shown(progress == 1 || (progress < 0 && !haveHex && isatty(STDERR_FILENO)), err);
-    Pipeline pipeline(haveHex ? 1 : jobs, format, shown, err);
+    const QString who = QStringLiteral("zrk-tool ") + name;
+    Progress shown(who, progress == 1 || (progress < 0 && !haveHex && isatty(STDERR_FILENO)), err);
+    Pipeline pipeline(who, haveHex ? 1 : jobs, format, shown, err);
     zrk::TextBuffer head;
     pipeline.firstWriter().writeHeader(head);
     if (!pipeline.writeText(head.data(), head.size()))
@@ -637,14 +649,14 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
     for (const auto& reader : readers) {
         switch (reader->kind()) {
         case InputKind::Binary:
-            ok = readBinary(*reader, pipeline, err);
+            ok = readBinary(*reader, pipeline);
             break;
         case InputKind::Tmi:
-            ok = readTmi(*reader, pipeline, err);
+            ok = readTmi(*reader, pipeline);
             break;
         case InputKind::Auto:
         case InputKind::Hex:
-            ok = readHex(*reader, pipeline, err);
+            ok = readHex(*reader, pipeline);
             break;
         }
         if (!ok)
