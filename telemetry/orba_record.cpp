@@ -166,6 +166,18 @@ void appendNoData(zrk::TextBuffer& out)
     out.appendLiteral("n/a");
 }
 
+// The labels' lengths, counted once.
+constexpr std::array<int, kSubCount> makeLabelLengths()
+{
+    std::array<int, kSubCount> n {};
+    for (int id = 0; id < kSubCount; ++id) {
+        while (kSubValues[id].label[n[id]] != '\0')
+            ++n[id];
+    }
+    return n;
+}
+inline constexpr std::array<int, kSubCount> kLabelLengths = makeLabelLengths();
+
 void appendParts(zrk::TextBuffer& out, int field, const unsigned char* fieldBytes, TextContext& context)
 {
     bool first = true;
@@ -176,7 +188,7 @@ void appendParts(zrk::TextBuffer& out, int field, const unsigned char* fieldByte
         if (!first)
             out.appendLiteral(", ");
         first = false;
-        out.append(s.label, std::strlen(s.label));
+        out.append(s.label, std::size_t(kLabelLengths[id]));
         out.append(' ');
         appendSubValueText(out, id, fieldBytes - kOffsets[field], context);
     }

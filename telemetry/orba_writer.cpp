@@ -39,6 +39,16 @@ void appendJsonInteger(zrk::TextBuffer& out, quint64 magnitude, bool negative)
         out.append('"');
 }
 
+// An integer value JSON holds exactly, written as a number.
+bool exactInJson(Type type, int width, const unsigned char* p)
+{
+    const quint64 u = readLE(p, width);
+    if (type != Type::S)
+        return u <= kJsonExactInteger;
+    const qint64 v = signExtend(u, width);
+    return (v < 0 ? quint64(0) - quint64(v) : quint64(v)) <= kJsonExactInteger;
+}
+
 // A stored value as recordJson writes it.
 void appendJsonValue(zrk::TextBuffer& out, Type type, int width, const unsigned char* p)
 {
@@ -88,6 +98,33 @@ void appendByteOrEmpty(zrk::TextBuffer& out, const unsigned char* buf, int len, 
 {
     if (i < len)
         out.appendUnsigned(buf[i]);
+}
+
+// The field-set characters of each mask byte.
+struct FormatTable
+{
+    char of[256][8];
+};
+constexpr FormatTable makeFormatTable()
+{
+    FormatTable t {};
+    for (int b = 0; b < 256; ++b) {
+        for (int i = 0; i < 8; ++i)
+            t.of[b][i] = (b >> (7 - i)) & 1 ? '1' : '0';
+    }
+    return t;
+}
+constexpr FormatTable kFormatOfByte = makeFormatTable();
+
+// True when a text holds a character a JSON string must escape.
+bool needsJsonEscape(const char* text, std::size_t n)
+{
+    for (std::size_t i = 0; i < n; ++i) {
+        const unsigned char c = static_cast<unsigned char>(text[i]);
+        if (c < 0x20 || c == '"' || c == '\\')
+            return true;
+    }
+    return false;
 }
 
 // 1, 2 or 3 for the version byte of a current record; 0 for any other byte.
@@ -149,6 +186,11 @@ RecordWriter::RecordWriter(Format format, const char* lineEnd)
         at[kFieldCount + 1] = int(b.size());
         (present ? m_present : m_absent) = QByteArray(b.data(), int(b.size()));
     }
+    // A field's text is made of numbers, signs, points, the labels of its values and the unit: it
+    // needs escaping in JSON only when a label or the unit does.
+    m_textsArePlain = !needsJsonEscape(m_context.unit.constData(), std::size_t(m_context.unit.size()));
+    for (const SubInfo& sub : kSubValues)
+        m_textsArePlain = m_textsArePlain && !needsJsonEscape(sub.label, std::strlen(sub.label));
     // CSV.
     m_csvHeader = zrk::csvLine(csvHeader()).toUtf8();
     for (int no = 1; no <= kFieldCount; ++no)
@@ -230,10 +272,27 @@ void RecordWriter::writeJsonFields(const Fields& f, zrk::TextBuffer& out)
             m_present.constData() + m_presentAt[no], std::size_t(m_presentAt[no + 1] - m_presentAt[no]));
         const std::size_t from = out.size();
         appendFieldText(out, no, f.rec, m_context);
-        escapeJson(out, from);
+        const std::size_t textSize = out.size() - from;
+        if (!m_textsArePlain)
+            escapeJson(out, from);
         out.appendLiteral("\",\"value\":");
         const FieldInfo& info = kFields[no - 1];
-        appendJsonValue(out, info.type, info.width, f.rec + kOffsets[no]);
+        if (m_textsArePlain && info.rule == Rule::Plain && (info.type == Type::U || info.type == Type::S)) {
+            // The text is the number already: copied, not made again (a string when JSON cannot
+            // hold it exactly).
+            const bool exact = exactInJson(info.type, info.width, f.rec + kOffsets[no]);
+            char* to = out.room(textSize + 2);
+            const char* text = out.data() + from;
+            if (!exact)
+                *to++ = '"';
+            std::memcpy(to, text, textSize);
+            to += textSize;
+            if (!exact)
+                *to++ = '"';
+            out.advance(textSize + (exact ? 0 : 2));
+        } else {
+            appendJsonValue(out, info.type, info.width, f.rec + kOffsets[no]);
+        }
         out.append('}');
         next = no + 1;
     });
@@ -281,9 +340,10 @@ void RecordWriter::writeCsvFields(const Fields& f, const unsigned char* buf, int
 
 void RecordWriter::writeFormat(const unsigned char* mask, int lastField, zrk::TextBuffer& out) const
 {
-    char* p = out.room(std::size_t(lastField));
-    for (int no = 1; no <= lastField; ++no)
-        *p++ = zrkOrbaMaskBit(mask, no) ? '1' : '0';
+    // Eight characters a mask byte, the field of its high bit first; the last byte's tail is cut.
+    char* p = out.room(std::size_t(kMaskBytes) * 8);
+    for (int byte = 0; byte * 8 < lastField; ++byte)
+        std::memcpy(p + byte * 8, kFormatOfByte.of[mask[byte]], 8);
     out.advance(std::size_t(lastField));
 }
 

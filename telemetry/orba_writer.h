@@ -70,6 +70,7 @@ private:
     Format m_format;
     QByteArray m_lineEnd;
     TextContext m_context;
+    bool m_textsArePlain = false; // no field text needs escaping in JSON
     zrk::TextBuffer m_scratch;
     szCurrentTMI_ORBA3 m_rec = {};
 

@@ -199,6 +199,22 @@ public:
 
     orba::RecordWriter& firstWriter() { return *m_writers.front(); }
 
+    // An empty batch for the reader. Batches are used again once written, with the room their
+    // text and output took: an output of tens of megabytes is not asked of the system anew.
+    std::unique_ptr<Batch> take(InputKind kind, const QString& where)
+    {
+        std::unique_ptr<Batch> b;
+        if (m_free.empty()) {
+            b = std::make_unique<Batch>();
+        } else {
+            b = std::move(m_free.back());
+            m_free.pop_back();
+        }
+        b->kind = kind;
+        b->where = where;
+        return b;
+    }
+
     // Hands a batch over; false once the output has failed or an input error was written, so
     // reading should stop.
     bool submit(std::unique_ptr<Batch> batch)
@@ -208,6 +224,7 @@ public:
         if (m_threads.empty()) {
             decodeBatch(*batch, *m_writers.front(), m_bytes);
             writeOut(*batch);
+            recycle(std::move(batch));
             return !m_failed;
         }
         {
@@ -267,9 +284,23 @@ private:
                 m_batchDone.wait(lock, [head] { return head->done; });
             }
             writeOut(*head);
+            recycle(std::move(m_inOrder.front()));
             m_inOrder.pop_front();
             wait = m_inOrder.size() >= m_limit;
         }
+    }
+
+    void recycle(std::unique_ptr<Batch> b)
+    {
+        b->text.clear();
+        b->ends.clear();
+        b->firstLine = 1;
+        b->readError.clear();
+        b->out.clear();
+        b->records = 0;
+        b->error.clear();
+        b->done = false;
+        m_free.push_back(std::move(b));
     }
 
     void writeOut(Batch& b)
@@ -328,6 +359,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_workReady, m_batchDone;
     std::deque<std::unique_ptr<Batch>> m_inOrder; // submitted, not written yet
+    std::vector<std::unique_ptr<Batch>> m_free; // written, to be used again
     std::deque<Batch*> m_pending; // submitted, not taken by a thread yet
     bool m_stopping = false;
     bool m_failed = false;
@@ -432,52 +464,46 @@ private:
     std::string m_peeked; // read to tell the kind, not handed out yet
 };
 
-std::unique_ptr<Batch> newBatch(InputKind kind, const QString& where)
-{
-    auto b = std::make_unique<Batch>();
-    b->kind = kind;
-    b->where = where;
-    return b;
-}
-
 // Lines of hex, cut into batches at line ends.
 bool readHex(Reader& reader, Pipeline& pipeline)
 {
-    std::string carry; // the start of a line the last block cut
     qint64 line = 1;
+    std::unique_ptr<Batch> b = pipeline.take(InputKind::Hex, reader.where());
     for (;;) {
-        std::string block = std::move(carry);
-        carry.clear();
+        // The batch's text begins with the line the last block cut, which has no line end.
+        std::string& block = b->text;
+        const size_t had = block.size();
         const int r = reader.readSome(block, kBlockBytes);
         if (r < 0) {
             pipeline.fail(reader.readError());
             return false;
         }
         const bool atEnd = r == 0;
-        const size_t cut = atEnd ? block.size() : block.rfind('\n') + 1; // npos + 1 is 0: no line end
-        if (cut == 0 && !atEnd) {
-            carry = std::move(block); // no line end yet: read on
-            continue;
-        }
-        carry = block.substr(cut);
+        // Only the new bytes are searched, so a line of any length is read in linear time.
+        const void* lastEnd = memrchr(block.data() + had, '\n', block.size() - had);
+        if (!atEnd && !lastEnd)
+            continue; // a line longer than a block: read on
+        const size_t cut
+            = atEnd ? block.size() : size_t(static_cast<const char*>(lastEnd) - block.data()) + 1;
+        std::string rest(block, cut);
         block.resize(cut);
         if (!block.empty()) {
-            auto b = newBatch(InputKind::Hex, reader.where());
             b->firstLine = line;
             line += std::count(block.begin(), block.end(), '\n');
-            b->text = std::move(block);
             if (!pipeline.submit(std::move(b)))
                 return false;
+            b = pipeline.take(InputKind::Hex, reader.where());
         }
         if (atEnd)
             return true;
+        b->text.assign(rest);
     }
 }
 
 // The whole input as one record.
 bool readBinary(Reader& reader, Pipeline& pipeline)
 {
-    auto b = newBatch(InputKind::Binary, reader.where());
+    auto b = pipeline.take(InputKind::Binary, reader.where());
     if (!reader.readAll(b->text)) {
         pipeline.fail(reader.readError());
         return false;
@@ -494,7 +520,7 @@ bool readTmi(Reader& reader, Pipeline& pipeline)
         pipeline.fail(reader.readError());
         return false;
     }
-    auto b = newBatch(InputKind::Tmi, reader.where());
+    auto b = pipeline.take(InputKind::Tmi, reader.where());
     bool going = true;
     const QString name = reader.where().isEmpty() ? QStringLiteral("-") : reader.where();
     const QString error = zrk::tmi::parse(
@@ -503,7 +529,7 @@ bool readTmi(Reader& reader, Pipeline& pipeline)
             b->ends.push_back(int(b->text.size()));
             if (int(b->ends.size()) >= kBatchRecords || b->text.size() >= size_t(kBlockBytes)) {
                 going = pipeline.submit(std::move(b));
-                b = newBatch(InputKind::Tmi, reader.where());
+                b = pipeline.take(InputKind::Tmi, reader.where());
             }
             return going;
         });
@@ -623,7 +649,7 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
     if (!pipeline.writeText(head.data(), head.size()))
         return 1;
     if (haveHex) {
-        auto b = newBatch(InputKind::Binary, QString());
+        auto b = pipeline.take(InputKind::Binary, QString());
         QString why;
         QByteArray record;
         if (!zrk::parseHex(hex, record, &why)) {
