@@ -100,6 +100,19 @@ void appendByteOrEmpty(zrk::TextBuffer& out, const unsigned char* buf, int len, 
         out.appendUnsigned(buf[i]);
 }
 
+// The CSV cells before the field set: the kind and version bytes as received, the length, the page.
+void appendCsvHead(zrk::TextBuffer& out, const unsigned char* buf, int len, const char* className)
+{
+    appendByteOrEmpty(out, buf, len, 0);
+    out.append(',');
+    appendByteOrEmpty(out, buf, len, 1);
+    out.append(',');
+    out.appendUnsigned(quint64(len));
+    out.append(',');
+    out.append(className, std::strlen(className));
+    out.append(',');
+}
+
 // The field-set characters of each mask byte.
 struct FormatTable
 {
@@ -310,14 +323,7 @@ void RecordWriter::writeJsonFields(const Fields& f, zrk::TextBuffer& out)
 
 void RecordWriter::writeCsvFields(const Fields& f, const unsigned char* buf, int len, zrk::TextBuffer& out)
 {
-    appendByteOrEmpty(out, buf, len, 0);
-    out.append(',');
-    appendByteOrEmpty(out, buf, len, 1);
-    out.append(',');
-    out.appendUnsigned(quint64(len));
-    out.append(',');
-    out.append(f.className, std::strlen(f.className));
-    out.append(',');
+    appendCsvHead(out, buf, len, f.className);
     writeFormat(f.mask, f.lastField, out);
     int next = 1;
     auto absentUpTo = [&](int end) {
@@ -352,14 +358,7 @@ void RecordWriter::writeExtended(
 {
     const auto* bytes = reinterpret_cast<const unsigned char*>(&ext);
     if (m_format == Format::Csv) {
-        appendByteOrEmpty(out, buf, len, 0);
-        out.append(',');
-        appendByteOrEmpty(out, buf, len, 1);
-        out.append(',');
-        out.appendUnsigned(quint64(len));
-        out.append(',');
-        out.appendLiteral(kExtendedPage);
-        out.append(',');
+        appendCsvHead(out, buf, len, kExtendedPage);
         for (int no = 1; no <= kFieldCount; ++no) {
             out.append(',');
             if (m_extOfField[no] < 0)
@@ -420,12 +419,7 @@ void RecordWriter::writeExtended(
 void RecordWriter::writeUnknown(const unsigned char* buf, int len, zrk::TextBuffer& out)
 {
     if (m_format == Format::Csv) {
-        appendByteOrEmpty(out, buf, len, 0);
-        out.append(',');
-        appendByteOrEmpty(out, buf, len, 1);
-        out.append(',');
-        out.appendUnsigned(quint64(len));
-        out.appendLiteral(",unknown,");
+        appendCsvHead(out, buf, len, pageClassName(Form::Unknown));
         char* p = out.room(kFieldCount);
         std::memset(p, ',', kFieldCount);
         out.advance(kFieldCount);
@@ -455,38 +449,20 @@ void RecordWriter::escapeJson(zrk::TextBuffer& out, std::size_t from)
     m_scratch.append(out.data() + from, n);
     out.truncate(from + i);
     static const char kHex[] = "0123456789abcdef";
+    static const char kNamed[] = "\"\\\b\f\n\r\t"; // those with a letter of their own
+    static const char kLetters[] = "\"\\bfnrt";
     for (; i < n; ++i) {
         const unsigned char c = static_cast<unsigned char>(m_scratch.data()[i]);
-        switch (c) {
-        case '"':
-            out.appendLiteral("\\\"");
-            break;
-        case '\\':
-            out.appendLiteral("\\\\");
-            break;
-        case '\b':
-            out.appendLiteral("\\b");
-            break;
-        case '\f':
-            out.appendLiteral("\\f");
-            break;
-        case '\n':
-            out.appendLiteral("\\n");
-            break;
-        case '\r':
-            out.appendLiteral("\\r");
-            break;
-        case '\t':
-            out.appendLiteral("\\t");
-            break;
-        default:
-            if (c >= 0x20) {
-                out.append(char(c));
-            } else {
-                out.appendLiteral("\\u00");
-                out.append(kHex[c >> 4]);
-                out.append(kHex[c & 15]);
-            }
+        const char* named = c != 0 ? std::strchr(kNamed, c) : nullptr;
+        if (named) {
+            out.append('\\');
+            out.append(kLetters[named - kNamed]);
+        } else if (c >= 0x20) {
+            out.append(char(c));
+        } else {
+            out.appendLiteral("\\u00");
+            out.append(kHex[c >> 4]);
+            out.append(kHex[c & 15]);
         }
     }
 }
