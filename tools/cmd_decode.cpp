@@ -41,8 +41,8 @@ const char* const kDecodeUsage
 
 namespace {
 
-constexpr int kBlockBytes = 256 * 1024; // hex text a batch holds, about a thousand records
-constexpr int kBatchRecords = 2048; // records a batch of a .tmi file holds
+constexpr int kBlockBytes = 64 * 1024; // hex text a batch holds: its JSON stays in the cache
+constexpr int kBatchRecords = 256; // records a batch of a .tmi file holds
 constexpr int kMaxJobs = 256;
 
 enum class InputKind
