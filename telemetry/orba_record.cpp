@@ -23,51 +23,36 @@ __attribute__((always_inline)) inline void copyOverlapping(
     std::memcpy(to + size - int(sizeof b), &b, sizeof b);
 }
 
-// An exact copy of size bytes; short ones as two overlapping fixed-size moves, which the compiler
-// inlines, since most runs of a sparse field set are a few bytes long.
-__attribute__((always_inline)) inline void copyBytes(unsigned char* to, const unsigned char* from, int size)
+// Copies size bytes to the structure at `to` from the body at `from`, bytes past len as zero.
+void copyRunOfShortBody(int to, int from, int size, const unsigned char* body, int len, unsigned char* rec)
 {
-    if (size >= 16) {
-        std::memcpy(to, from, size_t(size));
-    } else if (size >= 8) {
-        copyOverlapping<quint64>(to, from, size);
-    } else if (size >= 4) {
-        copyOverlapping<quint32>(to, from, size);
-    } else if (size >= 2) {
-        copyOverlapping<quint16>(to, from, size);
-    } else if (size == 1) {
-        *to = *from;
-    }
+    const int have = std::clamp(len - from, 0, size);
+    if (have > 0)
+        std::memcpy(rec + to, body + from, size_t(have));
+    std::memset(rec + to + have, 0, size_t(size - have));
 }
 
-// Copies size bytes to the structure at `to` from the body at `at`, bytes past len as zero; returns
-// the read position after them.
-__attribute__((always_inline)) inline int copyRun(
-    int to, int size, const unsigned char* body, int len, int at, unsigned char* rec)
-{
-    if (len - at >= size) {
-        copyBytes(rec + to, body + at, size);
-    } else {
-        const int have = len > at ? len - at : 0;
-        if (have > 0)
-            std::memcpy(rec + to, body + at, size_t(have));
-        std::memset(rec + to + have, 0, size_t(size - have));
-    }
-    return at + size;
-}
-
-// The runs of present fields of one mask: where each goes in the structure and how long it is, in
-// field order. Plans are kept (PlanCache), so the mask walk is done once per field set.
+// The runs of present fields of one mask: where each goes in the structure, where it starts in the
+// body and how long it is. The runs are ordered by length class (16 bytes and more, 8 to 15, 4 to
+// 7, 2 and 3, 1), so that each class is copied by one loop without a branch on the length, which
+// changes from run to run. Plans are kept (PlanCache): the mask walk is done once per field set.
 struct RunPlan
 {
+    static constexpr int kClasses = 5;
     unsigned char mask[kMaskBytes];
     int lastField = -1; // no plan yet
     int count = 0;
     int total = 0; // body bytes of all runs
+    int classEnd[kClasses] = {}; // where each length class ends in the runs
     qint16 to[kFieldCount / 2 + 1]; // at most every other field starts a run
-    qint16 from[kFieldCount / 2 + 1]; // where the run starts in the body
+    qint16 from[kFieldCount / 2 + 1];
     qint16 size[kFieldCount / 2 + 1];
 };
+
+int lengthClass(int size)
+{
+    return size >= 16 ? 0 : size >= 8 ? 1 : size >= 4 ? 2 : size >= 2 ? 3 : 4;
+}
 
 void buildPlan(RunPlan& plan, const unsigned char* mask, int lastField)
 {
@@ -117,6 +102,23 @@ void buildPlan(RunPlan& plan, const unsigned char* mask, int lastField)
     }
     if (first >= 0)
         add(first, end);
+    // A stable sort by length class, through a copy.
+    RunPlan byClass;
+    int n = 0;
+    for (int c = 0; c < RunPlan::kClasses; ++c) {
+        for (int i = 0; i < plan.count; ++i) {
+            if (lengthClass(plan.size[i]) != c)
+                continue;
+            byClass.to[n] = plan.to[i];
+            byClass.from[n] = plan.from[i];
+            byClass.size[n] = plan.size[i];
+            ++n;
+        }
+        plan.classEnd[c] = n;
+    }
+    std::copy_n(byClass.to, n, plan.to);
+    std::copy_n(byClass.from, n, plan.from);
+    std::copy_n(byClass.size, n, plan.size);
 }
 
 // The sub-values of each field, [first, end) in kSubValues: the table keeps a field's rows together.
@@ -329,15 +331,23 @@ void decodeFields(
         len = 0;
     thread_local PlanCache plans;
     const RunPlan& plan = plans.planFor(mask, lastField);
-    if (len >= plan.total) {
-        // The whole body is there, as in every record a terminal sends: copies only.
+    if (len < plan.total) {
         for (int i = 0; i < plan.count; ++i)
-            copyBytes(rec + plan.to[i], body + plan.from[i], plan.size[i]);
+            copyRunOfShortBody(plan.to[i], plan.from[i], plan.size[i], body, len, rec);
         return;
     }
-    int at = 0; // read position in the body
-    for (int i = 0; i < plan.count; ++i)
-        at = copyRun(plan.to[i], plan.size[i], body, len, at, rec);
+    // The whole body is there, as in every record a terminal sends: copies only, a loop a class.
+    int i = 0;
+    for (; i < plan.classEnd[0]; ++i)
+        std::memcpy(rec + plan.to[i], body + plan.from[i], size_t(plan.size[i]));
+    for (; i < plan.classEnd[1]; ++i)
+        copyOverlapping<quint64>(rec + plan.to[i], body + plan.from[i], plan.size[i]);
+    for (; i < plan.classEnd[2]; ++i)
+        copyOverlapping<quint32>(rec + plan.to[i], body + plan.from[i], plan.size[i]);
+    for (; i < plan.classEnd[3]; ++i)
+        copyOverlapping<quint16>(rec + plan.to[i], body + plan.from[i], plan.size[i]);
+    for (; i < plan.count; ++i)
+        rec[plan.to[i]] = body[plan.from[i]];
 }
 
 QString formatText(const unsigned char* mask, int lastField)
