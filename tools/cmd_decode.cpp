@@ -117,7 +117,7 @@ void decodeBatch(Batch& b, orba::RecordWriter& writer, std::vector<unsigned char
             zrk::parseHex(QByteArray::fromRawData(p, n), ignored, &why);
             b.error = b.where.isEmpty()
                 ? QStringLiteral("bad hex on line %1: %2").arg(line).arg(why)
-                : QStringLiteral("bad hex in %1 on line %2: %3").arg(b.where).arg(line).arg(why);
+                : QStringLiteral("bad hex in %1 on line %2: %3").arg(b.where, QString::number(line), why);
             return;
         }
         p = eol ? eol + 1 : end;
@@ -309,9 +309,8 @@ private:
             return;
         m_progress.add(b.records);
         const QString& error = b.error.isEmpty() ? b.readError : b.error;
-        if (!error.isEmpty()) {
+        if (!error.isEmpty())
             fail(error);
-        }
     }
 
     void work(orba::RecordWriter& writer)
@@ -634,7 +633,7 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
         err << "zrk-tool " << name << ": standard input (-) given more than once\n";
         return 2;
     }
-    if (inputs.empty())
+    if (inputs.empty() && !haveHex)
         inputs.push_back(Input { QString(), kind });
 
     // The unit texts of the display rules come from the catalogue, as in the plug-in.
@@ -644,6 +643,16 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
     const QString who = QStringLiteral("zrk-tool ") + name;
     Progress shown(who, progress == 1 || (progress < 0 && !haveHex && isatty(STDERR_FILENO)), err);
     Pipeline pipeline(who, haveHex ? 1 : jobs, format, shown, err);
+    // Every file is opened first, so a name mistyped fails before anything is written.
+    std::vector<std::unique_ptr<Reader>> readers;
+    for (const Input& input : inputs) {
+        readers.push_back(std::make_unique<Reader>(input));
+        QString why;
+        if (!readers.back()->open(&why)) {
+            err << "zrk-tool " << name << ": " << why << '\n';
+            return 1;
+        }
+    }
     zrk::TextBuffer head;
     pipeline.firstWriter().writeHeader(head);
     if (!pipeline.writeText(head.data(), head.size()))
@@ -660,16 +669,6 @@ int runDecodeCommand(const QString& name, const QStringList& args, QTextStream& 
         b->ends.push_back(int(b->text.size()));
         pipeline.submit(std::move(b));
         return pipeline.finish();
-    }
-    // Every file is opened first, so a name mistyped fails before anything is written.
-    std::vector<std::unique_ptr<Reader>> readers;
-    for (const Input& input : inputs) {
-        readers.push_back(std::make_unique<Reader>(input));
-        QString why;
-        if (!readers.back()->open(&why)) {
-            err << "zrk-tool " << name << ": " << why << '\n';
-            return 1;
-        }
     }
     bool ok = true;
     for (const auto& reader : readers) {
