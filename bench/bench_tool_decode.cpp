@@ -283,11 +283,11 @@ int main(int argc, char** argv)
             out.clear();
         });
         const Timing& whole = format == orba::RecordWriter::Format::Csv ? csv : json;
-        std::printf("%s, per record: %.2f us in all; hex %.2f us, decoding %.2f us, texts %.2f us, reading, "
-                    "writing and starting %.2f us; %.0f output bytes a record\n",
+        std::printf("%s, per record: %.2f us in all; hex %.2f us, decoding %.2f us, texts %.2f us, the rest "
+                    "(reading, writing, starting) %.2f us; %.0f output bytes a record\n",
             format == orba::RecordWriter::Format::Csv ? "CSV" : "JSON", whole.cpu / kRecords * 1e6,
             hexOnly / kRecords * 1e6, decodeOnly / kRecords * 1e6, (written - decodeOnly) / kRecords * 1e6,
-            (whole.cpu - hexOnly - written) / kRecords * 1e6, double(size) / kRecords);
+            std::max(0.0, whole.cpu - hexOnly - written) / kRecords * 1e6, double(size) / kRecords);
     }
     std::printf("load average after: %s", loadAverage().constData());
     return 0;
