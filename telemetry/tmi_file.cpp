@@ -4,7 +4,7 @@
 
 #include "config_model/common_routines.h"
 #include "telemetry/orba_dispatch.h"
-#include "telemetry/orba_export.h"
+#include "telemetry/orba_writer.h"
 #include "telemetry/tmipage_orba3.h"
 #include "zrk/zrk_text.h"
 
@@ -578,12 +578,14 @@ RecordKeys keysOf(const OrbaPage& page)
 
 QByteArray csvBytes(const RecordSource& source)
 {
-    QByteArray out("\xEF\xBB\xBF"); // so that spreadsheets read the Cyrillic texts as UTF-8
-    out += csvLine(orba::csvHeader()).toUtf8() + "\r\n";
+    orba::RecordWriter writer(orba::RecordWriter::Format::Csv, "\r\n");
+    TextBuffer out;
+    out.appendLiteral("\xEF\xBB\xBF"); // so that spreadsheets read the Cyrillic texts as UTF-8
+    writer.writeHeader(out);
     Record r;
     while (source(r))
-        out += csvLine(orba::csvCells(r.bytes)).toUtf8() + "\r\n";
-    return out;
+        writer.write(r.bytes, out);
+    return QByteArray(out.data(), int(out.size()));
 }
 
 namespace {
