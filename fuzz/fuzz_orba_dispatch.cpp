@@ -1,7 +1,13 @@
-// Any buffer through the version choice and the page it picks.
+// Any buffer through the version choice and the page it picks, and through the record writer of
+// zrk-tool decode, which must write what the JSON document and the CSV cells write.
 #include "orba_fuzz_common.h"
 #include "telemetry/orba_dispatch.h"
+#include "telemetry/orba_export.h"
+#include "telemetry/orba_writer.h"
 #include "telemetry/tmipage_orba3.h"
+#include "zrk/zrk_text.h"
+
+#include <QJsonDocument>
 
 #include <algorithm>
 #include <cstdint>
@@ -23,5 +29,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         if (form == orba::Form::Extended)
             readExtended(static_cast<const TmiPage_Orba3&>(*page).extTMI());
     }
+    static orba::RecordWriter json(orba::RecordWriter::Format::JsonLines);
+    static orba::RecordWriter csv(orba::RecordWriter::Format::Csv);
+    const QByteArray record = QByteArray::fromRawData(reinterpret_cast<const char*>(data), len);
+    zrk::TextBuffer jsonLine, csvLine;
+    json.write(record, jsonLine);
+    csv.write(record, csvLine);
+    if (QByteArray(jsonLine.data(), int(jsonLine.size()))
+            != QJsonDocument(orba::recordJson(record)).toJson(QJsonDocument::Compact) + '\n'
+        || QByteArray(csvLine.data(), int(csvLine.size()))
+            != zrk::csvLine(orba::csvCells(record)).toUtf8() + '\n')
+        std::abort();
     return 0;
 }

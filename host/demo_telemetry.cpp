@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
+#include <QDateTimeEdit>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -117,6 +118,25 @@ void ZrkDemoSession::runTelemetrySteps()
         grab(view, QStringLiteral("tmi_previous"));
     if (click(view, "GetNext"))
         grab(view, QStringLiteral("tmi_next"));
+
+    // By time: five minutes ago on this workstation's clock, the terminal keeping UTC (offset 0).
+    if (auto* moment = view->findChild<QDateTimeEdit*>(QStringLiteral("TimeMoment"))) {
+        moment->setDateTime(QDateTime::currentDateTime().addSecs(-300));
+        if (click(view, "Show"))
+            grab(view, QStringLiteral("tmi_by_time"));
+    } else {
+        note("date-time editor TimeMoment not found, the lookup by time skipped");
+    }
+
+    // The key the terminal's reader holds (2311 with 1), answered into the log tab.
+    if (auto* side = view->findChild<QTabWidget*>(QStringLiteral("SideTabs"))) {
+        side->setCurrentIndex(side->indexOf(view->findChild<QWidget*>(QStringLiteral("TabCommands"))));
+        if (click(view, "GetTouch")) {
+            side->setCurrentIndex(side->indexOf(view->findChild<QWidget*>(QStringLiteral("TabLog"))));
+            grab(view, QStringLiteral("tmi_key_code"));
+        }
+        side->setCurrentIndex(0);
+    }
 
     // Plot the chart's first field over the records that auto-request brings.
     click(view, "ChartAdd");

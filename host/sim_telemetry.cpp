@@ -456,7 +456,8 @@ void ZrkSimTelemetry::sendCurrent()
     QByteArray prefix;
     prefix.append(kStatusRecord);
     appendLE(prefix, quint64(rec.size()), 2);
-    sendRecord(ZRK_MSG_TMI_CURRENT, prefix, rec,
+    const int fill = kCurrentReplyMinBytes - prefix.size() - rec.size();
+    sendRecord(ZRK_MSG_TMI_CURRENT, prefix, fill > 0 ? rec + QByteArray(fill, '\0') : rec,
         QStringLiteral("#%1, v%2, %3 B").arg(lastNumber()).arg(m_version).arg(rec.size()));
     updatePanel();
 }

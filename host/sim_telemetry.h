@@ -6,7 +6,10 @@
 //
 // Replies (sent through the host's send function from inside the request's handler; every
 // QByteArray reply is a prefix, then the record as the plug-in decodes it, kind byte first):
-//   2300            -> 2301  prefix 3 bytes: [0] status, [1..2] record length (u16 LE)
+//   2300            -> 2301  prefix 3 bytes: [0] status, [1..2] record length (u16 LE); a
+//                            reply shorter than 101 bytes (a small field set, version 1) is
+//                            filled up to 101 with zeros after the record, as a receiver drops
+//                            shorter current-record replies
 //   2302 uint32* n  -> 2303  prefix 3 bytes as 2301; record number n, or, past either end of the
 //                            store, the prefix alone with status 0 and length 0 (no record)
 //   2304 QDateTime* -> 2305  prefix 13 bytes: [0] status, [1..4] the requested moment (Unix s),
@@ -54,6 +57,7 @@ public:
     static constexpr int kPrefixCurrent = 3;
     static constexpr int kPrefixStep = 13;
     static constexpr int kPrefixExtended = 2;
+    static constexpr int kCurrentReplyMinBytes = 101;
     static constexpr char kStatusRecord = 1;
     static constexpr char kStatusNone = 0;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "telemetry/tmi_track.h"
+
 #include <QDateTime>
 #include <QJsonObject>
 #include <QString>
@@ -29,15 +31,6 @@ struct ZrkMapRoute
     int id = 0;
     QString name;
     QVector<int> zoneIds;
-};
-
-// One point of a telemetry track.
-struct ZrkMapTrackPoint
-{
-    double lat = 0.0;
-    double lon = 0.0;
-    QDateTime time;
-    double speed = 0.0;
 };
 
 // The map display: Leaflet in a web view, driven through a WebChannel. The page and its libraries

@@ -6,7 +6,7 @@ packages=(
   build-essential cmake ninja-build ccache clang libclang-rt-14-dev binutils
   qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools qtwebengine5-dev libqt5webchannel5-dev
   qtpositioning5-dev libqt5svg5-dev libqt5charts5-dev libjs-leaflet libjs-leaflet.markercluster
-  xvfb xauth libbenchmark-dev zlib1g-dev libxml2-dev python3 locales
+  xvfb xauth libbenchmark-dev zlib1g-dev libxml2-dev python3 xxd locales
 )
 missing=()
 for p in "${packages[@]}"; do

@@ -42,8 +42,9 @@ std::unique_ptr<OrbaPage> buildPage(Form form, const unsigned char* buf, int len
         return std::make_unique<TmiPage_Orba2>(buf, len);
     case Form::Orba3:
     case Form::Orba3Production:
-    case Form::Extended:
         return std::make_unique<TmiPage_Orba3>(buf, len);
+    case Form::Extended:
+        return std::make_unique<TmiPage_Orba3>(buf, len, TmiPage_Orba3::AsExtended {});
     case Form::Dropped:
     case Form::Unknown:
         break;

@@ -26,8 +26,8 @@ enum class Form
 Form chooseForm(const unsigned char* buf, int len, int configuratorMode, bool showUnknown);
 Form chooseForm(const QByteArray& buf, int configuratorMode, bool showUnknown);
 
-// The decoded page for a chosen form: TmiPage_Orba1/2/3, TmiPage_Orba3 for an extended record;
-// null for Dropped and Unknown.
+// The decoded page for a chosen form: TmiPage_Orba1/2/3, TmiPage_Orba3 for an extended record
+// (read as one whatever its kind byte); null for Dropped and Unknown.
 std::unique_ptr<OrbaPage> buildPage(Form form, const unsigned char* buf, int len);
 
 // The class name of the page a form is shown with, "unknown" when there is none.

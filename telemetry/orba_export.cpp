@@ -12,8 +12,16 @@ namespace orba {
 
 namespace {
 
-// Integers a JSON reader holds exactly (doubles); wider ones are written as decimal strings.
-constexpr double kExactInJson = 9007199254740992.0; // 2^53
+// An integer as its decimal text: a number while a JSON reader holds it exactly, else the text.
+QJsonValue integerJson(const QString& decimal)
+{
+    const bool negative = decimal.startsWith(QLatin1Char('-'));
+    bool ok = false;
+    const quint64 magnitude = decimal.mid(negative ? 1 : 0).toULongLong(&ok);
+    if (ok && magnitude <= kJsonExactInteger)
+        return QJsonValue(negative ? -qint64(magnitude) : qint64(magnitude));
+    return decimal;
+}
 
 // A stored value: numbers for values of up to 8 bytes (null for a float that is not a number),
 // a lower-case hex string of the bytes for wider ones.
@@ -27,11 +35,7 @@ QJsonValue jsonValue(Type type, int width, const unsigned char* p)
         const double d = text.toDouble();
         return std::isfinite(d) ? QJsonValue(d) : QJsonValue(QJsonValue::Null);
     }
-    bool ok = false;
-    const double magnitude = text.startsWith(QLatin1Char('-')) ? -text.toDouble(&ok) : text.toDouble(&ok);
-    if (ok && magnitude <= kExactInJson)
-        return QJsonValue(text.toLongLong());
-    return text;
+    return integerJson(text);
 }
 
 QJsonValue byteOrNull(const QByteArray& record, int i)
@@ -68,7 +72,7 @@ QJsonObject extendedJson(const QByteArray& record, const TmiPage_Orba3& page)
         dynamic.append(
             QJsonObject { { QStringLiteral("type"), item.type }, { QStringLiteral("size"), item.size },
                 { QStringLiteral("value"),
-                    item.type == 2 ? QJsonValue(item.text) : QJsonValue(qint64(item.number)) } });
+                    item.type == 2 ? QJsonValue(item.text) : integerJson(QString::number(item.number)) } });
     }
     QString xml;
     QTextStream xs(&xml);

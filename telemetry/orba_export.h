@@ -9,6 +9,9 @@
 
 namespace orba {
 
+// Integers a JSON reader holds exactly (as doubles); wider ones are written as decimal strings.
+constexpr quint64 kJsonExactInteger = quint64(1) << 53;
+
 QJsonObject recordJson(const QByteArray& record);
 
 // The header row and one record's cells (unquoted): kind, version, length, page, format, then

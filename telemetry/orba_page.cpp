@@ -102,6 +102,14 @@ void OrbaPage::setExtTMI(const unsigned char* buf, int len)
     orba::decodeExt(buf, len, m_ext);
 }
 
+void OrbaPage::setExtendedRecord(const unsigned char* buf, int len)
+{
+    startNewRecord(buf, len);
+    m_isExt = 1;
+    setExtTMI(buf, len);
+    m_body = buf && len > 1 ? QByteArray(reinterpret_cast<const char*>(buf) + 1, len - 1) : QByteArray();
+}
+
 void OrbaPage::keepBody(const unsigned char* buf, int len)
 {
     if (!buf || len <= 0) {

@@ -65,6 +65,8 @@ protected:
     // Version 2 and 3: current (0xB0) and extended (0xB1) records.
     void setNewCurrentOrExt(const unsigned char* buf, int len);
     void setExtTMI(const unsigned char* buf, int len);
+    // An extended record whatever its kind byte, with its body after that byte.
+    void setExtendedRecord(const unsigned char* buf, int len);
     // The body the constructors keep: after the kind byte for an extended record, otherwise
     // after the 34-byte head.
     void keepBody(const unsigned char* buf, int len);

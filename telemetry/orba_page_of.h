@@ -69,6 +69,15 @@ public:
         : CurrentOrExtPageOf(reinterpret_cast<const unsigned char*>(buf.constData()), buf.size(), parent)
     {
     }
+    // A buffer that is an extended record whatever its kind byte says (the host's 2312).
+    struct AsExtended
+    {
+    };
+    CurrentOrExtPageOf(const unsigned char* buf, int len, AsExtended, QObject* parent = nullptr)
+        : PageOf<V>(parent)
+    {
+        this->setExtendedRecord(buf, len);
+    }
     explicit CurrentOrExtPageOf(const szExtTMI_ORBA3& ext, QObject* parent = nullptr)
         : PageOf<V>(parent)
     {

@@ -8,6 +8,8 @@
 #include "zrk/zrk_orba_format.h"
 
 #include "config_model/common_routines.h"
+#include "telemetry/local_clock.h"
+#include "telemetry/text_buffer.h"
 
 #include <QByteArray>
 #include <QString>
@@ -365,6 +367,15 @@ void writeXmlPageExt(QTextStream& out, const szExtTMI_ORBA3& ext);
 
 // ---- Display texts ---------------------------------------------------------------------------
 
+// What a display text needs besides the value: the temperature unit of the installed catalogue
+// (UTF-8) and a clock of the local zone. Made once, it serves any number of texts.
+struct TextContext
+{
+    TextContext();
+    QByteArray unit;
+    zrk::LocalClock clock;
+};
+
 QString noDataText(); // "n/a"
 QString temperatureUnit(); // the catalogue's temperature unit
 QString dateTimeText(quint32 unixSeconds); // local "dd.MM.yyyy H:mm:ss"
@@ -380,6 +391,14 @@ QString extFieldText(int id, const szExtTMI_ORBA3& ext);
 
 // A value as a plain decimal (or shortest float) number, for export.
 QString numberText(Type type, int width, const unsigned char* p);
+
+// The same texts appended as UTF-8, for writers of many records.
+void appendDateTime(zrk::TextBuffer& out, quint32 unixSeconds, zrk::LocalClock& clock);
+void appendCoordinate(zrk::TextBuffer& out, qint32 value);
+void appendFieldText(zrk::TextBuffer& out, int no, const unsigned char* rec, TextContext& context);
+void appendSubValueText(zrk::TextBuffer& out, int id, const unsigned char* rec, TextContext& context);
+void appendExtFieldText(zrk::TextBuffer& out, int id, const szExtTMI_ORBA3& ext, TextContext& context);
+void appendNumberText(zrk::TextBuffer& out, Type type, int width, const unsigned char* p);
 
 } // namespace orba
 

@@ -1,8 +1,10 @@
 #include "telemetry/tmi_file.h"
 
+#include "telemetry/tmi_track.h"
+
 #include "config_model/common_routines.h"
 #include "telemetry/orba_dispatch.h"
-#include "telemetry/orba_export.h"
+#include "telemetry/orba_writer.h"
 #include "telemetry/tmipage_orba3.h"
 #include "zrk/zrk_text.h"
 
@@ -528,19 +530,22 @@ ReadResult read(const QString& path)
 
 RecordKeys keysOf(const QByteArray& record)
 {
-    RecordKeys k;
     const orba::Decoded d = orba::decodeRecord(record);
-    if (!d.page)
-        return k;
+    return d.page ? keysOf(*d.page) : RecordKeys();
+}
+
+RecordKeys keysOf(const OrbaPage& page)
+{
+    RecordKeys k;
+    const bool extended = page.isExtended();
     const unsigned char* p = nullptr;
     auto at = [&](int no, int extId) -> const unsigned char* {
-        if (d.form == orba::Form::Extended)
+        if (extended)
             return extId < 0 ? nullptr : p + orba::kExtFields[extId].offset;
-        return no <= d.page->lastField() && d.page->isUsed(no) ? p + orba::kOffsets[no] : nullptr;
+        return no <= page.lastField() && page.isUsed(no) ? p + orba::kOffsets[no] : nullptr;
     };
-    p = d.form == orba::Form::Extended
-        ? reinterpret_cast<const unsigned char*>(&static_cast<const TmiPage_Orba3&>(*d.page).extTMI())
-        : d.page->recordBytes();
+    p = extended ? reinterpret_cast<const unsigned char*>(&static_cast<const TmiPage_Orba3&>(page).extTMI())
+                 : page.recordBytes();
     if (const unsigned char* v = at(orba::F_NumPage, orba::E_NumberTmiPage)) {
         k.hasNumber = true;
         k.number = readU32(v);
@@ -573,12 +578,14 @@ RecordKeys keysOf(const QByteArray& record)
 
 QByteArray csvBytes(const RecordSource& source)
 {
-    QByteArray out("\xEF\xBB\xBF"); // so that spreadsheets read the Cyrillic texts as UTF-8
-    out += csvLine(orba::csvHeader()).toUtf8() + "\r\n";
+    orba::RecordWriter writer(orba::RecordWriter::Format::Csv, "\r\n");
+    TextBuffer out;
+    out.appendLiteral("\xEF\xBB\xBF"); // so that spreadsheets read the Cyrillic texts as UTF-8
+    writer.writeHeader(out);
     Record r;
     while (source(r))
-        out += csvLine(orba::csvCells(r.bytes)).toUtf8() + "\r\n";
-    return out;
+        writer.write(r.bytes, out);
+    return QByteArray(out.data(), int(out.size()));
 }
 
 namespace {
@@ -660,3 +667,19 @@ bool exportKml(const QString& path, const QVector<Record>& records, QString* err
 }
 
 } // namespace zrk::tmi
+
+bool zrkTrackPointOf(const zrk::tmi::RecordKeys& keys, ZrkMapTrackPoint* point)
+{
+    if (!keys.hasPosition)
+        return false;
+    point->lat = keys.latitude;
+    point->lon = keys.longitude;
+    point->time = keys.hasTime ? QDateTime::fromSecsSinceEpoch(keys.time) : QDateTime();
+    point->speed = keys.hasSpeed ? keys.speed : 0.0;
+    return true;
+}
+
+bool zrkTrackPointOf(const QByteArray& record, ZrkMapTrackPoint* point)
+{
+    return zrkTrackPointOf(zrk::tmi::keysOf(record), point);
+}

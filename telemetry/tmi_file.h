@@ -11,6 +11,8 @@
 #include <QVector>
 
 #include <functional>
+
+class OrbaPage;
 #include <limits>
 
 namespace zrk::tmi {
@@ -74,6 +76,8 @@ struct RecordKeys
     float speed = 0; // km/h
 };
 RecordKeys keysOf(const QByteArray& record);
+// The same read from a record already decoded (a current or an extended record).
+RecordKeys keysOf(const OrbaPage& page);
 
 // The CSV and KML texts, for writers that hold their records differently: rows are produced by
 // calling next until it returns false.

@@ -3,7 +3,8 @@
 #include "telemetry/orba_dispatch.h"
 #include "telemetry/orba_field_labels.h"
 #include "telemetry/orba_page.h"
-#include "telemetry/zrk_tmi_session.h"
+#include "telemetry/orba_plot.h"
+#include "telemetry/tmi_session.h"
 
 #include <QLayout>
 #include <QtCharts/QChart>
@@ -45,7 +46,7 @@ QVector<int> ZRK_Tmi_Chart::fields() const
     return out;
 }
 
-void ZRK_Tmi_Chart::addField(int no, const ZRK_Tmi_Session& session)
+void ZRK_Tmi_Chart::addField(int no, const zrk::tmi::Session& session)
 {
     if (!orba::isPlottable(no) || fields().contains(no))
         return;
@@ -81,15 +82,13 @@ void ZRK_Tmi_Chart::appendRecord(const OrbaPage& page, const QDateTime& received
     updateRanges();
 }
 
-void ZRK_Tmi_Chart::rebuild(const ZRK_Tmi_Session& session)
+void ZRK_Tmi_Chart::rebuild(const zrk::tmi::Session& session)
 {
     for (Plot& p : m_plots)
         p.series->clear();
-    for (const ZRK_Tmi_Session::Entry& e : session.entries()) {
-        const auto* buf = reinterpret_cast<const unsigned char*>(e.bytes.constData());
-        const orba::Form form = orba::chooseForm(buf, e.bytes.size(), 0, false);
-        const std::unique_ptr<OrbaPage> page = orba::buildPage(form, buf, e.bytes.size());
-        if (!page || page->isExtended())
+    for (const zrk::tmi::SessionEntry& e : session.entries()) {
+        const OrbaPage* page = e.page.get();
+        if (page->isExtended())
             continue;
         for (Plot& p : m_plots) {
             double v;

@@ -5,7 +5,9 @@
 #include <QVector>
 
 class OrbaPage;
-class ZRK_Tmi_Session;
+namespace zrk::tmi {
+class Session;
+}
 class QWidget;
 namespace QtCharts {
 class QChart;
@@ -26,12 +28,12 @@ public:
     // The chart view is placed into host's layout.
     explicit ZRK_Tmi_Chart(QWidget* host, QObject* parent = nullptr);
 
-    void addField(int no, const ZRK_Tmi_Session& session);
+    void addField(int no, const zrk::tmi::Session& session);
     void clearFields();
     QVector<int> fields() const;
     // One record more; dropOldest when the session dropped its first record for it.
     void appendRecord(const OrbaPage& page, const QDateTime& received, bool dropOldest);
-    void rebuild(const ZRK_Tmi_Session& session);
+    void rebuild(const zrk::tmi::Session& session);
     // "Name: min … max" per picked field, one line each.
     QString minMaxText() const;
     QtCharts::QChartView* view() const { return m_view; }

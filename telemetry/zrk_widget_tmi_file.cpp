@@ -439,18 +439,6 @@ void ZRK_Widget_Tmi_Table::slot_pressed_ShowOnMap()
     ZRK_Dialog_Map_Track::showTrack(points, this);
 }
 
-bool zrkTrackPointOf(const QByteArray& record, ZrkMapTrackPoint* point)
-{
-    const zrk::tmi::RecordKeys keys = zrk::tmi::keysOf(record);
-    if (!keys.hasPosition)
-        return false;
-    point->lat = keys.latitude;
-    point->lon = keys.longitude;
-    point->time = keys.hasTime ? QDateTime::fromSecsSinceEpoch(keys.time) : QDateTime();
-    point->speed = keys.hasSpeed ? keys.speed : 0.0;
-    return true;
-}
-
 QVector<ZrkMapTrackPoint> ZRK_Widget_Tmi_Table::shownTrack() const
 {
     QVector<ZrkMapTrackPoint> points;

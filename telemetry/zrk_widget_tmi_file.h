@@ -90,9 +90,6 @@ private:
 // of the rows shown.
 struct ZrkMapTrackPoint;
 
-// The position of a record (kind byte first) as a point of a map track; false when it has none.
-bool zrkTrackPointOf(const QByteArray& record, ZrkMapTrackPoint* point);
-
 class ZRK_Widget_Tmi_Table : public ZRK_Widget_Tmi_File
 {
     Q_OBJECT

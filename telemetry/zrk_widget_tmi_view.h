@@ -2,6 +2,8 @@
 
 #include "telemetry/orba_dispatch.h"
 #include "telemetry/tmi_file.h"
+#include "telemetry/tmi_requests.h"
+#include "telemetry/tmi_time.h"
 #include "zrk/zrk_host_api.h"
 
 #include <QDateTime>
@@ -9,38 +11,33 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QByteArray;
 class OrbaPage;
 class ZRK_Form_TMI_Orba3;
-class ZRK_Form_TMI_Ext;
-class ZRK_Form_TMI_Production;
-class ZRK_Tmi_Session;
 class ZRK_Tmi_Chart;
-class QPushButton;
+class ZRK_Tmi_Command_Panel;
+class ZRK_Tmi_Record_Area;
+namespace zrk::tmi {
+class Session;
+}
 namespace Ui {
 class ZRK_Designer_Widget_Tmi_View;
 }
 
-// The telemetry view: asks the host for records, decodes and shows them. One per plug-in,
-// created on first need by the device object and never deleted while the library is loaded.
-// The record and reply operations are virtual so that the device object's routing can be watched.
-struct ZrkMapTrackPoint;
-
+// The telemetry view: asks the host for records, decodes and shows them, and keeps them in the
+// session that the list, the chart, the map track and saving read. One per plug-in, created on
+// first need by the device object and never deleted while the library is loaded. The record and
+// reply operations are virtual so that the device object's routing can be watched.
 class ZRK_Widget_Tmi_View : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(bool deviceConnected READ isDeviceConnected)
 
 public:
-    // Where a shown record came from: the freshness line marks stored history.
-    enum class Origin
-    {
-        Live, // the current record (2301)
-        ByNumber, // stored, looked up by number (2303)
-        ByTime, // stored, looked up by time (2305, 2307)
-    };
+    using Origin = zrk::tmi::Origin;
 
     explicit ZRK_Widget_Tmi_View(QWidget* parent = nullptr);
     ~ZRK_Widget_Tmi_View() override;
@@ -93,33 +90,38 @@ public:
     void requestByTime();
     void setAutoRequest(int checkState);
     void autoRequestTick();
+    // The commands tab: each button sends its row of the command table (run() sends one as its
+    // button does; its questions and file choice can be answered by a test or a scripted host).
+    ZRK_Tmi_Command_Panel* commandPanel() const { return m_commands; }
 
-    // The time offset in seconds from the time-offset controls.
+    // The time offset in seconds from the time-offset controls: the terminal clock's offset from UTC.
     int timeOffset() const;
     int autoPeriod() const;
-    int autoCounter() const { return m_autoCounter; }
-    int direction() const { return m_direction; }
+    const QTimer& autoTimer() const { return m_Timer_Auto_TMI; }
+    int autoCounter() const { return m_autoRequest.counter(); }
+    int direction() const { return m_stepping.direction(); }
     // The record number the navigation label shows.
     quint32 shownNumber() const;
     // Text of the unknown-record page.
     QString unknownText() const;
     QWidget* currentPage() const;
-    ZRK_Form_TMI_Orba3* formOrba3() const { return m_formOrba3; }
-    ZRK_Tmi_Session* session() const { return m_session; }
-    // The line that tells how fresh the shown record is.
+    ZRK_Form_TMI_Orba3* formOrba3() const;
+    zrk::tmi::Session* session() const { return m_session; }
+    // The line that tells how fresh the shown record is, with the history mark.
     QString freshnessText() const;
     // Last lines of the log pane.
     QString logText() const;
 
-    // Saves the session's records: .tmi/.xml as the telemetry file, .csv and .kml as exports.
-    // Whole or not at all; error gets a Russian text naming the file.
+    // Saves the session's records: .tmi/.xml as the telemetry file, .csv and .kml as exports;
+    // the chosen filter of a save dialog (empty: none) decides the format. Whole or not at all;
+    // error gets a Russian text naming the file.
     bool WriteTmiToFile(const QString& name, QString* error = nullptr);
-    // Titles of inputs, outputs and temperature sensors and user-parameter types written into the
-    // head of saved files when no configuration is open in the configuration window (an open one
-    // gives them instead).
-    void setFileTitles(const zrk::tmi::Header& titles);
-    // The positions of this session's records, in order, as a track for the map.
-    QVector<ZrkMapTrackPoint> sessionTrack() const;
+    bool saveSessionAs(const QString& name, const QString& selectedFilter, QString* error = nullptr);
+    // The head of a saved file: the device, the time offset, and the titles of inputs, outputs and
+    // temperature sensors and the user-parameter types of the open configuration (or, when none is
+    // open, those set here).
+    zrk::tmi::Header fileHeader() const;
+    void setFileTitles(const zrk::tmi::Header& titles) { m_titles = titles; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -137,64 +139,29 @@ private slots:
     void slot_toggled_HideAbsent(bool hide);
     void slot_pressed_SaveFile();
     void slot_pressed_ShowOnMap();
-    // Commands to the terminal.
-    void slot_pressed_OutOn();
-    void slot_pressed_OutOff();
-    void slot_pressed_GuardOn();
-    void slot_pressed_GuardOff();
-    void slot_pressed_Clear();
-    void slot_toggled_NmeaOutput(bool on);
-    void slot_pressed_SetParam();
-    void slot_pressed_RunCommand();
-    void slot_pressed_ReadTouch();
-    void slot_pressed_ReadRfid();
-    void slot_pressed_GetTouch();
-    void slot_pressed_GetRfid();
-    void slot_pressed_SendFlsCommand();
-    void slot_pressed_FirmwareUpdate();
-    void slot_pressed_TahoQuery();
-    void slot_pressed_TahoFileRequest();
-    void slot_pressed_TahoFileRead();
-    void slot_pressed_FlsData();
-    void slot_pressed_FlsDataFile();
 
 private:
     unsigned long send(int msg, unsigned long w = 0, unsigned long l = 0);
-    bool confirm(const QString& question);
-    void setTerminalControlsEnabled();
-    void setNavigationEnabled(bool enabled);
-    void showPage(QWidget* page);
+    void updateNavigation();
+    void showRecord(const QByteArray& buf, orba::Form form, Origin origin);
     void showDecoded(const std::shared_ptr<const OrbaPage>& page, orba::Form form);
     void showRecordAt(int row);
     void updateFreshness();
     void updatePeriodLabel();
-    void logBytes(const QString& what, const QByteArray& data);
     void logLine(const QString& line);
-    QString eventText(quint16 code);
-    QString diagnosticText(quint8 code);
+    void logReply(int msg, const QByteArray* data);
 
     std::unique_ptr<Ui::ZRK_Designer_Widget_Tmi_View> ui;
     bool m_connected = false;
     bool m_splitterSized = false; // the columns get their shares of the width once, when first shown
-    bool m_rcsEnded = false;
-    int m_direction = 0;
-    int m_autoCounter = 1;
+    zrk::tmi::Stepping m_stepping;
+    zrk::tmi::AutoRequest m_autoRequest;
     QTimer m_Timer_Auto_TMI;
-    ZRK_Form_TMI_Orba3* m_formOrba3 = nullptr;
-    ZRK_Form_TMI_Ext* m_formExt = nullptr;
-    ZRK_Form_TMI_Production* m_formProduction = nullptr;
-    ZRK_Tmi_Session* m_session = nullptr;
+    zrk::tmi::Session* m_session = nullptr;
     ZRK_Tmi_Chart* m_chart = nullptr;
-    QString m_unknownText;
-    // What the freshness line describes: the shown record.
-    QDateTime m_shownReceived;
-    quint32 m_shownTime = 0;
-    quint32 m_shownLastFix = 0;
-    bool m_shownHasTime = false;
-    bool m_shownHasFix = false;
-    Origin m_shownOrigin = Origin::Live;
-    // Host texts are asked once per code and session.
-    QHash<quint16, QString> m_eventTexts;
-    QHash<quint8, QString> m_diagnosticTexts;
+    bool m_hasShownNumber = false;
+    zrk::tmi::Freshness m_freshness; // of the shown record
+    ZRK_Tmi_Command_Panel* m_commands = nullptr;
+    ZRK_Tmi_Record_Area* m_record = nullptr;
     zrk::tmi::Header m_titles;
 };

@@ -1,12 +1,10 @@
 // zrk-tool tmi: saved telemetry files, through the same reader and writer the viewers use.
-#include "telemetry/orba_export.h"
 #include "telemetry/tmi_file.h"
 #include "tools/commands.h"
 #include "translations/catalogue.h"
 #include "zrk/zrk_text.h"
 
 #include <QFile>
-#include <QJsonDocument>
 
 const char* const kTmiUsage
     = "  tmi write OUT [--model M] [--vendor V] [--timezone S] [HEX... | -]\n"
@@ -98,13 +96,10 @@ int tmiRead(const QStringList& args, QTextStream& out, QTextStream& err)
 {
     if (args.size() != 1)
         return fail(err, QStringLiteral("usage: zrk-tool tmi read FILE"), 2);
-    const QString error = zrk::tmi::readEach(args[0], nullptr, [&out](const QByteArray& bytes, qint64, bool) {
-        out << QJsonDocument(orba::recordJson(bytes)).toJson(QJsonDocument::Compact) << '\n';
-        return true;
-    });
-    out.flush();
-    // The good records before a fault are printed; the fault still fails the command.
-    return error.isEmpty() ? 0 : fail(err, error);
+    // What decode does with a saved file: the good records before a fault are printed, and the
+    // fault still fails the command.
+    return runDecodeCommand(
+        QStringLiteral("tmi"), { QStringLiteral("--input"), QStringLiteral("tmi"), args[0] }, out, err);
 }
 
 int tmiExport(const QStringList& args, QTextStream& err)

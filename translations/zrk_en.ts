@@ -1850,8 +1850,8 @@ Built %7</translation>
         <translation>extended</translation>
     </message>
     <message id="tmiw_041">
-        <source>неизвестная</source>
-        <translation>unknown</translation>
+        <source>без номера</source>
+        <translation>no number</translation>
     </message>
     <message id="tmiw_042">
         <source>история</source>
@@ -1874,8 +1874,8 @@ Built %7</translation>
         <translation>Show</translation>
     </message>
     <message id="tmiw_005">
-        <source>Смещение от UTC:</source>
-        <translation>UTC offset:</translation>
+        <source>Часы терминала от UTC:</source>
+        <translation>Terminal clock from UTC:</translation>
     </message>
     <message id="tmiw_006">
         <source>Автозапрос</source>
@@ -2054,12 +2054,12 @@ Built %7</translation>
         <translation>Output number, 1..8</translation>
     </message>
     <message id="tmiw_055">
-        <source>Часы смещения от UTC, -12..14</source>
-        <translation>UTC offset hours, -12..14</translation>
+        <source>Смещение часов терминала от UTC, часы (-12..14). 0 — терминал живёт по UTC. Время записей показано по часам этого компьютера; «Показать» ищет запись на момент из поля минус это смещение.</source>
+        <translation>Offset of the terminal clock from UTC, hours (-12..14). 0 for a terminal that keeps UTC. Record times are shown by this computer&apos;s clock; &quot;Show&quot; looks for the record at the moment in the box less this offset.</translation>
     </message>
     <message id="tmiw_056">
-        <source>Минуты смещения, 0..45</source>
-        <translation>UTC offset minutes, 0..45</translation>
+        <source>Минуты смещения часов терминала от UTC (0..45), со знаком часов</source>
+        <translation>Minutes of the terminal clock&apos;s offset from UTC (0..45), with the sign of the hours</translation>
     </message>
     <message id="tmiw_057">
         <source>Номер показанной записи</source>
@@ -2070,8 +2070,8 @@ Built %7</translation>
         <translation>Number for the command</translation>
     </message>
     <message id="tmiw_059">
-        <source>Момент: показать ближайшую запись до него</source>
-        <translation>Moment: show the nearest record before it</translation>
+        <source>Момент по часам этого компьютера: «Показать» находит ближайшую запись до него</source>
+        <translation>Moment by this computer&apos;s clock: &quot;Show&quot; finds the nearest record before it</translation>
     </message>
     <message id="tmiw_060">
         <source>Числовое поле для графика</source>
@@ -4028,6 +4028,14 @@ Settings that change on the terminal: %2. Write?</translation>
     <message id="wcfg_054">
         <source>Конфигурация, прочитанная из терминала:</source>
         <translation>Configuration read from the terminal:</translation>
+    </message>
+    <message id="tmiw_119">
+        <source>Данные NMEA</source>
+        <translation>NMEA data</translation>
+    </message>
+    <message id="tmiw_120">
+        <source>Текущая запись из %1 байт пропущена: она короче 101 байта</source>
+        <translation>Current record of %1 bytes ignored: shorter than 101 bytes</translation>
     </message>
 </context>
 </TS>

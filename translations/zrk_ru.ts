@@ -1850,8 +1850,8 @@
         <translation>расширенная</translation>
     </message>
     <message id="tmiw_041">
-        <source>неизвестная</source>
-        <translation>неизвестная</translation>
+        <source>без номера</source>
+        <translation>без номера</translation>
     </message>
     <message id="tmiw_042">
         <source>история</source>
@@ -1874,8 +1874,8 @@
         <translation>Показать</translation>
     </message>
     <message id="tmiw_005">
-        <source>Смещение от UTC:</source>
-        <translation>Смещение от UTC:</translation>
+        <source>Часы терминала от UTC:</source>
+        <translation>Часы терминала от UTC:</translation>
     </message>
     <message id="tmiw_006">
         <source>Автозапрос</source>
@@ -2054,12 +2054,12 @@
         <translation>Номер выхода, 1..8</translation>
     </message>
     <message id="tmiw_055">
-        <source>Часы смещения от UTC, -12..14</source>
-        <translation>Часы смещения от UTC, -12..14</translation>
+        <source>Смещение часов терминала от UTC, часы (-12..14). 0 — терминал живёт по UTC. Время записей показано по часам этого компьютера; «Показать» ищет запись на момент из поля минус это смещение.</source>
+        <translation>Смещение часов терминала от UTC, часы (-12..14). 0 — терминал живёт по UTC. Время записей показано по часам этого компьютера; «Показать» ищет запись на момент из поля минус это смещение.</translation>
     </message>
     <message id="tmiw_056">
-        <source>Минуты смещения, 0..45</source>
-        <translation>Минуты смещения, 0..45</translation>
+        <source>Минуты смещения часов терминала от UTC (0..45), со знаком часов</source>
+        <translation>Минуты смещения часов терминала от UTC (0..45), со знаком часов</translation>
     </message>
     <message id="tmiw_057">
         <source>Номер показанной записи</source>
@@ -2070,8 +2070,8 @@
         <translation>Число для команды</translation>
     </message>
     <message id="tmiw_059">
-        <source>Момент: показать ближайшую запись до него</source>
-        <translation>Момент: показать ближайшую запись до него</translation>
+        <source>Момент по часам этого компьютера: «Показать» находит ближайшую запись до него</source>
+        <translation>Момент по часам этого компьютера: «Показать» находит ближайшую запись до него</translation>
     </message>
     <message id="tmiw_060">
         <source>Числовое поле для графика</source>
@@ -4028,6 +4028,14 @@
     <message id="wcfg_054">
         <source>Конфигурация, прочитанная из терминала:</source>
         <translation>Конфигурация, прочитанная из терминала:</translation>
+    </message>
+    <message id="tmiw_119">
+        <source>Данные NMEA</source>
+        <translation>Данные NMEA</translation>
+    </message>
+    <message id="tmiw_120">
+        <source>Текущая запись из %1 байт пропущена: она короче 101 байта</source>
+        <translation>Текущая запись из %1 байт пропущена: она короче 101 байта</translation>
     </message>
 </context>
 </TS>

@@ -97,6 +97,8 @@ private slots:
     void replies();
     void outputsAndGuardInNextRecord();
     void extendedRecord();
+    void currentReplyHoldsARecord_data();
+    void currentReplyHoldsARecord();
     void configuration_data();
     void configuration();
 
@@ -236,7 +238,7 @@ void tst_SimTelemetry::replies()
         QCOMPARE(orba::chooseForm(rec, 0, true), orba::Form::Dropped);
         return;
     }
-    QCOMPARE(rec, t.sim.record(quint32(expected)));
+    QCOMPARE(rec.left(t.sim.record(quint32(expected)).size()), t.sim.record(quint32(expected)));
     if (prefix == 3) {
         QCOMPARE(int(quint8(s.bytes[1]) | quint8(s.bytes[2]) << 8), rec.size());
     } else {
@@ -246,6 +248,40 @@ void tst_SimTelemetry::replies()
     }
     // Replies of the default field set pass the view's 101-byte threshold.
     QVERIFY(s.bytes.size() >= 101);
+}
+
+// Whatever version and field set the terminal is given, its current record is long enough to be
+// shown, and the zeros after a short record are no fields.
+void tst_SimTelemetry::currentReplyHoldsARecord_data()
+{
+    QTest::addColumn<int>("version");
+    QTest::addColumn<QString>("mask");
+    for (int v = 1; v <= 3; ++v) {
+        QTest::addRow("v%d default", v) << v << QString();
+        QTest::addRow("v%d head only", v) << v << maskOf({ 1, 2, 3 });
+        QTest::addRow("v%d nothing", v) << v << QString(255, QLatin1Char('0'));
+        QTest::addRow("v%d all", v) << v << QString(255, QLatin1Char('1'));
+    }
+}
+
+void tst_SimTelemetry::currentReplyHoldsARecord()
+{
+    QFETCH(int, version);
+    QFETCH(QString, mask);
+    Terminal t;
+    t.sim.setVersion(version);
+    if (!mask.isEmpty())
+        QVERIFY(t.sim.setMaskText(mask));
+    const Sent s = t.ask(ZRK_MSG_REQUEST_TMI_CURRENT, 0);
+    QCOMPARE(s.msg, int(ZRK_MSG_TMI_CURRENT));
+    QVERIFY(s.bytes.size() >= 101);
+    const QByteArray rec = t.sim.record(t.sim.lastNumber());
+    QCOMPARE(int(quint8(s.bytes[1]) | quint8(s.bytes[2]) << 8), rec.size());
+    QCOMPARE(s.bytes.mid(3, rec.size()), rec);
+    QCOMPARE(s.bytes.mid(3 + rec.size()), QByteArray(qMax(0, 101 - 3 - rec.size()), '\0'));
+    const auto page = decode(s.bytes.mid(3));
+    QVERIFY(page);
+    QCOMPARE(page->version(), version);
 }
 
 void tst_SimTelemetry::outputsAndGuardInNextRecord()

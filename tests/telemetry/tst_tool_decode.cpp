@@ -1,6 +1,10 @@
 // zrk-tool decode, run as the built program.
 #include "orba_records.h"
+#include "telemetry/orba_writer.h"
+#include "telemetry/tmi_file.h"
 #include "tests/common/tool_run.h"
+#include "translations/catalogue.h"
+#include "zrk/zrk_text.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -52,12 +56,85 @@ QByteArray extRecordWithItems()
     return extRecord(item(1, 8, le(42, 8)) + item(2, 16, QByteArray("LOG,1\"") + QByteArray(10, '\0')));
 }
 
+// Records of every kind, numbered from first: current records of the three versions with field
+// sets that change, extended records, fixed packets and unknown kinds.
+QList<QByteArray> manyRecords(int first, int count)
+{
+    QList<QByteArray> records;
+    for (int i = first; i < first + count; ++i) {
+        switch (i % 7) {
+        case 0:
+            records << extRecordWithItems();
+            break;
+        case 1: {
+            QByteArray packet(128, char(i));
+            packet[0] = char(orba::kKindFixedPacket);
+            records << packet;
+            break;
+        }
+        case 2:
+            records << QByteArray::fromHex("c3") + le(i, 4);
+            break;
+        default: {
+            RecordBuilder b;
+            b.setNumber(orba::F_NumPage, quint64(i)).setNumber(orba::F_Time, 1700000000 + i);
+            b.setNumber(orba::F_Latitude, 33456789 + i).setPattern(1 + i % 200);
+            records << b.record(1 + i % 3);
+        }
+        }
+    }
+    return records;
+}
+
+QByteArray hexLines(const QList<QByteArray>& records)
+{
+    QByteArray text;
+    for (const QByteArray& r : records)
+        text += r.toHex() + '\n';
+    return text;
+}
+
+// The lines of the records as the record writer makes them in this process (tst_orba_writer holds
+// it to the shapes it replaced).
+QByteArray expectedLines(const QList<QByteArray>& records, bool csv)
+{
+    orba::RecordWriter w(csv ? orba::RecordWriter::Format::Csv : orba::RecordWriter::Format::JsonLines);
+    zrk::TextBuffer out;
+    w.writeHeader(out);
+    for (const QByteArray& r : records)
+        w.write(r, out);
+    return QByteArray(out.data(), int(out.size()));
+}
+
+bool writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size();
+}
+
+QString tmiFile(const QString& path, const QList<QByteArray>& records)
+{
+    QVector<zrk::tmi::Record> rs;
+    for (const QByteArray& r : records)
+        rs << zrk::tmi::Record { r, QDateTime(), false };
+    QString error;
+    return zrk::tmi::write(path, zrk::tmi::Header(), rs, &error) ? path : error;
+}
+
 } // namespace
 
 class tst_ToolDecode : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase()
+    {
+        // The expected lines are made here, with the tool's zone and catalogue.
+        qputenv("TZ", "UTC0");
+        QVERIFY(zrk::installCatalogue(QStringLiteral("ru")));
+        QVERIFY(m_dir.isValid());
+    }
+
     void records_data()
     {
         QTest::addColumn<QByteArray>("record");
@@ -150,6 +227,140 @@ private slots:
         QCOMPARE(l[3], QByteArray("255,,1,unknown,") + QByteArray(255, ','));
     }
 
+    void filesInInputOrder_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::newRow("one thread") << QStringList { "-j", "1" };
+        QTest::newRow("two threads") << QStringList { "-j2" };
+        QTest::newRow("more threads than cores") << QStringList { "--jobs", "5" };
+        QTest::newRow("CSV, two threads") << QStringList { "--csv", "-j", "2" };
+    }
+
+    // Files of every kind, each larger than a block the reader takes at once, decoded by one thread
+    // or several: the records come out in input order, as the writer before wrote them.
+    void filesInInputOrder()
+    {
+        QFETCH(QStringList, options);
+        const bool csv = options.contains(QStringLiteral("--csv"));
+        const QList<QByteArray> a = manyRecords(0, 3000), b = manyRecords(3000, 2500),
+                                c = manyRecords(5500, 1), d = manyRecords(5501, 40),
+                                e = manyRecords(5541, 700);
+        QVERIFY(writeFile(m_dir.filePath("a.hex"), hexLines(a)));
+        QCOMPARE(tmiFile(m_dir.filePath("b.tmi"), b), m_dir.filePath("b.tmi"));
+        QVERIFY(writeFile(m_dir.filePath("c.bin"), c.first()));
+        QCOMPARE(tmiFile(m_dir.filePath("d.xml"), d), m_dir.filePath("d.xml")); // told by its content
+        QVERIFY(writeFile(m_dir.filePath("e"), "\n  \r\n" + hexLines(e).toUpper()));
+        const QStringList files { m_dir.filePath("a.hex"), m_dir.filePath("b.tmi"), m_dir.filePath("c.bin"),
+            QStringLiteral("-"), m_dir.filePath("d.xml"), m_dir.filePath("e") };
+        const QList<QByteArray> onStdin = manyRecords(9000, 30);
+        const auto r = decode(options + files, hexLines(onStdin));
+        QCOMPARE(r.err, QByteArray());
+        QCOMPARE(r.code, 0);
+        const QByteArray expected = expectedLines(a + b + c + onStdin + d + e, csv);
+        QCOMPARE(r.out.size(), expected.size());
+        QVERIFY(r.out == expected);
+    }
+
+    // A line longer than the reader's block, and inputs with no record at all.
+    void longLinesAndEmptyInputs()
+    {
+        const QByteArray huge = QByteArray(1, '\xC3') + QByteArray(200000, '\x5A');
+        auto r = decode({ QStringLiteral("-") }, "\n" + huge.toHex() + "\n");
+        QCOMPARE(r.code, 0);
+        QCOMPARE(r.out, QByteArray("{\"kind\":195,\"length\":200001,\"page\":\"unknown\",\"version\":90}\n"));
+        r = decode({}, QByteArray());
+        QCOMPARE(r.code, 0);
+        QCOMPARE(r.out, QByteArray());
+        r = decode({ QStringLiteral("--csv") }, " \n\n");
+        QCOMPARE(r.code, 0);
+        QCOMPARE(r.out, expectedLines({}, true));
+    }
+
+    // What a file holds is told by its content unless --input says it.
+    void inputKinds_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QList<QByteArray>>("records");
+        const QByteArray hexText = "b01e" + QByteArray(64, '0') + "\n";
+        QTest::newRow("hex by content")
+            << hexText << QStringList() << QList<QByteArray> { QByteArray::fromHex(hexText) };
+        QTest::newRow("the same bytes as one binary record")
+            << hexText << QStringList { "--input", "binary" } << QList<QByteArray> { hexText };
+        QTest::newRow("binary by content")
+            << sampleRecord(3) << QStringList() << QList<QByteArray> { sampleRecord(3) };
+        QTest::newRow("empty file: one empty record")
+            << QByteArray() << QStringList() << QList<QByteArray> { QByteArray() };
+    }
+
+    void inputKinds()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QStringList, options);
+        QFETCH(QList<QByteArray>, records);
+        const QString path = m_dir.filePath(QStringLiteral("kind.dat"));
+        QVERIFY(writeFile(path, content));
+        const auto r = decode(options + QStringList { path });
+        QCOMPARE(r.code, 0);
+        QCOMPARE(r.out, expectedLines(records, false));
+    }
+
+    // The records before a bad line or a damaged file are written; the fault fails the command
+    // and names where it is.
+    void faultsAfterGoodRecords_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("good");
+        QTest::addColumn<QString>("message");
+        const QList<QByteArray> records = manyRecords(0, 3000);
+        QTest::newRow("bad hex after a few blocks")
+            << QStringLiteral("bad.hex") << hexLines(records) + "b0 1e\nb0 zz\n"
+            << 3001 << QStringLiteral("bad hex in %1 on line 3002: 'z' is not a hex digit");
+        QTest::newRow("odd digits on the first line") << QStringLiteral(
+            "odd.hex") << QByteArray("b01e0\n") << 0 << QStringLiteral("bad hex in %1 on line 1: odd number");
+        QByteArray tmi;
+        {
+            const QString path = m_dir.filePath(QStringLiteral("whole.tmi"));
+            QCOMPARE(tmiFile(path, records.mid(0, 2200)), path);
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::ReadOnly));
+            tmi = f.readAll();
+        }
+        const int cut = tmi.lastIndexOf("<RECORD") + 20;
+        QTest::newRow("damaged saved file") << QStringLiteral("cut.tmi") << tmi.left(cut) << 2199
+                                            << QStringLiteral("обрывается внутри записи 2200");
+    }
+
+    void faultsAfterGoodRecords()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(int, good);
+        QFETCH(QString, message);
+        const QString path = m_dir.filePath(name);
+        QVERIFY(writeFile(path, content));
+        for (const char* jobs : { "1", "2" }) {
+            const auto r = decode({ QStringLiteral("-j"), QLatin1String(jobs), path });
+            QCOMPARE(r.code, 1);
+            QCOMPARE(r.out.count('\n'), good);
+            QCOMPARE(lines(r.err).size(), 1);
+            QVERIFY2(QString::fromUtf8(r.err).contains(message.arg(path)), r.err.constData());
+        }
+    }
+
+    void progress()
+    {
+        const QByteArray input = hexLines(manyRecords(0, 50));
+        const auto quiet = decode({ QStringLiteral("-") }, input);
+        const auto shown = decode({ QStringLiteral("--progress"), QStringLiteral("-") }, input);
+        QCOMPARE(quiet.err, QByteArray());
+        QCOMPARE(shown.out, quiet.out);
+        // Not a terminal: whole lines, the last with the count.
+        QVERIFY2(shown.err.startsWith("zrk-tool decode: 50 records, ") && shown.err.endsWith(" records/s\n"),
+            shown.err.constData());
+    }
+
     void badInput_data()
     {
         QTest::addColumn<QStringList>("args");
@@ -163,10 +374,21 @@ private slots:
             << QStringList { "--hex" } << QByteArray() << QByteArray("--hex needs");
         QTest::newRow("unreadable file") << QStringList { "/nonexistent/record.bin" } << QByteArray()
                                          << QByteArray("cannot read /nonexistent/record.bin");
-        QTest::newRow("odd line on standard input")
+        QTest::newRow("odd line on standard input, after a good one")
             << QStringList { "-" } << QByteArray("b01e\nb01e0\n") << QByteArray("line 2: odd number");
         QTest::newRow("unknown option")
             << QStringList { "--json" } << QByteArray() << QByteArray("unknown option");
+        QTest::newRow("no threads") << QStringList { "-j", "0" } << QByteArray()
+                                    << QByteArray("-j needs a number");
+        QTest::newRow("threads not a number")
+            << QStringList { "-jx" } << QByteArray() << QByteArray("from 1 to 256, not 'x'");
+        QTest::newRow("-j last") << QStringList { "-j" } << QByteArray() << QByteArray("-j needs");
+        QTest::newRow("unknown input kind") << QStringList { "--input", "csv", "-" } << QByteArray()
+                                            << QByteArray("--input is hex, binary or tmi");
+        QTest::newRow("standard input twice")
+            << QStringList { "-", "-" } << QByteArray() << QByteArray("more than once");
+        QTest::newRow("a missing file after a good one: nothing written") << QStringList { "-",
+            "/nonexistent/2.hex" } << QByteArray("b01e\n") << QByteArray("cannot read /nonexistent/2.hex");
     }
 
     void badInput()
@@ -177,8 +399,14 @@ private slots:
         const auto r = decode(args, input);
         QVERIFY(r.code > 0);
         QCOMPARE(lines(r.err).size(), 1);
+        // Only a record before a bad line is written.
+        QCOMPARE(
+            lines(r.out).size(), QByteArray(QTest::currentDataTag()).endsWith("after a good one") ? 1 : 0);
         QVERIFY2(r.err.contains(message), r.err.constData());
     }
+
+private:
+    QTemporaryDir m_dir;
 };
 
 QTEST_GUILESS_MAIN(tst_ToolDecode)
