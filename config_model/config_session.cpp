@@ -28,14 +28,69 @@ std::unique_ptr<CSerialize> emptyDocument()
 // The document in its saved form, from what a file holds (null: a new configuration). Declared
 // keys missing from the file take their read defaults, values their declared form; the branches no
 // page owns follow as they were, then the user parameters.
+// A declared branch as writeBranch leaves it, built straight as elements: the top node with its
+// "page", then one record node a group with its keys in declaration order. Values pass the same
+// decoding a committed parameter list gives a new attribute.
+void appendBranch(CXmlTagV2* root, const cfg::BranchDecl& branch, const cfg::Values& values)
+{
+    auto attribute = [](CXmlTagV2* tag, const QString& name, const QString& value) {
+        auto* attr = new CXmlTagV2(name, QString(), tag);
+        attr->value = CXmlTagV2::decodeText(value);
+        tag->values.addTag(attr);
+    };
+    auto textOf = [&branch, &values](int i) {
+        const cfg::KeyDecl& d = branch.keys[i];
+        const QString v = i < values.size() ? values[i] : d.resetValue;
+        switch (d.type) {
+        case cfg::KeyType::Integer:
+            return QString::number(v.toInt());
+        case cfg::KeyType::Bool:
+            return v.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0");
+        default:
+            return v;
+        }
+    };
+    auto* top = new CXmlTagV2(branch.top, QString(), root);
+    root->children.addTag(top);
+    attribute(top, QLatin1String(cfg::kPageKey), branch.top);
+    for (int i = 0; i < branch.keys.size(); ++i) {
+        if (branch.keys[i].group.isEmpty())
+            attribute(top, branch.keys[i].key, textOf(i));
+    }
+    for (const QString& group : branch.groups) {
+        auto* node = new CXmlTagV2(group, QString(), top);
+        node->type = CXmlTagV2::Record;
+        top->children.addTag(node);
+        for (int i = 0; i < branch.keys.size(); ++i) {
+            if (branch.keys[i].group == group)
+                attribute(node, branch.keys[i].key, textOf(i));
+        }
+    }
+}
+
+cfg::Values userParamValues(const fieldset::UserParams& params)
+{
+    cfg::Values values;
+    for (int g = 0; g < 4; ++g) {
+        values << params.types[g].leftJustified(fieldset::kUserCounts[g], QLatin1Char('0'), true);
+        for (int i = 0; i < fieldset::kUserCounts[g]; ++i)
+            values << params.names[g].value(i);
+    }
+    return values;
+}
+
+// The document in its saved form, from what a file holds (null: a new configuration). Declared
+// keys missing from the file take their read defaults, values their declared form; the branches no
+// page owns follow as they were, then the user parameters.
 std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
 {
+    static const cfg::BranchDecl userBranch = cfg::userParamBranch();
     auto out = emptyDocument();
-    CXMLWorkData dst(out.get(), cfg::kRootNode);
+    CXmlTagV2* target = out->root();
     if (!from) {
         for (const cfg::BranchDecl& b : cfg::declaredBranches())
-            cfg::writeBranch(&dst, b, cfg::resetValues(b));
-        fieldset::writeUserParams(&dst, fieldset::defaultUserParams());
+            appendBranch(target, b, cfg::resetValues(b));
+        appendBranch(target, userBranch, userParamValues(fieldset::defaultUserParams()));
         return out;
     }
     // What no page owns is moved over as it is (the source is thrown away after); the header is
@@ -43,7 +98,6 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
     const QStringList owned = ConfigSession::ownedTopNodes();
     const QStringList& header = configHeaderKeys();
     CXmlTagV2* source = from->root();
-    CXmlTagV2* target = out->root();
     QVector<CXmlTagV2*> keptKeys, keptBranches;
     for (CXmlTagV2* attr : source->values) {
         if (!header.contains(attr->name))
@@ -63,7 +117,7 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
         cfg::Values values = cfg::readBranch(&src, b);
         for (int i = 0; i < values.size(); ++i)
             values[i] = cfg::normalizedValue(b.keys[i], values[i]);
-        cfg::writeBranch(&dst, b, values);
+        appendBranch(target, b, values);
     }
     for (CXmlTagV2* attr : keptKeys) {
         attr->parent = target;
@@ -73,7 +127,7 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
         child->parent = target;
         target->children.addTag(child);
     }
-    fieldset::writeUserParams(&dst, fieldset::readUserParams(&src));
+    appendBranch(target, userBranch, userParamValues(fieldset::readUserParams(&src)));
     return out;
 }
 
