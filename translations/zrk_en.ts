@@ -3925,5 +3925,19 @@ The old file is unchanged.</translation>
         <source>Размер скрытой части</source>
         <translation>Hidden part size</translation>
     </message>
+    <message id="gmap_003">
+        <source>не удалось создать контекст OpenGL (платформа «%1»)</source>
+        <translation>an OpenGL context cannot be created (platform "%1")</translation>
+    </message>
+    <message id="gmap_004">
+        <source>контекст OpenGL создан, но не становится текущим (платформа «%1»)</source>
+        <translation>an OpenGL context was created but cannot be made current (platform "%1")</translation>
+    </message>
+    <message id="gmap_002">
+        <source>Карта недоступна: %1.
+Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</source>
+        <translation>Map unavailable: %1.
+Everything else works as usual; on a workstation with OpenGL the map appears here.</translation>
+    </message>
 </context>
 </TS>

@@ -3925,5 +3925,19 @@
         <source>Размер скрытой части</source>
         <translation>Размер скрытой части</translation>
     </message>
+    <message id="gmap_003">
+        <source>не удалось создать контекст OpenGL (платформа «%1»)</source>
+        <translation>не удалось создать контекст OpenGL (платформа «%1»)</translation>
+    </message>
+    <message id="gmap_004">
+        <source>контекст OpenGL создан, но не становится текущим (платформа «%1»)</source>
+        <translation>контекст OpenGL создан, но не становится текущим (платформа «%1»)</translation>
+    </message>
+    <message id="gmap_002">
+        <source>Карта недоступна: %1.
+Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</source>
+        <translation>Карта недоступна: %1.
+Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</translation>
+    </message>
 </context>
 </TS>

@@ -4,12 +4,15 @@
 #include "../map/web_test_main.h"
 #include "config_model/geo_file.h"
 #include "config_ui/zrk_form_config_ainf.h"
+#include "config_ui/zrk_form_config_ainf_map.h"
 #include "config_ui/zrk_form_config_ainf_route.h"
 #include "device/zrk_device_k7140.h"
 #include "translations/catalogue.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QMap>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -264,6 +267,47 @@ private slots:
         QVERIFY(!m_page->readFileParamGeo(old));
         QCOMPARE(m_messages.size(), 1);
         QCOMPARE(ids(*m_page), (QVector<int> { 1, 7 }));
+    }
+
+    // A workstation without OpenGL: the page is built with a message where the map would be, and
+    // zones are added, moved, selected, saved and opened again as anywhere else.
+    void withoutMap()
+    {
+        zrktest::NoOpenGL noGl;
+        ZRK_Form_Config_Ainf page;
+        page.setMessageSink([this](const QString& m) { m_messages << m; });
+        page.resize(1000, 700);
+        page.show();
+        ZRK_Widget_Map* map = page.mapForm()->map();
+        QVERIFY(!map->isAvailable());
+        auto* label = page.findChild<QLabel*>(QStringLiteral("label_MapUnavailable"));
+        QVERIFY(label);
+        QTRY_VERIFY(label->isVisible());
+        QVERIFY(label->text().startsWith(QStringLiteral("Карта недоступна")));
+        // The map's own controls have nothing to act on.
+        QVERIFY(!page.mapForm()->findChild<QPushButton*>(QStringLiteral("BtnCentre"))->isEnabled());
+        QVERIFY(!page.mapForm()->findChild<QPushButton*>(QStringLiteral("BtnApplyTiles"))->isEnabled());
+
+        QCOMPARE(page.addZoneAt(55.75, 37.62), 1);
+        QCOMPARE(page.addGeoZone(
+                     QStringLiteral("Склад"), 300, 45, 1, QStringLiteral("55.8"), QStringLiteral("37.7")),
+            2);
+        page.selectZone(2);
+        QCOMPARE(page.selectedZoneId(), 2);
+        page.moveZone(2, 55.9, 37.8);
+        page.resizeZone(2, 400);
+        QCOMPARE(page.addRouteThroughZones(QStringLiteral("7"), { 1, 2 }), 1);
+        QCOMPARE(page.deleteZones({ page.rowOfZone(1) }), 0); // a stop of the route stays
+        const QString path = m_dir.filePath(QStringLiteral("nomap.xml"));
+        QVERIFY(page.writeFileParamGeo(path, true));
+        QCOMPARE(m_messages.size(), 1);
+
+        ZRK_Form_Config_Ainf other;
+        QVERIFY(other.readFileParamGeo(path));
+        QCOMPARE(ids(other), (QVector<int> { 1, 2 }));
+        QCOMPARE(other.data().zones.at(1).lat, 55.9);
+        QCOMPARE(other.data().zones.at(1).size, 400);
+        QCOMPARE(other.data().routes.size(), 1);
     }
 
     void proposedName()

@@ -1,14 +1,24 @@
 // The map page as the user sees it: what it draws for the zones, routes and tracks it is given,
-// and what it reports when the user drags a zone's handles. Runs under Xvfb.
+// and what it reports when the user drags a zone's handles. Runs under Xvfb, and once more on the
+// offscreen platform, where there is no OpenGL and the map must say so without taking the process
+// down.
+#include "map/zrk_dialog_map_track.h"
 #include "map/zrk_map_tiles.h"
 #include "map/zrk_widget_map.h"
+#include "translations/catalogue.h"
 #include "web_test_main.h"
 
 #include <QDir>
 #include <QFile>
 #include <QJsonObject>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+
+// The tests of what the page draws need the page.
+#define REQUIRE_MAP()                                                                                        \
+    if (!m_map)                                                                                              \
+    QSKIP("no OpenGL in this process: the map shows its message instead")
 
 class TstMapWidget : public QObject
 {
@@ -35,6 +45,15 @@ class TstMapWidget : public QObject
 private slots:
     void initTestCase()
     {
+        QVERIFY(zrk::installCatalogue(QStringLiteral("ru")));
+        QString reason;
+        if (zrktest::offscreenWithoutDisplay()) {
+            // The probe itself: this process cannot make a context, and says where.
+            QVERIFY(!ZRK_Widget_Map::isSupported(&reason));
+            QVERIFY2(reason.contains(QLatin1String("offscreen")), qPrintable(reason));
+            return;
+        }
+        QVERIFY2(ZRK_Widget_Map::isSupported(&reason), qPrintable(reason));
         m_map = new ZRK_Widget_Map;
         QSignalSpy ready(m_map, &ZRK_Widget_Map::mapReady);
         QSignalSpy finished(m_map, &ZRK_Widget_Map::loadFinished);
@@ -49,6 +68,7 @@ private slots:
 
     void zonesRoutesAndRadii()
     {
+        REQUIRE_MAP();
         QSignalSpy shown(m_map, &ZRK_Widget_Map::zonesShown);
         m_map->setZones(threeZones());
         // Zone 99 is not on the map: the line goes through the stops that are.
@@ -71,6 +91,7 @@ private slots:
 
     void updateAndRemove()
     {
+        REQUIRE_MAP();
         m_map->setZones(threeZones());
         m_map->setRoutes({ { 1, QStringLiteral("12"), { 1, 2, 7 } } });
         m_map->updateZone({ 2, QStringLiteral("Вокзал"), 55.7650, 37.6450, 420 });
@@ -91,6 +112,7 @@ private slots:
     // the radius follows the distance, and both changes come back to C++.
     void dragHandles()
     {
+        REQUIRE_MAP();
         m_map->setZones(threeZones());
         m_map->selectZone(1, true);
         QCOMPARE(stats().value("selected").toInt(), 1);
@@ -125,6 +147,7 @@ private slots:
 
     void clickReportsPosition()
     {
+        REQUIRE_MAP();
         QSignalSpy clicked(m_map, &ZRK_Widget_Map::mapClicked);
         eval(QStringLiteral("zrkMap.leaflet().fire('dblclick', {latlng: L.latLng(55.5, 37.25)}), true"));
         QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, 5000);
@@ -134,6 +157,7 @@ private slots:
 
     void trackAndTiles()
     {
+        REQUIRE_MAP();
         QVector<ZrkMapTrackPoint> track;
         for (int i = 0; i < 5; ++i)
             track.append({ 56.0 + i * 0.001, 38.0, QDateTime(QDate(2026, 11, 1), QTime(10, i)), 40.0 + i });
@@ -146,6 +170,64 @@ private slots:
         QCOMPARE(stats().value("tiles").toString(), QStringLiteral("https://tiles.example/{z}/{x}/{y}.png"));
         m_map->setTileSource(QString());
         QCOMPARE(stats().value("tiles").toString(), QString());
+    }
+
+    // Without OpenGL the map is a message; every call of the pages is taken and nothing answers, and
+    // the telemetry track window shows the same message.
+    void unavailableMapTakesEveryCall()
+    {
+        zrktest::NoOpenGL noGl;
+        ZRK_Widget_Map map;
+        map.resize(500, 300);
+        map.show();
+        QVERIFY(!map.isAvailable());
+        QVERIFY(!map.view());
+        auto* label = map.findChild<QLabel*>(QStringLiteral("label_MapUnavailable"));
+        QVERIFY(label);
+        QVERIFY(label->isVisible());
+        QCOMPARE(label->text(), map.unavailableText());
+        QVERIFY2(label->text().startsWith(QStringLiteral("Карта недоступна: ")), qPrintable(label->text()));
+        if (noGl.forced())
+            QVERIFY(label->text().contains(QLatin1String(zrktest::NoOpenGL::kForcedReason)));
+
+        QSignalSpy ready(&map, &ZRK_Widget_Map::mapReady);
+        QSignalSpy finished(&map, &ZRK_Widget_Map::loadFinished);
+        QSignalSpy shown(&map, &ZRK_Widget_Map::zonesShown);
+        bool answered = false;
+        map.setZones(threeZones());
+        map.updateZone({ 9, QStringLiteral("Новая"), 55.7, 37.5, 50 });
+        map.removeZone(7);
+        map.selectZone(1, true);
+        map.selectZone(0);
+        map.setRoutes({ { 1, QStringLiteral("12"), { 1, 2 } } });
+        map.setTrack({ { 56.0, 38.0, QDateTime::currentDateTime(), 40.0 } });
+        map.centreOn(55.0, 37.0, 12);
+        map.fitZones();
+        QTemporaryDir tiles;
+        map.setTileSource(tiles.path());
+        map.runScript(QStringLiteral("1"), [&](const QVariant&) { answered = true; });
+        map.queryStats([&](const QJsonObject&) { answered = true; });
+        QTest::qWait(200);
+        QVERIFY(!answered);
+        QVERIFY(!map.isReady());
+        QCOMPARE(ready.count() + finished.count() + shown.count(), 0);
+        QCOMPARE(map.tileSource(), tiles.path());
+
+        // The message follows the language.
+        QVERIFY(zrk::installCatalogue(QStringLiteral("en")));
+        QTRY_VERIFY2(
+            label->text().startsWith(QStringLiteral("Map unavailable: ")), qPrintable(label->text()));
+        QVERIFY(zrk::installCatalogue(QStringLiteral("ru")));
+        QTRY_VERIFY(label->text().startsWith(QStringLiteral("Карта недоступна: ")));
+
+        QPointer<ZRK_Dialog_Map_Track> track
+            = ZRK_Dialog_Map_Track::showTrack({ { 56.0, 38.0, QDateTime::currentDateTime(), 40.0 },
+                { 56.1, 38.1, QDateTime::currentDateTime(), 0 } });
+        QVERIFY(track);
+        QVERIFY(track->isVisible());
+        QVERIFY(!track->map()->isAvailable());
+        QVERIFY(track->findChild<QLabel*>(QStringLiteral("label_MapUnavailable"))->isVisible());
+        delete track;
     }
 
     void tileFile_data()
