@@ -588,6 +588,7 @@ bool ZRK_Form_Config_Ainf::saveFileInDevice()
     cfgFile.close();
     QFile::remove(cfg);
     m_sdIndex = 0;
+    ++m_sdTransfer;
     updateState();
     saveNextFileSD();
     return true;
@@ -595,7 +596,7 @@ bool ZRK_Form_Config_Ainf::saveFileInDevice()
 
 void ZRK_Form_Config_Ainf::saveNextFileSD()
 {
-    if (m_sdIndex < 0)
+    if (!isWritingToDevice())
         return;
     if (m_sdIndex >= m_sdFiles.size()) {
         finishSd(true, QString());
@@ -610,16 +611,39 @@ void ZRK_Form_Config_Ainf::saveNextFileSD()
         lpGlobalDevice->formWait_Set_Progress_Value(m_sdIndex);
         lpGlobalDevice->formWait_Show();
     }
-    if (!sendSdStep()) {
-        //% "Не удалось передать файл %1 на SD-карту терминала."
-        finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
-    }
+    sendSdStepOrFail();
 }
 
-bool ZRK_Form_Config_Ainf::sendSdStep()
+QString ZRK_Form_Config_Ainf::sdFailureText(qint32 result, const QString& file)
 {
-    if (!lpGlobalDevice || m_sdIndex < 0 || m_sdIndex >= m_sdFiles.size())
-        return false;
+    if (result == ZRK_SD_CARD_FULL)
+        //% "На SD-карте терминала нет места для файла %1."
+        return qtTrId("gain_290").arg(file);
+    if (result == ZRK_SD_NO_CARD)
+        //% "В терминале нет SD-карты; файл %1 не записан."
+        return qtTrId("gain_291").arg(file);
+    //% "Не удалось передать файл %1 на SD-карту терминала."
+    return qtTrId("gain_288").arg(file);
+}
+
+// The host may answer inside the request's call and may end the transfer there (an error reply,
+// a disconnect); whatever it did, the request's own result is looked at only while this same
+// transfer is still on its way.
+void ZRK_Form_Config_Ainf::sendSdStepOrFail()
+{
+    if (!isWritingToDevice() || m_sdIndex >= m_sdFiles.size())
+        return;
+    const quint64 transfer = m_sdTransfer;
+    const QString file = m_sdFiles.at(m_sdIndex).first;
+    const qint32 result = sendSdStep();
+    if (result != ZRK_SD_OK && transfer == m_sdTransfer && isWritingToDevice())
+        finishSd(false, sdFailureText(result, file));
+}
+
+qint32 ZRK_Form_Config_Ainf::sendSdStep()
+{
+    if (!lpGlobalDevice)
+        return ZRK_SD_NO_CARD;
     const auto& file = m_sdFiles.at(m_sdIndex);
     szSDFile request;
     // A fresh copy: the host may keep the name after the plug-in (and its string literals) is gone.
@@ -636,45 +660,47 @@ bool ZRK_Form_Config_Ainf::sendSdStep()
         request.operation = ZRK_SD_CLOSE;
         m_sdClosing = true;
     }
+    m_sdAwaiting = request.operation;
+    m_sdAwaitingOffset = request.offset;
     m_sdWatchdog->start();
     lpGlobalDevice->SendMessage(
         lpGlobalDevice, ZRK_MSG_SD_FILE_OPERATION, reinterpret_cast<unsigned long>(&request), 0);
-    return request.result == ZRK_SD_OK;
+    return request.result;
 }
 
 void ZRK_Form_Config_Ainf::receive_SD_File(QByteArray* data)
 {
-    if (!data || m_sdIndex < 0)
+    if (!data || !isWritingToDevice() || m_sdAwaiting == 0 || m_sdIndex >= m_sdFiles.size())
         return;
     szSDFileReplyHeader header;
     QString name;
-    if (!zrkParseSDFileReply(*data, &header, &name, nullptr) || name != m_sdFiles.at(m_sdIndex).first)
-        return; // not an answer to this page's transfer
+    // Only the answer to the request on its way counts: a repeated or stray reply would otherwise
+    // move the transfer on by a step it never made.
+    if (!zrkParseSDFileReply(*data, &header, &name, nullptr) || name != m_sdFiles.at(m_sdIndex).first
+        || header.operation != m_sdAwaiting || header.offset != m_sdAwaitingOffset)
+        return;
+    m_sdAwaiting = 0;
     m_sdWatchdog->stop();
     if (header.result != ZRK_SD_OK) {
-        const QString file = m_sdFiles.at(m_sdIndex).first;
-        if (header.result == ZRK_SD_CARD_FULL)
-            //% "На SD-карте терминала нет места для файла %1."
-            finishSd(false, qtTrId("gain_290").arg(file));
-        else if (header.result == ZRK_SD_NO_CARD)
-            //% "В терминале нет SD-карты; файл %1 не записан."
-            finishSd(false, qtTrId("gain_291").arg(file));
-        else
-            finishSd(false, qtTrId("gain_288").arg(file));
+        finishSd(false, sdFailureText(header.result, m_sdFiles.at(m_sdIndex).first));
         return;
     }
     // The next request goes out from the event loop: replies may arrive inside the request's call.
-    if (m_sdClosing) {
+    if (m_sdClosing)
         ++m_sdIndex;
-        QMetaObject::invokeMethod(this, &ZRK_Form_Config_Ainf::saveNextFileSD, Qt::QueuedConnection);
-        return;
-    }
-    m_sdOffset = m_sdOffset < 0 ? 0 : m_sdOffset + ZRK_SD_CHUNK_MAX;
+    else
+        m_sdOffset = m_sdOffset < 0 ? 0 : m_sdOffset + ZRK_SD_CHUNK_MAX;
+    const quint64 transfer = m_sdTransfer;
+    const bool nextFile = m_sdClosing;
     QMetaObject::invokeMethod(
         this,
-        [this] {
-            if (m_sdIndex >= 0 && !sendSdStep())
-                finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
+        [this, transfer, nextFile] {
+            if (transfer != m_sdTransfer)
+                return; // that transfer has ended (and another may have started) meanwhile
+            if (nextFile)
+                saveNextFileSD();
+            else
+                sendSdStepOrFail();
         },
         Qt::QueuedConnection);
 }
@@ -683,6 +709,8 @@ void ZRK_Form_Config_Ainf::finishSd(bool ok, const QString& message)
 {
     m_sdWatchdog->stop();
     m_sdIndex = -1;
+    m_sdAwaiting = 0;
+    ++m_sdTransfer;
     m_sdFiles.clear();
     if (lpGlobalDevice)
         lpGlobalDevice->formWait_Close();

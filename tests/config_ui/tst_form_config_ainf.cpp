@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimer>
 
 namespace {
 
@@ -22,7 +23,18 @@ ZRK_Form_Config_Ainf* g_page = nullptr;
 QMap<QString, QByteArray> g_card; // what the simulated card holds
 QMap<QString, QByteArray> g_open; // files being written
 int g_requests = 0;
-qint32 g_failWith = ZRK_SD_OK; // a result the card gives to writes
+
+// How the fake host answers the request that fails (the others it answers well, inside the call).
+enum class Answer
+{
+    InsideCall, // result set and the 2401 reply sent before the request returns (zrk-host's card)
+    Later, // result set; the reply comes from the event loop
+    ResultOnly, // result set, no reply at all
+    ReplyOnly, // result OK, the reply (inside the call) says what went wrong
+};
+qint32 g_failWith = ZRK_SD_OK; // what the card answers to g_failOperation
+quint32 g_failOperation = ZRK_SD_WRITE;
+Answer g_answer = Answer::InsideCall;
 
 QByteArray reply(const szSDFile& r, qint32 result)
 {
@@ -37,27 +49,35 @@ unsigned long hostCallback(void*, int msg, unsigned long w, unsigned long)
         return 0;
     auto* r = reinterpret_cast<szSDFile*>(w);
     ++g_requests;
-    r->result = ZRK_SD_OK;
     qint32 result = ZRK_SD_OK;
-    switch (r->operation) {
-    case ZRK_SD_OPEN:
-        g_open[r->fileName].clear();
-        break;
-    case ZRK_SD_WRITE:
-        if (g_failWith != ZRK_SD_OK || int(r->size) != r->data.size() || r->data.size() > ZRK_SD_CHUNK_MAX) {
-            result = g_failWith != ZRK_SD_OK ? g_failWith : ZRK_SD_BAD_REQUEST;
+    if (g_failWith != ZRK_SD_OK && r->operation == g_failOperation) {
+        result = g_failWith;
+    } else {
+        switch (r->operation) {
+        case ZRK_SD_OPEN:
+            g_open[r->fileName].clear();
             break;
+        case ZRK_SD_WRITE:
+            if (int(r->size) != r->data.size() || r->data.size() > ZRK_SD_CHUNK_MAX)
+                result = ZRK_SD_BAD_REQUEST;
+            else
+                g_open[r->fileName].replace(int(r->offset), r->data.size(), r->data);
+            break;
+        case ZRK_SD_CLOSE:
+            g_card[r->fileName] = g_open.take(r->fileName);
+            break;
+        default:
+            result = ZRK_SD_BAD_REQUEST;
         }
-        g_open[r->fileName].replace(int(r->offset), r->data.size(), r->data);
-        break;
-    case ZRK_SD_CLOSE:
-        g_card[r->fileName] = g_open.take(r->fileName);
-        break;
-    default:
-        result = ZRK_SD_BAD_REQUEST;
     }
-    QByteArray answer = reply(*r, result);
-    g_page->receive_SD_File(&answer); // the reply comes inside the request's call
+    const Answer answer = result == ZRK_SD_OK ? Answer::InsideCall : g_answer;
+    r->result = answer == Answer::ReplyOnly ? ZRK_SD_OK : result;
+    QByteArray bytes = reply(*r, result);
+    if (answer == Answer::InsideCall || answer == Answer::ReplyOnly) {
+        g_page->receive_SD_File(&bytes);
+    } else if (answer == Answer::Later) {
+        QTimer::singleShot(0, g_page, [bytes]() mutable { g_page->receive_SD_File(&bytes); });
+    }
     return 0;
 }
 
@@ -321,19 +341,53 @@ private slots:
     {
         QTest::addColumn<int>("zones");
         QTest::addColumn<int>("failWith");
-        QTest::newRow("small set") << 3 << int(ZRK_SD_OK);
-        QTest::newRow("many chunks") << 400 << int(ZRK_SD_OK);
-        QTest::newRow("card full") << 3 << int(ZRK_SD_CARD_FULL);
+        QTest::addColumn<uint>("failOperation");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("message");
+        const QString noCard = QStringLiteral("нет SD-карты");
+        const QString full = QStringLiteral("нет места");
+        const QString refused = QStringLiteral("Не удалось передать");
+        QTest::newRow("small set") << 3 << int(ZRK_SD_OK) << uint(ZRK_SD_OPEN) << 0 << QString();
+        QTest::newRow("many chunks") << 400 << int(ZRK_SD_OK) << uint(ZRK_SD_OPEN) << 0 << QString();
+        // zrk-host's card when it is taken out: the result and the reply, both inside the call.
+        QTest::newRow("card removed, inside the call")
+            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::InsideCall) << noCard;
+        QTest::newRow("card full at a write, inside the call")
+            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::InsideCall) << full;
+        QTest::newRow("close refused, inside the call")
+            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_CLOSE) << int(Answer::InsideCall) << refused;
+        QTest::newRow("card removed, answered later")
+            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::Later) << noCard;
+        QTest::newRow("card full at a write, answered later")
+            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::Later) << full;
+        QTest::newRow("close refused, answered later")
+            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_CLOSE) << int(Answer::Later) << refused;
+        QTest::newRow("card removed, result only")
+            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::ResultOnly) << noCard;
+        QTest::newRow("card full, result only")
+            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::ResultOnly) << full;
+        QTest::newRow("write refused, reply only")
+            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_WRITE) << int(Answer::ReplyOnly) << refused;
+        QTest::newRow("not found at close, reply only")
+            << 3 << int(ZRK_SD_NOT_FOUND) << uint(ZRK_SD_CLOSE) << int(Answer::ReplyOnly) << refused;
     }
+    // The card write against a host that answers each error synchronously or later: one message
+    // naming the file, the page free for the next write, which then succeeds.
     void writeToCard()
     {
         QFETCH(int, zones);
         QFETCH(int, failWith);
+        QFETCH(uint, failOperation);
+        QFETCH(int, answer);
+        QFETCH(QString, message);
         ZRK_Device_K7140 device(QStringLiteral("K-7140"), 3, 5, 8, 1);
         device.InitConfigurator(&hostCallback);
         g_card.clear();
+        g_open.clear();
         g_requests = 0;
         g_failWith = failWith;
+        g_failOperation = failOperation;
+        g_answer = Answer(answer);
         coreAinfData data;
         for (int i = 1; i <= zones; ++i)
             data.zones << zone(i);
@@ -347,12 +401,27 @@ private slots:
         QTRY_COMPARE(done.count(), 1);
         QCOMPARE(done.first().first().toBool(), failWith == ZRK_SD_OK);
         QVERIFY(!m_page->isWritingToDevice());
-        if (failWith != ZRK_SD_OK) {
-            QVERIFY(g_card.isEmpty());
-            QCOMPARE(m_messages.size(), 1);
-            return;
-        }
         const QByteArray geo = renderFileParamGeo(data, true);
+        if (failWith != ZRK_SD_OK) {
+            QVERIFY(!g_card.contains(QStringLiteral("GeoZones.cfg")));
+            QCOMPARE(m_messages.size(), 1);
+            QVERIFY2(m_messages.first().contains(message), qPrintable(m_messages.first()));
+            QVERIFY2(
+                m_messages.first().contains(QStringLiteral("GeoZones.xml")), qPrintable(m_messages.first()));
+            // Nothing more goes out once the write has ended, and a late reply changes nothing.
+            const int requests = g_requests;
+            QTest::qWait(50);
+            QCOMPARE(g_requests, requests);
+            QCOMPARE(done.count(), 1);
+            QCOMPARE(m_messages.size(), 1);
+            // The card is back: the page writes again.
+            g_failWith = ZRK_SD_OK;
+            g_requests = 0;
+            m_messages.clear();
+            QVERIFY(m_page->saveFileInDevice());
+            QTRY_COMPARE(done.count(), 2);
+            QVERIFY(done.last().first().toBool());
+        }
         QCOMPARE(
             g_card.keys(), (QStringList { QStringLiteral("GeoZones.cfg"), QStringLiteral("GeoZones.xml") }));
         QCOMPARE(g_card.value(QStringLiteral("GeoZones.xml")), geo);
