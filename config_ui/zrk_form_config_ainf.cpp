@@ -506,9 +506,10 @@ bool ZRK_Form_Config_Ainf::readFileParamGeo(const QString& path, bool centreMap)
 
 bool ZRK_Form_Config_Ainf::writeFileParamGeo(const QString& path, bool full)
 {
-    const QString limits = checkAinfLimits(m_data, m_caps);
-    if (!limits.isEmpty()) {
-        showMessage(limits);
+    // The checks opening runs: a file the page saves always opens again.
+    const QString problem = checkAinf(m_data, m_caps);
+    if (!problem.isEmpty()) {
+        showMessage(problem);
         return false;
     }
     QString error;
@@ -540,15 +541,32 @@ int ZRK_Form_Config_Ainf::loadFileKML(const QString& file, int size, int angle, 
     mapForm()->setMapCenterEnable(true);
     mapForm()->map()->setZones(zones);
     updateMapRoutes();
+    // What was left out, and why, so that the user can mend the file and import the rest.
+    const auto some = [](QStringList items) {
+        if (items.size() > 10) {
+            items = items.mid(0, 10);
+            items << QStringLiteral("…");
+        }
+        return items;
+    };
+    QStringList report;
     if (result.nonPoints > 0) {
-        QStringList names = result.nonPointNames.mid(0, 10);
-        if (result.nonPointNames.size() > 10)
-            names << QStringLiteral("…");
-        //% "Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3"
-        showMessage(qtTrId("gain_287")
-                        .arg(result.zones.size())
-                        .arg(result.nonPoints)
-                        .arg(names.join(QStringLiteral(", "))));
+        //% "Меток без точки (линии, полигоны): %1, они пропущены: %2"
+        report << qtTrId("gain_298")
+                      .arg(result.nonPoints)
+                      .arg(some(result.nonPointNames).join(QStringLiteral(", ")));
+    }
+    if (!result.badPlacemarks.isEmpty()) {
+        //% "Меток с неверными координатами: %1, зоны для них не добавлены:"
+        report << qtTrId("gain_299").arg(result.badPlacemarks.size())
+               << some(result.badPlacemarks).join(QLatin1Char('\n'));
+    }
+    if (!result.damage.isEmpty())
+        report << result.damage;
+    if (!report.isEmpty()) {
+        //% "Добавлено зон: %1."
+        report.prepend(qtTrId("gain_297").arg(result.zones.size()));
+        showMessage(report.join(QLatin1Char('\n')));
     }
     return result.zones.size();
 }
@@ -571,9 +589,9 @@ bool ZRK_Form_Config_Ainf::saveFileInDevice()
 {
     if (!m_connected || isWritingToDevice())
         return false;
-    const QString limits = checkAinfLimits(m_data, m_caps);
-    if (!limits.isEmpty()) {
-        showMessage(limits);
+    const QString problem = checkAinf(m_data, m_caps);
+    if (!problem.isEmpty()) {
+        showMessage(problem);
         return false;
     }
     QString error;

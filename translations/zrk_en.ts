@@ -49,10 +49,6 @@ Built %7</translation>
         <source>Слишком много маршрутов: %1 (терминал хранит не более %2).</source>
         <translation>Too many routes: %1 (this terminal keeps at most %2).</translation>
     </message>
-    <message id="geod_003">
-        <source>В маршруте %1 остановок: %2 (не более %3 на маршрут).</source>
-        <translation>Route %1 has %2 stops (at most %3 per route).</translation>
-    </message>
     <message id="geod_004">
         <source>Слишком много скоростных зон: %1 (терминал хранит не более %2).</source>
         <translation>Too many speed zones: %1 (this terminal keeps at most %2).</translation>
@@ -61,33 +57,13 @@ Built %7</translation>
         <source>Слишком много звуковых файлов: %1 (не более %2).</source>
         <translation>Too many sound files: %1 (at most %2).</translation>
     </message>
-    <message id="geod_006">
-        <source>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</source>
-        <translation>Geo-zone &quot;%1&quot;: id %2 is outside 1..%3.</translation>
-    </message>
-    <message id="geod_007">
-        <source>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</source>
-        <translation>Geo-zone %1: radius %2 m is outside %3..%4 m.</translation>
-    </message>
-    <message id="geod_008">
-        <source>Геозона %1: координаты %2, %3 вне земного шара.</source>
-        <translation>Geo-zone %1: coordinates %2, %3 are off the globe.</translation>
-    </message>
     <message id="geod_009">
         <source>Номер геозоны %1 встречается дважды.</source>
         <translation>Geo-zone id %1 is used twice.</translation>
     </message>
-    <message id="geod_010">
-        <source>Маршрут %1: остановка ссылается на несуществующую геозону %2.</source>
-        <translation>Route %1: a stop refers to geo-zone %2, which does not exist.</translation>
-    </message>
     <message id="geod_020">
         <source>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</source>
         <translation>the node &quot;%1&quot; declares %2 records but holds %3</translation>
-    </message>
-    <message id="geod_021">
-        <source>геозона %1: &quot;%2&quot; не является координатой</source>
-        <translation>geo-zone %1: &quot;%2&quot; is not a coordinate</translation>
     </message>
     <message id="geod_022">
         <source>версия файла %1 новее, чем читает эта программа (%2)</source>
@@ -146,8 +122,8 @@ Built %7</translation>
         <translation>the root element is &quot;%1&quot;, not &quot;kml&quot;</translation>
     </message>
     <message id="geod_045">
-        <source>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</source>
-        <translation>placemark &quot;%1&quot;: the coordinates &quot;%2&quot; cannot be read</translation>
+        <source>метка &quot;%1&quot;: координаты &quot;%2&quot; не прочитаны: %3</source>
+        <translation>placemark &quot;%1&quot;: the coordinates &quot;%2&quot; cannot be read: %3</translation>
     </message>
     <message id="geod_046">
         <source>строка %1: %2</source>
@@ -3093,10 +3069,6 @@ The old file is unchanged.</translation>
         <source>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</source>
         <translation>Zones %1 are stops of routes and were not deleted; delete those stops first.</translation>
     </message>
-    <message id="gain_287">
-        <source>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</source>
-        <translation>Zones added: %1. Placemarks without a point (lines, polygons): %2, skipped: %3</translation>
-    </message>
     <message id="gain_289">
         <source>Запись на SD-карту: %1</source>
         <translation>Writing to the SD card: %1</translation>
@@ -3669,10 +3641,6 @@ The old file is unchanged.</translation>
         <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
         <translation>Stop type: 0 stop, 1 waypoint, 2 terminal</translation>
     </message>
-    <message id="gain_245">
-        <source>Номер зоны остановки: от 1 до 65535</source>
-        <translation>Zone id of the stop: 1 to 65535</translation>
-    </message>
     <message id="wcfg_036">
         <source>Геозоны</source>
         <translation>Geo-zones</translation>
@@ -3927,17 +3895,93 @@ The old file is unchanged.</translation>
     </message>
     <message id="gmap_003">
         <source>не удалось создать контекст OpenGL (платформа «%1»)</source>
-        <translation>an OpenGL context cannot be created (platform "%1")</translation>
+        <translation>an OpenGL context cannot be created (platform &quot;%1&quot;)</translation>
     </message>
     <message id="gmap_004">
         <source>контекст OpenGL создан, но не становится текущим (платформа «%1»)</source>
-        <translation>an OpenGL context was created but cannot be made current (platform "%1")</translation>
+        <translation>an OpenGL context was created but cannot be made current (platform &quot;%1&quot;)</translation>
     </message>
     <message id="gmap_002">
         <source>Карта недоступна: %1.
 Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</source>
         <translation>Map unavailable: %1.
 Everything else works as usual; on a workstation with OpenGL the map appears here.</translation>
+    </message>
+    <message id="geod_065">
+        <source>%1 ссылается на несуществующую геозону %2.</source>
+        <translation>%1 refers to geo-zone %2, which does not exist.</translation>
+    </message>
+    <message id="geod_067">
+        <source>%1: &quot;%2&quot; = %3 вне диапазона %4..%5.</source>
+        <translation>%1: &quot;%2&quot; = %3 is outside %4..%5.</translation>
+    </message>
+    <message id="geod_060">
+        <source>Геозона %1</source>
+        <translation>Geo-zone %1</translation>
+    </message>
+    <message id="geod_061">
+        <source>Маршрут %1</source>
+        <translation>Route %1</translation>
+    </message>
+    <message id="geod_062">
+        <source>Маршрут %1, остановка %2</source>
+        <translation>Route %1, stop %2</translation>
+    </message>
+    <message id="geod_066">
+        <source>В маршруте %3 остановок: %1 (не более %2 на маршрут).</source>
+        <translation>Route %3 has %1 stops (at most %2 a route).</translation>
+    </message>
+    <message id="geod_063">
+        <source>Скоростная зона %1</source>
+        <translation>Speed zone %1</translation>
+    </message>
+    <message id="geod_064">
+        <source>Звуковой файл %1</source>
+        <translation>Sound file %1</translation>
+    </message>
+    <message id="geod_068">
+        <source>%1: &quot;%2&quot; = &quot;%3&quot; не является координатой</source>
+        <translation>%1: &quot;%2&quot; = &quot;%3&quot; is not a coordinate</translation>
+    </message>
+    <message id="geod_069">
+        <source>нужны долгота и широта через запятую</source>
+        <translation>longitude and latitude separated by a comma are needed</translation>
+    </message>
+    <message id="geod_070">
+        <source>долгота или широта не число</source>
+        <translation>the longitude or the latitude is not a number</translation>
+    </message>
+    <message id="geod_071">
+        <source>широта вне -90..90 или долгота вне -180..180</source>
+        <translation>latitude outside -90..90 or longitude outside -180..180</translation>
+    </message>
+    <message id="geod_072">
+        <source>файл повреждён (%1); метки после этого места не прочитаны</source>
+        <translation>the file is damaged (%1); placemarks after that point were not read</translation>
+    </message>
+    <message id="gain_298">
+        <source>Меток без точки (линии, полигоны): %1, они пропущены: %2</source>
+        <translation>Placemarks without a point (lines, polygons): %1, skipped: %2</translation>
+    </message>
+    <message id="gain_299">
+        <source>Меток с неверными координатами: %1, зоны для них не добавлены:</source>
+        <translation>Placemarks with bad coordinates: %1, no zones were added for them:</translation>
+    </message>
+    <message id="gain_297">
+        <source>Добавлено зон: %1.</source>
+        <translation>Zones added: %1.</translation>
+    </message>
+    <message id="gain_247">
+        <source>Зона остановки: одна из зон списка</source>
+        <translation>The stop&apos;s zone: one of the zones in the list</translation>
+    </message>
+    <message id="gain_246">
+        <source>Зоны &quot;%1&quot; нет в списке зон; остановка осталась у зоны %2.</source>
+        <translation>There is no zone &quot;%1&quot; in the zone list; the stop stays at zone %2.</translation>
+    </message>
+    <message id="gain_248">
+        <source>Зоны %1 нет в списке зон.</source>
+        <translation>There is no zone %1 in the zone list.</translation>
     </message>
 </context>
 </TS>

@@ -49,10 +49,6 @@
         <source>Слишком много маршрутов: %1 (терминал хранит не более %2).</source>
         <translation>Слишком много маршрутов: %1 (терминал хранит не более %2).</translation>
     </message>
-    <message id="geod_003">
-        <source>В маршруте %1 остановок: %2 (не более %3 на маршрут).</source>
-        <translation>В маршруте %1 остановок: %2 (не более %3 на маршрут).</translation>
-    </message>
     <message id="geod_004">
         <source>Слишком много скоростных зон: %1 (терминал хранит не более %2).</source>
         <translation>Слишком много скоростных зон: %1 (терминал хранит не более %2).</translation>
@@ -61,33 +57,13 @@
         <source>Слишком много звуковых файлов: %1 (не более %2).</source>
         <translation>Слишком много звуковых файлов: %1 (не более %2).</translation>
     </message>
-    <message id="geod_006">
-        <source>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</source>
-        <translation>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</translation>
-    </message>
-    <message id="geod_007">
-        <source>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</source>
-        <translation>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</translation>
-    </message>
-    <message id="geod_008">
-        <source>Геозона %1: координаты %2, %3 вне земного шара.</source>
-        <translation>Геозона %1: координаты %2, %3 вне земного шара.</translation>
-    </message>
     <message id="geod_009">
         <source>Номер геозоны %1 встречается дважды.</source>
         <translation>Номер геозоны %1 встречается дважды.</translation>
     </message>
-    <message id="geod_010">
-        <source>Маршрут %1: остановка ссылается на несуществующую геозону %2.</source>
-        <translation>Маршрут %1: остановка ссылается на несуществующую геозону %2.</translation>
-    </message>
     <message id="geod_020">
         <source>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</source>
         <translation>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</translation>
-    </message>
-    <message id="geod_021">
-        <source>геозона %1: &quot;%2&quot; не является координатой</source>
-        <translation>геозона %1: &quot;%2&quot; не является координатой</translation>
     </message>
     <message id="geod_022">
         <source>версия файла %1 новее, чем читает эта программа (%2)</source>
@@ -146,8 +122,8 @@
         <translation>корневой элемент &quot;%1&quot;, а не &quot;kml&quot;</translation>
     </message>
     <message id="geod_045">
-        <source>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</source>
-        <translation>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</translation>
+        <source>метка &quot;%1&quot;: координаты &quot;%2&quot; не прочитаны: %3</source>
+        <translation>метка &quot;%1&quot;: координаты &quot;%2&quot; не прочитаны: %3</translation>
     </message>
     <message id="geod_046">
         <source>строка %1: %2</source>
@@ -3093,10 +3069,6 @@
         <source>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</source>
         <translation>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</translation>
     </message>
-    <message id="gain_287">
-        <source>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</source>
-        <translation>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</translation>
-    </message>
     <message id="gain_289">
         <source>Запись на SD-карту: %1</source>
         <translation>Запись на SD-карту: %1</translation>
@@ -3669,10 +3641,6 @@
         <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
         <translation>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</translation>
     </message>
-    <message id="gain_245">
-        <source>Номер зоны остановки: от 1 до 65535</source>
-        <translation>Номер зоны остановки: от 1 до 65535</translation>
-    </message>
     <message id="wcfg_036">
         <source>Геозоны</source>
         <translation>Геозоны</translation>
@@ -3938,6 +3906,82 @@
 Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</source>
         <translation>Карта недоступна: %1.
 Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</translation>
+    </message>
+    <message id="geod_065">
+        <source>%1 ссылается на несуществующую геозону %2.</source>
+        <translation>%1 ссылается на несуществующую геозону %2.</translation>
+    </message>
+    <message id="geod_067">
+        <source>%1: &quot;%2&quot; = %3 вне диапазона %4..%5.</source>
+        <translation>%1: &quot;%2&quot; = %3 вне диапазона %4..%5.</translation>
+    </message>
+    <message id="geod_060">
+        <source>Геозона %1</source>
+        <translation>Геозона %1</translation>
+    </message>
+    <message id="geod_061">
+        <source>Маршрут %1</source>
+        <translation>Маршрут %1</translation>
+    </message>
+    <message id="geod_062">
+        <source>Маршрут %1, остановка %2</source>
+        <translation>Маршрут %1, остановка %2</translation>
+    </message>
+    <message id="geod_066">
+        <source>В маршруте %3 остановок: %1 (не более %2 на маршрут).</source>
+        <translation>В маршруте %3 остановок: %1 (не более %2 на маршрут).</translation>
+    </message>
+    <message id="geod_063">
+        <source>Скоростная зона %1</source>
+        <translation>Скоростная зона %1</translation>
+    </message>
+    <message id="geod_064">
+        <source>Звуковой файл %1</source>
+        <translation>Звуковой файл %1</translation>
+    </message>
+    <message id="geod_068">
+        <source>%1: &quot;%2&quot; = &quot;%3&quot; не является координатой</source>
+        <translation>%1: &quot;%2&quot; = &quot;%3&quot; не является координатой</translation>
+    </message>
+    <message id="geod_069">
+        <source>нужны долгота и широта через запятую</source>
+        <translation>нужны долгота и широта через запятую</translation>
+    </message>
+    <message id="geod_070">
+        <source>долгота или широта не число</source>
+        <translation>долгота или широта не число</translation>
+    </message>
+    <message id="geod_071">
+        <source>широта вне -90..90 или долгота вне -180..180</source>
+        <translation>широта вне -90..90 или долгота вне -180..180</translation>
+    </message>
+    <message id="geod_072">
+        <source>файл повреждён (%1); метки после этого места не прочитаны</source>
+        <translation>файл повреждён (%1); метки после этого места не прочитаны</translation>
+    </message>
+    <message id="gain_298">
+        <source>Меток без точки (линии, полигоны): %1, они пропущены: %2</source>
+        <translation>Меток без точки (линии, полигоны): %1, они пропущены: %2</translation>
+    </message>
+    <message id="gain_299">
+        <source>Меток с неверными координатами: %1, зоны для них не добавлены:</source>
+        <translation>Меток с неверными координатами: %1, зоны для них не добавлены:</translation>
+    </message>
+    <message id="gain_297">
+        <source>Добавлено зон: %1.</source>
+        <translation>Добавлено зон: %1.</translation>
+    </message>
+    <message id="gain_247">
+        <source>Зона остановки: одна из зон списка</source>
+        <translation>Зона остановки: одна из зон списка</translation>
+    </message>
+    <message id="gain_246">
+        <source>Зоны &quot;%1&quot; нет в списке зон; остановка осталась у зоны %2.</source>
+        <translation>Зоны &quot;%1&quot; нет в списке зон; остановка осталась у зоны %2.</translation>
+    </message>
+    <message id="gain_248">
+        <source>Зоны %1 нет в списке зон.</source>
+        <translation>Зоны %1 нет в списке зон.</translation>
     </message>
 </context>
 </TS>

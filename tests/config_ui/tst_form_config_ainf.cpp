@@ -9,11 +9,13 @@
 #include "device/zrk_device_k7140.h"
 #include "translations/catalogue.h"
 
+#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QMap>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -222,6 +224,71 @@ private slots:
         QCOMPARE(m_messages.size(), 2);
         QVERIFY(m_messages.at(0).contains(QString::number(m_page->caps().maxRoutes)));
         QVERIFY(m_messages.at(1).contains(QString::number(m_page->caps().maxStopsPerRoute)));
+    }
+
+    // A stop names a zone of the list: the editor offers only those, a typed number of no zone is
+    // refused, and saving or writing to the card refuses data whose stop names none (saying which),
+    // so that a file the page saved always opens again.
+    void stopsNameExistingZones()
+    {
+        coreAinfData data;
+        data.zones << zone(1) << zone(4);
+        coreGeoRoute route;
+        route.id = 3;
+        route.stops << coreGeoStop { GeoStop_Stop, 1, 1, QString(), QString() }
+                    << coreGeoStop { GeoStop_Stop, 4, 2, QString(), QString() };
+        data.routes << route;
+        m_page->setData(data);
+        m_page->show();
+        auto* stops = m_page->findChild<QTableWidget*>(QStringLiteral("tableWidget_Stops"));
+        QVERIFY(stops);
+        QCOMPARE(stops->rowCount(), 2);
+
+        // The editor of the zone cell lists the zones, nothing else.
+        QTableWidgetItem* cell = stops->item(1, 1);
+        stops->setCurrentItem(cell);
+        stops->editItem(cell);
+        auto* box = stops->findChild<QComboBox*>(QStringLiteral("comboBox_StopZone"));
+        QVERIFY(box);
+        QCOMPARE(box->count(), 2);
+        QCOMPARE(box->itemData(0).toInt(), 1);
+        QCOMPARE(box->itemData(1).toInt(), 4);
+        QCOMPARE(box->currentIndex(), 1);
+        box->setCurrentIndex(0);
+        QTest::keyClick(box, Qt::Key_Return);
+        QTRY_COMPARE(m_page->data().routes.at(0).stops.at(1).zoneid, 1);
+
+        // A number that names no zone, typed or pasted, leaves the stop where it was.
+        stops->item(1, 1)->setText(QStringLiteral("5"));
+        QCOMPARE(m_page->data().routes.at(0).stops.at(1).zoneid, 1);
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY2(m_messages.last().contains(QLatin1String("5")), qPrintable(m_messages.last()));
+        QVERIFY(!m_page->routeForm()->addStop(0, 9));
+        QCOMPARE(m_page->data().routes.at(0).stops.size(), 2);
+        QCOMPARE(m_messages.size(), 2);
+        const QString path = m_dir.filePath(QStringLiteral("stops.xml"));
+        QVERIFY(m_page->writeFileParamGeo(path, true));
+        ZRK_Form_Config_Ainf other;
+        QVERIFY(other.readFileParamGeo(path));
+
+        // Data whose stop names no zone (a route built elsewhere) is neither saved nor sent.
+        data.routes[0].stops[1].zoneid = 9;
+        m_page->setData(data);
+        m_messages.clear();
+        const QString refused = m_dir.filePath(QStringLiteral("refused.xml"));
+        QVERIFY(!m_page->writeFileParamGeo(refused, true));
+        QVERIFY(!QFile::exists(refused));
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY2(m_messages.first().contains(QStringLiteral("Маршрут 3, остановка 2")),
+            qPrintable(m_messages.first()));
+        ZRK_Device_K7140 device(QStringLiteral("K-7140"), 3, 5, 8, 1);
+        device.InitConfigurator(&hostCallback);
+        g_requests = 0;
+        m_page->deviceConnect();
+        QVERIFY(!m_page->saveFileInDevice());
+        QCOMPARE(g_requests, 0);
+        QCOMPARE(m_messages.size(), 2);
+        QCOMPARE(m_messages.last(), m_messages.first());
     }
 
     void kmlImport()
