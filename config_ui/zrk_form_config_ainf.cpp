@@ -219,7 +219,9 @@ QString ZRK_Form_Config_Ainf::createNameMapCircle(const coreGeoZone& zone) const
 
 ZrkMapZone ZRK_Form_Config_Ainf::mapZone(const coreGeoZone& zone) const
 {
-    return { zone.id, createNameMapCircle(zone), zone.lat, zone.lon, zone.size };
+    const bool checksCourse = zone.gob & (1 << GeoOpt_CheckAngle);
+    return { zone.id, createNameMapCircle(zone), zone.lat, zone.lon, zone.size,
+        checksCourse ? zone.angle : -1 };
 }
 
 void ZRK_Form_Config_Ainf::createGeoMarker(const coreGeoZone& zone)

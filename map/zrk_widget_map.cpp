@@ -155,9 +155,12 @@ QString json(const QJsonValue& value)
 
 QJsonObject zoneJson(const ZrkMapZone& z)
 {
-    return QJsonObject { { QStringLiteral("id"), z.id }, { QStringLiteral("name"), z.name },
+    QJsonObject o { { QStringLiteral("id"), z.id }, { QStringLiteral("name"), z.name },
         { QStringLiteral("lat"), z.lat }, { QStringLiteral("lon"), z.lon },
         { QStringLiteral("r"), z.radius } };
+    if (z.course >= 0)
+        o.insert(QStringLiteral("c"), z.course);
+    return o;
 }
 
 } // namespace

@@ -14,7 +14,8 @@ class QWebEngineView;
 class QWebChannel;
 class ZRK_Map_Bridge;
 
-// One zone as the map shows it: a marker and a circle of its radius in metres.
+// One zone as the map shows it: a marker and a circle of its radius in metres, and for a zone that
+// checks the heading of entry an arrow of that course.
 struct ZrkMapZone
 {
     int id = 0;
@@ -22,6 +23,7 @@ struct ZrkMapZone
     double lat = 0.0;
     double lon = 0.0;
     int radius = 0;
+    int course = -1; // degrees clockwise from north, 0..359; negative: the zone does not check it
 };
 
 // A route as a line through the centres of its stops' zones, in stop order.

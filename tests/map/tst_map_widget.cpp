@@ -15,6 +15,17 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <cmath>
+
+// Metres between two points on a sphere of the Earth's mean radius (Leaflet's distanceTo).
+static double distanceMetres(double lat1, double lon1, double lat2, double lon2)
+{
+    const double r = M_PI / 180, dLat = (lat2 - lat1) * r, dLon = (lon2 - lon1) * r;
+    const double a = std::sin(dLat / 2) * std::sin(dLat / 2)
+        + std::cos(lat1 * r) * std::cos(lat2 * r) * std::sin(dLon / 2) * std::sin(dLon / 2);
+    return 6371000 * 2 * std::atan2(std::sqrt(a), std::sqrt(1 - a));
+}
+
 // The tests of what the page draws need the page.
 #define REQUIRE_MAP()                                                                                        \
     if (!m_map)                                                                                              \
@@ -106,6 +117,44 @@ private slots:
         QCOMPARE(z2.value("r").toDouble(), 420.0);
         QVERIFY(qAbs(z2.value("lon").toDouble() - 37.645) < 1e-9);
         QVERIFY(eval(QStringLiteral("zrkMap.zoneInfo(7)")).isNull());
+    }
+
+    // A zone that checks its heading of entry shows that course as an arrow from its centre to its
+    // edge; the arrow follows the zone and goes when the zone stops checking it.
+    void entryCourse()
+    {
+        REQUIRE_MAP();
+        QVector<ZrkMapZone> zones = threeZones();
+        zones[0].course = 90; // east
+        zones[1].course = 0; // north
+        m_map->setZones(zones);
+        QCOMPARE(stats().value("courses").toInt(), 2);
+        const auto tip = [this](int id) {
+            return eval(QStringLiteral("zrkMap.zoneInfo(%1).courseTip").arg(id)).toList();
+        };
+        // 150 m east of 55.75, 37.62: the latitude stays, the longitude grows by 150 m's worth.
+        QList<QVariant> east = tip(1);
+        QCOMPARE(east.size(), 2);
+        QVERIFY(qAbs(east.at(0).toDouble() - 55.75) < 1e-9);
+        const double metresPerDegreeLon = 111320 * std::cos(55.75 * M_PI / 180);
+        QVERIFY2(qAbs((east.at(1).toDouble() - 37.62) * metresPerDegreeLon - 150) < 0.5,
+            qPrintable(east.at(1).toString()));
+        // 300 m north of zone 2.
+        const QList<QVariant> north = tip(2);
+        QVERIFY(qAbs((north.at(0).toDouble() - 55.76) * 111320 - 300) < 0.5);
+        QVERIFY(qAbs(north.at(1).toDouble() - 37.64) < 1e-9);
+        QVERIFY(eval(QStringLiteral("zrkMap.zoneInfo(7).courseTip")).isNull());
+
+        // Moved, resized and turned to the south-west: the arrow follows.
+        m_map->updateZone({ 1, QStringLiteral("Депо"), 55.80, 37.70, 400, 225 });
+        east = tip(1);
+        QVERIFY(east.at(0).toDouble() < 55.80 && east.at(1).toDouble() < 37.70);
+        QVERIFY(qAbs(distanceMetres(55.80, 37.70, east.at(0).toDouble(), east.at(1).toDouble()) - 400) < 2);
+        // No longer checked: no arrow.
+        m_map->updateZone({ 2, QStringLiteral("Вокзал"), 55.76, 37.64, 300, -1 });
+        QCOMPARE(stats().value("courses").toInt(), 1);
+        m_map->removeZone(1);
+        QCOMPARE(stats().value("courses").toInt(), 0);
     }
 
     // The user drags the edge handle out and the centre handle away: the circle keeps its shape,
