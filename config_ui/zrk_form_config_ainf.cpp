@@ -35,7 +35,12 @@ ZRK_Form_Config_Ainf::ZRK_Form_Config_Ainf(QWidget* parent)
     initForm();
 }
 
-ZRK_Form_Config_Ainf::~ZRK_Form_Config_Ainf() = default;
+ZRK_Form_Config_Ainf::~ZRK_Form_Config_Ainf()
+{
+    // The zone list's model reads m_data, which goes before the base class hides the table (a
+    // shown page asks its model for rows as it closes).
+    ui->tableView_ListGeo->setModel(nullptr);
+}
 
 void ZRK_Form_Config_Ainf::applyCaps()
 {

@@ -317,8 +317,10 @@ void ZRK_Form_Config_Ainf_Route::stopItemChanged(QTableWidgetItem* item)
     default:
         break;
     }
+    // Showing the stops again makes new items: the one edited is gone after it.
+    const bool zoneChanged = item->column() == SC_Zone;
     showStops();
-    if (item->column() == SC_Zone)
+    if (zoneChanged)
         emit routesChanged();
 }
 
