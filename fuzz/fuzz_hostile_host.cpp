@@ -27,12 +27,14 @@
 #include <QMessageBox>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <functional>
 #include <iterator>
@@ -400,7 +402,7 @@ void pressNamed(const char* name)
 
 void step(Script& s)
 {
-    const int op = s.u8() % 14;
+    const int op = s.u8() % 15;
     if (g_trace)
         std::fprintf(stderr, "step %d\n", op);
     switch (op) {
@@ -478,6 +480,17 @@ void step(Script& s)
     case 12:
         pressNamed(kNamedButtons[s.u8() % std::size(kNamedButtons)]);
         break;
+    case 14: { // a table cell typed over (zones' stops, speed zones, sounds)
+        const QList<QTableWidget*> tables = widgets<QTableWidget>();
+        if (!tables.isEmpty()) {
+            QTableWidget* t = tables.at(s.u8() % tables.size());
+            const int row = t->rowCount() ? s.u16() % t->rowCount() : 0;
+            const int column = t->columnCount() ? s.u8() % t->columnCount() : 0;
+            if (QTableWidgetItem* item = t->item(row, column))
+                item->setText(s.text());
+        }
+        break;
+    }
     case 13: // the geo page of the configuration window, built when its tab is first opened
         for (QTabWidget* tabs : widgets<QTabWidget>()) {
             if (QWidget* geo = tabs->findChild<QWidget*>(QStringLiteral("ZRK_Form_Config_Ainf_Holder"));
@@ -500,8 +513,9 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     qunsetenv("DISPLAY"); // no OpenGL: the map shows its message, as on a workstation without it
     // Made once and never destroyed: the process ends by exit() from inside the fuzzing loop, and
     // Qt's thread data must not be torn down under the windows still living then.
-    auto* home = new QTemporaryDir;
+    auto* home = new QTemporaryDir(QDir::tempPath() + QStringLiteral("/fuzz_hostile_host-XXXXXX"));
     g_home = home;
+    std::atexit([] { QDir(g_home->path()).removeRecursively(); });
     for (const char* var :
         { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR" })
         qputenv(var, home->path().toLocal8Bit());

@@ -9,7 +9,7 @@ import struct
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 OUT = os.path.join(ROOT, "fuzz", "corpus", "fuzz_hostile_host")
 
-PRESS, MSG, LATER, CONNECT, DISCONNECT, OPEN_CONFIG, VIEW, TAB, FILE, TYPE, SPIN, SETTLE, NAMED, GEO = range(14)
+PRESS, MSG, LATER, CONNECT, DISCONNECT, OPEN_CONFIG, VIEW, TAB, FILE, TYPE, SPIN, SETTLE, NAMED, GEO, CELL = range(15)
 NAMED_BUTTONS = ["pushButton_New", "pushButton_Open", "pushButton_Save", "pushButton_SaveAs", "pushButton_Read",
                  "pushButton_Load", "pushButton_Defaults", "pushButton_Compare", "pushButton_Editor",
                  "BtnWriteDevice", "BtnOpenFile", "BtnSaveFile", "ListGeo_BtnAdd", "ListGeo_BtnAdd_FileKML",
