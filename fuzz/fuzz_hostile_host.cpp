@@ -538,6 +538,10 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
+    // The light editor writes what it sends to the terminal into the working folder: the scratch
+    // home while the input plays, the fuzzer's own folder (corpus, artifacts) again afterwards.
+    const QString folder = QDir::currentPath();
+    QDir::setCurrent(g_home->path());
     Script script(data, size);
     g_script = &script;
     quint32 mode = script.u8() % 6;
@@ -549,5 +553,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     g_script = nullptr;
     send(ZRK_MSG_DEVICE_DISCONNECTED, 0, 0);
     settle();
+    QDir::setCurrent(folder);
     return 0;
 }
