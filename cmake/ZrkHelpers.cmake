@@ -1,13 +1,16 @@
-# zrk_add_qtest(NAME <name> SOURCES <files...> [LIBS <libs...>] [ENV <VAR=value...>] [XVFB] [WEBENGINE] [TOOL])
+# zrk_add_qtest(NAME <name> SOURCES <files...> [LIBS <libs...>] [ENV <VAR=value...>] [XVFB] [WEBENGINE]
+#               [ALSO_OFFSCREEN] [TOOL])
 # One QtTest executable, registered with CTest. Widget tests run on the offscreen platform
 # unless XVFB asks for a real X server. WEBENGINE: a test with a web view, under Xvfb; the
 # sanitizers still check its memory accesses, but not leaks, since Chromium inside Qt WebEngine
 # leaves blocks behind at exit, some from code already unloaded that no suppression can name.
+# ALSO_OFFSCREEN: the same executable once more as <name>_offscreen, on the offscreen platform with
+# no X display, where no OpenGL context can be made (a workstation without OpenGL).
 # TOOL: the test runs the built zrk-tool (tests/common/tool_run.h).
 # COMMA_LOCALE: the test runs a second time as <name>_ru, under ru_RU.UTF-8, whose decimal
 # separator is a comma (scripts/install-deps.sh generates the locale).
 function(zrk_add_qtest)
-  cmake_parse_arguments(T "XVFB;WEBENGINE;TOOL;COMMA_LOCALE" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
+  cmake_parse_arguments(T "XVFB;WEBENGINE;ALSO_OFFSCREEN;TOOL;COMMA_LOCALE" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
   if(T_WEBENGINE)
     set(T_XVFB TRUE)
   endif()
@@ -34,6 +37,11 @@ function(zrk_add_qtest)
                     "ASAN_OPTIONS=detect_leaks=${leaks}"
                     "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
   set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV};LC_ALL=C.UTF-8" TIMEOUT 300)
+  if(T_ALSO_OFFSCREEN)
+    add_test(NAME ${T_NAME}_offscreen COMMAND ${T_NAME})
+    set_tests_properties(${T_NAME}_offscreen
+                         PROPERTIES ENVIRONMENT "${T_ENV};LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen;DISPLAY=" TIMEOUT 300)
+  endif()
   if(T_COMMA_LOCALE)
     if(T_XVFB)
       add_test(NAME ${T_NAME}_ru COMMAND xvfb-run -a $<TARGET_FILE:${T_NAME}>)

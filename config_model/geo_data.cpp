@@ -1,5 +1,7 @@
 #include "config_model/geo_data.h"
 
+#include "config_model/geo_fields.h"
+
 #include <QLocale>
 #include <QSet>
 
@@ -92,56 +94,76 @@ int addGeoZone(QVector<coreGeoZone>& zones, const QString& name, int size, int a
 
 QString checkAinfLimits(const coreAinfData& data, const ZRK_Ainf_Caps& caps)
 {
-    if (data.zones.size() > caps.maxZones)
-        //% "Слишком много геозон: %1 (терминал хранит не более %2)."
-        return qtTrId("geod_001").arg(data.zones.size()).arg(caps.maxZones);
-    if (data.routes.size() > caps.maxRoutes)
-        //% "Слишком много маршрутов: %1 (терминал хранит не более %2)."
-        return qtTrId("geod_002").arg(data.routes.size()).arg(caps.maxRoutes);
-    for (const coreGeoRoute& r : data.routes) {
-        if (r.stops.size() > caps.maxStopsPerRoute)
-            //% "В маршруте %1 остановок: %2 (не более %3 на маршрут)."
-            return qtTrId("geod_003").arg(r.id).arg(r.stops.size()).arg(caps.maxStopsPerRoute);
+    const auto tooMany = [&caps](const GeoRecordKind& kind, int count) {
+        const int limit = caps.*kind.limit;
+        return count > limit ? qtTrId(kind.tooManyId).arg(count).arg(limit) : QString();
+    };
+    QString problem = tooMany(kGeoZoneKind, data.zones.size());
+    if (problem.isEmpty())
+        problem = tooMany(kGeoRouteKind, data.routes.size());
+    for (int i = 0; problem.isEmpty() && i < data.routes.size(); ++i) {
+        problem = tooMany(kGeoStopKind, data.routes.at(i).stops.size());
+        if (!problem.isEmpty())
+            problem = problem.arg(data.routes.at(i).id); // the stops' message names its route third
     }
-    if (data.speeds.size() > caps.maxSpeedZones)
-        //% "Слишком много скоростных зон: %1 (терминал хранит не более %2)."
-        return qtTrId("geod_004").arg(data.speeds.size()).arg(caps.maxSpeedZones);
-    if (data.sounds.size() > caps.maxSounds)
-        //% "Слишком много звуковых файлов: %1 (не более %2)."
-        return qtTrId("geod_005").arg(data.sounds.size()).arg(caps.maxSounds);
-    for (const coreGeoZone& z : data.zones) {
-        if (z.id < 1 || z.id > caps.maxZoneId)
-            //% "Геозона \"%1\": номер %2 вне диапазона 1..%3."
-            return qtTrId("geod_006").arg(z.name).arg(z.id).arg(caps.maxZoneId);
-        if (z.size < caps.minZoneSize || z.size > caps.maxZoneSize)
-            //% "Геозона %1: радиус %2 м вне диапазона %3..%4 м."
-            return qtTrId("geod_007").arg(z.id).arg(z.size).arg(caps.minZoneSize).arg(caps.maxZoneSize);
+    if (problem.isEmpty())
+        problem = tooMany(kGeoSpeedKind, data.speeds.size());
+    if (problem.isEmpty())
+        problem = tooMany(kGeoSoundKind, data.sounds.size());
+    return problem;
+}
+
+namespace {
+
+// Each record of a list against its kind's rows.
+template <typename R, std::size_t N>
+QString checkList(const QVector<R>& list, const GeoKey<R> (&keys)[N], const GeoRecordKind& kind)
+{
+    for (const R& r : list) {
+        const QString problem = checkGeoRecord(r, keys, geoRecordName(kind, r.id));
+        if (!problem.isEmpty())
+            return problem;
     }
     return QString();
 }
 
+} // namespace
+
 QString checkAinfData(const coreAinfData& data)
 {
+    QString problem = checkList(data.zones, kGeoZoneKeys, kGeoZoneKind);
+    if (!problem.isEmpty())
+        return problem;
     QSet<int> ids;
     ids.reserve(data.zones.size());
     for (const coreGeoZone& z : data.zones) {
-        if (!std::isfinite(z.lat) || !std::isfinite(z.lon) || std::fabs(z.lat) > 90.0
-            || std::fabs(z.lon) > 180.0)
-            //% "Геозона %1: координаты %2, %3 вне земного шара."
-            return qtTrId("geod_008").arg(z.id).arg(z.lat).arg(z.lon);
         if (ids.contains(z.id))
             //% "Номер геозоны %1 встречается дважды."
             return qtTrId("geod_009").arg(z.id);
         ids.insert(z.id);
     }
-    for (const coreGeoRoute& r : data.routes) {
-        for (const coreGeoStop& s : r.stops) {
-            if (!ids.contains(s.zoneid))
-                //% "Маршрут %1: остановка ссылается на несуществующую геозону %2."
-                return qtTrId("geod_010").arg(r.id).arg(s.zoneid);
+    problem = checkList(data.routes, kGeoRouteKeys, kGeoRouteKind);
+    for (int i = 0; problem.isEmpty() && i < data.routes.size(); ++i) {
+        const coreGeoRoute& r = data.routes.at(i);
+        for (int n = 0; problem.isEmpty() && n < r.stops.size(); ++n) {
+            const QString who = geoRecordName(kGeoStopKind, r.id, n + 1);
+            problem = checkGeoRecord(r.stops.at(n), kGeoStopKeys, who);
+            if (problem.isEmpty() && !ids.contains(r.stops.at(n).zoneid))
+                //% "%1 ссылается на несуществующую геозону %2."
+                problem = qtTrId("geod_065").arg(who).arg(r.stops.at(n).zoneid);
         }
     }
-    return QString();
+    if (problem.isEmpty())
+        problem = checkList(data.speeds, kGeoSpeedKeys, kGeoSpeedKind);
+    if (problem.isEmpty())
+        problem = checkList(data.sounds, kGeoSoundKeys, kGeoSoundKind);
+    return problem;
+}
+
+QString checkAinf(const coreAinfData& data, const ZRK_Ainf_Caps& caps)
+{
+    const QString limits = checkAinfLimits(data, caps);
+    return limits.isEmpty() ? checkAinfData(data) : limits;
 }
 
 QString formatGeoCoordinate(double degrees)

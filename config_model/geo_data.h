@@ -170,6 +170,10 @@ struct coreAinfData
     coreAinfDefaults defaults;
 };
 
+// A zone's radius, metres.
+constexpr int kGeoZoneSizeMin = 10;
+constexpr int kGeoZoneSizeMax = 100000;
+
 // What this model keeps. The terminal's geo table holds 10,000 zones; routes, stops and speed
 // zones live in smaller tables beside it.
 struct ZRK_Ainf_Caps
@@ -179,8 +183,8 @@ struct ZRK_Ainf_Caps
     int maxStopsPerRoute = 200;
     int maxSpeedZones = 100;
     int maxSounds = 500;
-    int minZoneSize = 10; // metres
-    int maxZoneSize = 100000;
+    int minZoneSize = kGeoZoneSizeMin;
+    int maxZoneSize = kGeoZoneSizeMax;
     int maxZoneId = 65535; // ids travel to the terminal as 16-bit numbers
     int maxNameLength = 64; // characters of a zone name or a title
 };
@@ -197,12 +201,18 @@ int getFirstFreeGeoZoneId(const QVector<coreGeoZone>& zones, int maxZoneId = zrk
 int addGeoZone(QVector<coreGeoZone>& zones, const QString& name, int size, int angle, int gob, double lat,
     double lon, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
 
-// The first limit the data breaks, as a Russian message for the user; empty when it fits.
+// The first limit on the number of records the data breaks, as a Russian message for the user;
+// empty when it fits.
 QString checkAinfLimits(const coreAinfData& data, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
 
-// The first record that makes no sense (a coordinate off the globe, a duplicate zone id, a stop
-// naming no zone), as a Russian message; empty when all is well.
+// The first record that makes no sense (a value outside the range its key allows, a coordinate off
+// the globe, a duplicate zone id, a stop naming no zone), as a Russian message naming the record
+// (a stop by its route and position); empty when all is well.
 QString checkAinfData(const coreAinfData& data);
+
+// Everything opening a geo file checks once it has been read: the limits, then the records. Saving
+// and writing to the card run it too, so that what the page writes always opens again.
+QString checkAinf(const coreAinfData& data, const ZRK_Ainf_Caps& caps = zrkAinfCaps());
 
 // Coordinates as the files write them: six decimals, "." separator whatever the locale.
 QString formatGeoCoordinate(double degrees);

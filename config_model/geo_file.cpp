@@ -2,6 +2,7 @@
 
 #include "config_model/app_settings.h"
 #include "config_model/common_routines.h"
+#include "config_model/geo_fields.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_workdata.h"
 
@@ -13,23 +14,10 @@
 
 namespace {
 
-// Node and key names of the geo file.
+// Node and key names of the geo file beyond the record rows of geo_fields.h.
 const char kRoot[] = "AINF";
 const char kVer[] = "ver";
 const char kVersion[] = "version";
-const char kCount[] = "count";
-const char kZones[] = "Zones";
-const char kZone[] = "Zone";
-const char kRoutes[] = "Routes";
-const char kRoute[] = "Route";
-const char kStop[] = "Stop";
-const char kCountStop[] = "countStop";
-const char kSpeeds[] = "Speeds";
-const char kSpeed[] = "Speed";
-const char kSounds[] = "Sounds";
-const char kSoundFile[] = "File";
-const char kConfig[] = "Config";
-const char kOptions[] = "options";
 const char kOldMarker[] = "<PARAMAINF>";
 const char kNewMarker[] = "<AINF";
 // The text "options" of files before integer options.
@@ -46,74 +34,151 @@ std::unique_ptr<CSerialize> newDocument()
     return doc;
 }
 
-Node listNode(CXMLWorkData& root, const char* name, int count)
+template <typename R, std::size_t N> void writeKeys(CXMLWorkData& n, const GeoKey<R> (&keys)[N], const R& r)
 {
-    Node n(root.createNode(name, NodeFindOrCreate));
-    n->writeInteger(kCount, count);
-    n->writeParameters();
-    return n;
+    for (const GeoKey<R>& k : keys) {
+        switch (k.type) {
+        case GeoKeyType::Integer:
+            n.writeInteger(k.key, r.*k.integer);
+            break;
+        case GeoKeyType::Text:
+            n.writeString(k.key, r.*k.text);
+            break;
+        case GeoKeyType::Coordinate:
+            n.writeString(k.key, formatGeoCoordinate(r.*k.coordinate));
+            break;
+        }
+    }
+}
+
+// A missing integer or text keeps the record's own default; a coordinate must be there and be one.
+// who() names the record in the message.
+template <typename R, std::size_t N, typename Who>
+bool readKeys(const CXMLWorkData& n, const GeoKey<R> (&keys)[N], R& r, Who who, QString* error)
+{
+    for (const GeoKey<R>& k : keys) {
+        switch (k.type) {
+        case GeoKeyType::Integer:
+            r.*k.integer = n.readInteger(k.key, r.*k.integer);
+            break;
+        case GeoKeyType::Text:
+            r.*k.text = n.readString(k.key, r.*k.text);
+            break;
+        case GeoKeyType::Coordinate: {
+            const QString text = n.readString(k.key);
+            if (!parseGeoCoordinate(text, &(r.*k.coordinate))) {
+                //% "%1: \"%2\" = \"%3\" не является координатой"
+                *error = qtTrId("geod_068").arg(who(), QLatin1String(k.key), text);
+                return false;
+            }
+            break;
+        }
+        }
+    }
+    return true;
+}
+
+// One list node with its "count" and a record per item; children(node, item) adds what a record
+// holds below it (a route's stops), which makes the record an element rather than a leaf.
+template <typename R, std::size_t N, typename Children>
+void writeList(CXMLWorkData& root, const GeoRecordKind& kind, const GeoKey<R> (&keys)[N],
+    const QVector<R>& list, bool withChildren, Children children)
+{
+    Node node(root.createNode(kind.list, NodeFindOrCreate));
+    node->writeInteger(kGeoCountKey, list.size());
+    node->writeParameters();
+    for (const R& r : list) {
+        // A record would drop children on writing.
+        Node n(node->createNode(kind.record, withChildren ? NodeAppend : NodeRecord));
+        writeKeys(*n, keys, r);
+        children(*n, r);
+    }
+}
+
+template <typename R, std::size_t N>
+void writeList(
+    CXMLWorkData& root, const GeoRecordKind& kind, const GeoKey<R> (&keys)[N], const QVector<R>& list)
+{
+    writeList(root, kind, keys, list, false, [](CXMLWorkData& n, const R&) { n.writeParameters(); });
 }
 
 void writeDefaults(CXMLWorkData& config, const coreAinfDefaults& d)
 {
-    config.writeString("number", d.routeNumber);
-    config.writeString("char", d.routeChar);
-    config.writeString("begin", d.routeBegin);
-    config.writeString("end", d.routeEnd);
-    config.writeInteger("setsnd", d.routeSetSnd);
-    config.writeInteger("speedmode", d.speedmode);
-    config.writeInteger(kOptions, d.packedOptions());
+    writeKeys(config, kGeoConfigKeys, d);
+    config.writeInteger(kGeoOptionsKey, d.packedOptions());
     config.writeParameters();
 }
 
+// Missing keys take the model's defaults, not what was there before.
 void readDefaults(const CXMLWorkData& config, int version, coreAinfDefaults& d)
 {
-    const coreAinfDefaults def;
-    d.routeNumber = config.readString("number", def.routeNumber);
-    d.routeChar = config.readString("char", def.routeChar);
-    d.routeBegin = config.readString("begin", def.routeBegin);
-    d.routeEnd = config.readString("end", def.routeEnd);
-    d.routeSetSnd = config.readInteger("setsnd", def.routeSetSnd);
-    d.speedmode = config.readInteger("speedmode", def.speedmode);
+    coreAinfDefaults read;
+    QString unused;
+    readKeys(
+        config, kGeoConfigKeys, read, [] { return QString(); }, &unused);
     if (version >= kGeoFileIntegerOptionsVersion)
-        d.setPackedOptions(config.readInteger(kOptions, def.packedOptions()));
+        read.setPackedOptions(config.readInteger(kGeoOptionsKey, coreAinfDefaults().packedOptions()));
     else
-        d.setPackedOptionsStr(config.readString(kOptions, QString::fromLatin1(kOptionsTextDefault)));
+        read.setPackedOptionsStr(config.readString(kGeoOptionsKey, QString::fromLatin1(kOptionsTextDefault)));
+    d = read;
 }
 
-// Walks the records of one name under a list node; false (with *error) when the node's count
-// disagrees with what is there, which is how a cut or hand-damaged file shows.
-template <typename Fn>
-bool forEachRecord(CXMLWorkData& root, const char* listName, const char* recordName, Fn fn, QString* error)
+// Reads the records of one kind under its list node; false (with *error) when a record is wrong or
+// the node's count disagrees with what is there, which is how a cut or hand-damaged file shows.
+// children(node, item) reads what a record holds below it.
+template <typename R, std::size_t N, typename Children>
+bool readList(CXMLWorkData& root, const GeoRecordKind& kind, const GeoKey<R> (&keys)[N], QVector<R>& out,
+    QString* error, Children children)
 {
-    Node list(root.getFirstNode(listName));
+    Node list(root.getFirstNode(kind.list));
     if (!list)
         return true;
-    const int declared = list->readInteger(kCount, 0);
+    const int declared = list->readInteger(kGeoCountKey, 0);
     int seen = 0;
-    CXMLWorkData* cursor = list->getFirstNode(recordName);
+    CXMLWorkData* cursor = list->getFirstNode(kind.record);
     while (cursor) {
-        if (!fn(*cursor)) {
+        R r;
+        if (!readKeys(
+                *cursor, keys, r, [&] { return geoRecordName(kind, r.id); }, error)
+            || !children(*cursor, r)) {
             delete cursor;
             return false;
         }
+        out.append(r);
         ++seen;
         list->moveToNextNode(cursor);
     }
     if (seen != declared) {
         //% "узел \"%1\" объявляет записей: %2, а содержит: %3"
-        *error = qtTrId("geod_020").arg(QLatin1String(listName)).arg(declared).arg(seen);
+        *error = qtTrId("geod_020").arg(QLatin1String(kind.list)).arg(declared).arg(seen);
         return false;
     }
     return true;
 }
 
-bool readCoordinate(const CXMLWorkData& n, const char* key, int id, double* out, QString* error)
+template <typename R, std::size_t N>
+bool readList(CXMLWorkData& root, const GeoRecordKind& kind, const GeoKey<R> (&keys)[N], QVector<R>& out,
+    QString* error)
 {
-    const QString text = n.readString(key);
-    if (!parseGeoCoordinate(text, out)) {
-        //% "геозона %1: \"%2\" не является координатой"
-        *error = qtTrId("geod_021").arg(id).arg(text);
+    return readList(root, kind, keys, out, error, [](CXMLWorkData&, R&) { return true; });
+}
+
+bool readStops(CXMLWorkData& n, coreGeoRoute& r, QString* error)
+{
+    const int declared = n.readInteger(kGeoRouteStopCountKey, 0);
+    CXMLWorkData* cursor = n.getFirstNode(kGeoStopKind.record);
+    while (cursor) {
+        coreGeoStop s;
+        const int position = r.stops.size() + 1;
+        // Stops have no coordinates, so reading one cannot fail.
+        readKeys(
+            *cursor, kGeoStopKeys, s, [&] { return geoRecordName(kGeoStopKind, r.id, position); }, error);
+        r.stops.append(s);
+        n.moveToNextNode(cursor);
+    }
+    if (declared != r.stops.size()) {
+        //% "маршрут %1 объявляет остановок: %2, а содержит: %3"
+        *error = qtTrId("geod_023").arg(r.id).arg(declared).arg(r.stops.size());
         return false;
     }
     return true;
@@ -128,87 +193,18 @@ bool readNew(CSerialize* doc, coreAinfData& out, GeoFileReadInfo& info, QString*
         *reason = qtTrId("geod_022").arg(info.version).arg(kGeoFileVersion);
         return false;
     }
-    const bool ok = forEachRecord(
-                        root, kSounds, kSoundFile,
-                        [&](CXMLWorkData& n) {
-                            coreGeoSound s;
-                            s.id = n.readInteger("id", 0);
-                            s.title = n.readString("title");
-                            out.sounds.append(s);
-                            return true;
-                        },
-                        reason)
-        && forEachRecord(
-            root, kSpeeds, kSpeed,
-            [&](CXMLWorkData& n) {
-                coreSpeedZone s;
-                s.id = n.readInteger("id", 0);
-                s.title = n.readString("title");
-                s.speed = n.readInteger("speed", s.speed);
-                s.gap = n.readInteger("gap", s.gap);
-                s.limitsnd = n.readInteger("limitsnd", 0);
-                s.activesnd = n.readInteger("activesnd", 0);
-                s.limitrep = n.readInteger("limitrep", 0);
-                s.activerep = n.readInteger("activerep", 0);
-                s.delay = n.readInteger("delay", 0);
-                s.limitbuzz = n.readInteger("limitbuzz", 0);
-                out.speeds.append(s);
-                return true;
-            },
-            reason)
-        && forEachRecord(
-            root, kZones, kZone,
-            [&](CXMLWorkData& n) {
-                coreGeoZone z;
-                z.id = n.readInteger("id", 0);
-                z.name = n.readString("name");
-                if (!readCoordinate(n, "lat", z.id, &z.lat, reason)
-                    || !readCoordinate(n, "lon", z.id, &z.lon, reason))
-                    return false;
-                z.size = n.readInteger("size", z.size);
-                z.angle = n.readInteger("angle", 0);
-                z.gob = n.readInteger("gob", 0);
-                z.outputs = n.readString("outputs", QString::fromLatin1(kGeoZoneOutputsDefault));
-                z.spdmode = n.readString("spdmode", z.spdmode);
-                out.zones.append(z);
-                return true;
-            },
-            reason)
-        && forEachRecord(
-            root, kRoutes, kRoute,
-            [&](CXMLWorkData& n) {
-                coreGeoRoute r;
-                r.id = n.readInteger("id", 0);
-                r.number = n.readString("number");
-                r.chr = n.readString("char");
-                r.begin = n.readString("begin");
-                r.end = n.readString("end");
-                r.flags = n.readInteger("flags", 0);
-                r.setsnd = n.readInteger("setsnd", 0);
-                const int declared = n.readInteger(kCountStop, 0);
-                CXMLWorkData* cursor = n.getFirstNode(kStop);
-                while (cursor) {
-                    coreGeoStop s;
-                    s.type = cursor->readInteger("type", 0);
-                    s.zoneid = cursor->readInteger("zoneid", 0);
-                    s.number = cursor->readInteger("number", 0);
-                    s.title = cursor->readString("title");
-                    s.soundsids = cursor->readString("soundsids");
-                    r.stops.append(s);
-                    n.moveToNextNode(cursor);
-                }
-                if (declared != r.stops.size()) {
-                    //% "маршрут %1 объявляет остановок: %2, а содержит: %3"
-                    *reason = qtTrId("geod_023").arg(r.id).arg(declared).arg(r.stops.size());
-                    return false;
-                }
-                out.routes.append(r);
-                return true;
-            },
-            reason);
+    {
+        Node sounds(root.getFirstNode(kGeoSoundKind.list));
+        info.hasSounds = sounds != nullptr;
+    }
+    const bool ok = readList(root, kGeoSoundKind, kGeoSoundKeys, out.sounds, reason)
+        && readList(root, kGeoSpeedKind, kGeoSpeedKeys, out.speeds, reason)
+        && readList(root, kGeoZoneKind, kGeoZoneKeys, out.zones, reason)
+        && readList(root, kGeoRouteKind, kGeoRouteKeys, out.routes, reason,
+            [reason](CXMLWorkData& n, coreGeoRoute& r) { return readStops(n, r, reason); });
     if (!ok)
         return false;
-    Node config(root.getFirstNode(kConfig));
+    Node config(root.getFirstNode(kGeoConfigNode));
     if (config) {
         readDefaults(*config, info.version, out.defaults);
         info.hasConfig = true;
@@ -218,8 +214,11 @@ bool readNew(CSerialize* doc, coreAinfData& out, GeoFileReadInfo& info, QString*
 
 QString failure(const QString& name, const QString& reason)
 {
+    QString why = reason;
+    while (why.endsWith(QLatin1Char('.')))
+        why.chop(1); // the reasons that are sentences of their own end with one
     //% "Не удалось открыть файл геоинформации \"%1\": %2."
-    return qtTrId("geod_024").arg(name, reason);
+    return qtTrId("geod_024").arg(name, why);
 }
 
 bool writeWhole(const QString& path, const QByteArray& text, QString* error)
@@ -250,76 +249,21 @@ QByteArray renderFileParamGeo(const coreAinfData& data, bool full)
     CXMLWorkData root(doc.get(), kRoot);
     root.writeInteger(kVer, kGeoFileVersion);
     root.writeParameters();
-
-    {
-        Node list = listNode(root, kZones, data.zones.size());
-        for (const coreGeoZone& z : data.zones) {
-            Node n(list->createNode(kZone, NodeRecord));
-            n->writeInteger("id", z.id);
-            n->writeString("name", z.name);
-            n->writeString("lat", formatGeoCoordinate(z.lat));
-            n->writeString("lon", formatGeoCoordinate(z.lon));
-            n->writeInteger("size", z.size);
-            n->writeInteger("angle", z.angle);
-            n->writeInteger("gob", z.gob);
-            n->writeString("outputs", z.outputs);
-            n->writeString("spdmode", z.spdmode);
-            n->writeParameters();
-        }
-    }
-    {
-        Node list = listNode(root, kRoutes, data.routes.size());
-        for (const coreGeoRoute& r : data.routes) {
-            // An element with children: a record would drop its stops on writing.
-            Node n(list->createNode(kRoute, NodeAppend));
-            n->writeInteger("id", r.id);
-            n->writeString("number", r.number);
-            n->writeString("char", r.chr);
-            n->writeString("begin", r.begin);
-            n->writeString("end", r.end);
-            n->writeInteger("flags", r.flags);
-            n->writeInteger("setsnd", r.setsnd);
-            n->writeInteger(kCountStop, r.stops.size());
-            n->writeParameters();
+    writeList(root, kGeoZoneKind, kGeoZoneKeys, data.zones);
+    writeList(
+        root, kGeoRouteKind, kGeoRouteKeys, data.routes, true, [](CXMLWorkData& n, const coreGeoRoute& r) {
+            n.writeInteger(kGeoRouteStopCountKey, r.stops.size());
+            n.writeParameters();
             for (const coreGeoStop& s : r.stops) {
-                Node stop(n->createNode(kStop, NodeRecord));
-                stop->writeInteger("type", s.type);
-                stop->writeInteger("zoneid", s.zoneid);
-                stop->writeInteger("number", s.number);
-                stop->writeString("title", s.title);
-                stop->writeString("soundsids", s.soundsids);
+                Node stop(n.createNode(kGeoStopKind.record, NodeRecord));
+                writeKeys(*stop, kGeoStopKeys, s);
                 stop->writeParameters();
             }
-        }
-    }
-    {
-        Node list = listNode(root, kSpeeds, data.speeds.size());
-        for (const coreSpeedZone& s : data.speeds) {
-            Node n(list->createNode(kSpeed, NodeRecord));
-            n->writeInteger("id", s.id);
-            n->writeString("title", s.title);
-            n->writeInteger("speed", s.speed);
-            n->writeInteger("gap", s.gap);
-            n->writeInteger("limitsnd", s.limitsnd);
-            n->writeInteger("activesnd", s.activesnd);
-            n->writeInteger("limitrep", s.limitrep);
-            n->writeInteger("activerep", s.activerep);
-            n->writeInteger("delay", s.delay);
-            n->writeInteger("limitbuzz", s.limitbuzz);
-            n->writeParameters();
-        }
-    }
+        });
+    writeList(root, kGeoSpeedKind, kGeoSpeedKeys, data.speeds);
     if (full) {
-        {
-            Node list = listNode(root, kSounds, data.sounds.size());
-            for (const coreGeoSound& s : data.sounds) {
-                Node n(list->createNode(kSoundFile, NodeRecord));
-                n->writeInteger("id", s.id);
-                n->writeString("title", s.title);
-                n->writeParameters();
-            }
-        }
-        Node config(root.createNode(kConfig, NodeRecord));
+        writeList(root, kGeoSoundKind, kGeoSoundKeys, data.sounds);
+        Node config(root.createNode(kGeoConfigNode, NodeRecord));
         writeDefaults(*config, data.defaults);
     }
     return doc->render();
@@ -365,9 +309,7 @@ bool readFileParamGeoText(
     QString reason;
     if (!readNew(&doc, read, inf, &reason))
         return fail(reason);
-    QString problem = checkAinfData(read);
-    if (problem.isEmpty())
-        problem = checkAinfLimits(read);
+    const QString problem = checkAinf(read);
     if (!problem.isEmpty())
         return fail(problem);
     if (data)
@@ -403,7 +345,7 @@ QByteArray renderFileCFG(const coreAinfDefaults& defaults)
     CXMLWorkData root(doc.get(), kRoot);
     root.writeInteger(kVersion, kGeoFileVersion);
     root.writeParameters();
-    Node config(root.createNode(kConfig, NodeRecord));
+    Node config(root.createNode(kGeoConfigNode, NodeRecord));
     writeDefaults(*config, defaults);
     return doc->render();
 }

@@ -41,6 +41,9 @@ struct GeoFileReadInfo
     GeoFileFormat format = GeoFileFormat::Unknown;
     int version = 0; // "ver" of a new-format file
     bool hasConfig = false; // the file carried "Config" (so *data's defaults were replaced)
+    bool hasSounds = false; // the file carried "Sounds"
+    // A file with either section is a full one: writing it again keeps them.
+    bool isFull() const { return hasConfig || hasSounds; }
 };
 
 // Reads a geo file into *data. On any failure (missing, too large, old format, not XML, unknown

@@ -1,6 +1,7 @@
 #include "config_model/kml_reader.h"
 
 #include "config_model/common_routines.h"
+#include "config_model/geo_fields.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,7 +16,8 @@
 namespace {
 
 const char kKmlNamespace[] = "http://www.opengis.net/kml/2.2";
-const char kRadiusKey[] = "radius";
+// A placemark of our own writer keeps the zone's radius in its ExtendedData, under this name.
+const char* const kRadiusKey = findGeoKey(kGeoZoneKeys, "size")->kml;
 
 // Geometry that cannot become a zone; a placemark with only these is counted, not imported.
 bool isOtherGeometry(QStringView local)
@@ -29,30 +31,36 @@ bool isOtherGeometry(QStringView local)
     return false;
 }
 
-// "lon,lat[,alt]" — the first tuple of the text, white space allowed anywhere around the commas.
-bool parseCoordinates(const QString& text, KmlPlacemark* p)
+// "lon,lat[,alt[,...]]": the first tuple of the text, white space allowed anywhere around the
+// commas; values past the altitude are not ours to read. Empty when the point was read, else why not.
+QString parseCoordinates(const QString& text, KmlPlacemark* p)
 {
     static const QRegularExpression aroundCommas(QStringLiteral("\\s*,\\s*"));
+    static const QRegularExpression space(QStringLiteral("\\s"));
     QString t = text.trimmed();
     if (t.isEmpty())
-        return true; // an empty point is taken as 0.0,0.0
+        return QString(); // an empty point is taken as 0.0,0.0
     t.replace(aroundCommas, QStringLiteral(","));
-    const int end = t.indexOf(QRegularExpression(QStringLiteral("\\s")));
+    const int end = t.indexOf(space);
     const QStringList parts = (end < 0 ? t : t.left(end)).split(QLatin1Char(','));
-    if (parts.size() < 2 || parts.size() > 3)
-        return false;
-    bool okLon = false, okLat = false, okAlt = true;
+    if (parts.size() < 2)
+        //% "нужны долгота и широта через запятую"
+        return qtTrId("geod_069");
+    bool okLon = false, okLat = false, okAlt = false;
     const QLocale c = QLocale::c();
     const double lon = c.toDouble(parts[0], &okLon);
     const double lat = c.toDouble(parts[1], &okLat);
-    const double alt = parts.size() == 3 ? c.toDouble(parts[2], &okAlt) : 0.0;
-    if (!okLon || !okLat || !okAlt || !std::isfinite(lat) || !std::isfinite(lon) || std::fabs(lat) > 90.0
-        || std::fabs(lon) > 180.0)
-        return false;
+    const double alt = parts.size() > 2 ? c.toDouble(parts[2], &okAlt) : 0.0;
+    if (!okLon || !okLat || !std::isfinite(lat) || !std::isfinite(lon))
+        //% "долгота или широта не число"
+        return qtTrId("geod_070");
+    if (std::fabs(lat) > 90.0 || std::fabs(lon) > 180.0)
+        //% "широта вне -90..90 или долгота вне -180..180"
+        return qtTrId("geod_071");
     p->lon = lon;
     p->lat = lat;
-    p->alt = alt;
-    return true;
+    p->alt = okAlt && std::isfinite(alt) ? alt : 0.0;
+    return QString();
 }
 
 QString kmlFailure(const QString& name, const QString& reason)
@@ -66,11 +74,19 @@ QString kmlFailure(const QString& name, const QString& reason)
 KmlReadResult readKml(const QByteArray& text, const QString& name)
 {
     KmlReadResult result;
+    bool sawRoot = false;
     auto fail = [&](const QString& reason) {
-        result.points.clear();
-        result.nonPoints = 0;
-        result.nonPointNames.clear();
+        result = KmlReadResult();
         result.error = kmlFailure(name, reason);
+        return result;
+    };
+    // A damaged file keeps the placemarks read before the damage; only a file that is not KML at
+    // all (or declares entities) is refused whole.
+    auto damaged = [&](const QString& reason) {
+        if (!sawRoot)
+            return fail(reason);
+        //% "файл повреждён (%1); метки после этого места не прочитаны"
+        result.damage = qtTrId("geod_072").arg(reason);
         return result;
     };
     if (text.size() > kKmlMaxFileSize)
@@ -82,11 +98,11 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
 
     QXmlStreamReader xml(text);
     int depth = 0;
-    bool sawRoot = false;
     // The placemark being read: its depth, and what geometry it carried.
     int placemarkDepth = 0;
     KmlPlacemark pm;
     bool hasPoint = false, hasOther = false, inPoint = false;
+    QString badPoint; // why the placemark's point could not be read
     int pointDepth = 0;
     QString dataName; // the "name" attribute of the ExtendedData item being read
 
@@ -102,7 +118,9 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
             if (inPoint && depth < pointDepth)
                 inPoint = false;
             if (placemarkDepth && depth < placemarkDepth && local == QLatin1String("Placemark")) {
-                if (hasPoint || !hasOther) {
+                if (!badPoint.isEmpty()) {
+                    result.badPlacemarks.append(badPoint);
+                } else if (hasPoint || !hasOther) {
                     result.points.append(pm);
                 } else {
                     ++result.nonPoints;
@@ -117,7 +135,7 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
         ++depth;
         if (depth > kKmlMaxDepth)
             //% "вложенность элементов глубже %1 уровней"
-            return fail(qtTrId("geod_043").arg(kKmlMaxDepth));
+            return damaged(qtTrId("geod_043").arg(kKmlMaxDepth));
         const QStringRef local = xml.name();
         if (!sawRoot) {
             sawRoot = true;
@@ -132,6 +150,7 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
             placemarkDepth = depth;
             pm = KmlPlacemark();
             hasPoint = hasOther = inPoint = false;
+            badPoint.clear();
             continue;
         }
         if (!placemarkDepth)
@@ -154,9 +173,10 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
             --depth;
             if (xml.hasError())
                 break;
-            if (!parseCoordinates(coords, &pm))
-                //% "метка \"%1\": не удалось прочитать координаты \"%2\""
-                return fail(qtTrId("geod_045").arg(pm.name, coords.trimmed().left(80)));
+            const QString why = parseCoordinates(coords, &pm);
+            if (!why.isEmpty() && badPoint.isEmpty())
+                //% "метка \"%1\": координаты \"%2\" не прочитаны: %3"
+                badPoint = qtTrId("geod_045").arg(pm.name, coords.simplified().left(80), why);
             inPoint = false;
         } else if (isOtherGeometry(local)) {
             hasOther = true;
@@ -177,7 +197,7 @@ KmlReadResult readKml(const QByteArray& text, const QString& name)
         while (why.endsWith(QLatin1Char('.')))
             why.chop(1);
         //% "строка %1: %2"
-        return fail(qtTrId("geod_046").arg(xml.lineNumber()).arg(why));
+        return damaged(qtTrId("geod_046").arg(xml.lineNumber()).arg(why));
     }
     if (!sawRoot)
         //% "файл пуст"
@@ -209,6 +229,8 @@ KmlImportResult importKmlText(const QByteArray& text, const QString& name, int s
     const KmlReadResult read = readKml(text, name);
     result.nonPoints = read.nonPoints;
     result.nonPointNames = read.nonPointNames;
+    result.badPlacemarks = read.badPlacemarks;
+    result.damage = read.damage;
     if (!read.ok()) {
         result.error = read.error;
         return result;
@@ -303,10 +325,10 @@ QByteArray renderKml(const coreAinfData& data)
         //% "Геозона %1, радиус %2 м"
         w.writeTextElement(QStringLiteral("description"), qtTrId("geod_051").arg(z.id).arg(z.size));
         w.writeStartElement(QStringLiteral("ExtendedData"));
-        writeData(w, "id", z.id);
-        writeData(w, kRadiusKey, z.size);
-        writeData(w, "angle", z.angle);
-        writeData(w, "gob", z.gob);
+        for (const GeoKey<coreGeoZone>& k : kGeoZoneKeys) {
+            if (k.kml)
+                writeData(w, k.kml, z.*k.integer);
+        }
         w.writeEndElement();
         w.writeStartElement(QStringLiteral("Point"));
         w.writeTextElement(QStringLiteral("coordinates"), kmlPoint(z.lat, z.lon));

@@ -30,13 +30,20 @@ struct KmlReadResult
     QVector<KmlPlacemark> points; // placemarks with a Point (or none at all: taken as 0.0,0.0)
     int nonPoints = 0; // placemarks carrying only lines, polygons or other geometry
     QStringList nonPointNames;
-    QString error; // Russian; empty when the file was read
+    // Placemarks whose point could not be read (not numbers, fewer than two values, off the
+    // globe): one Russian line each, naming the placemark and the reason. They give no point.
+    QStringList badPlacemarks;
+    // Set when the file is damaged past its start (not well-formed further on, nested too deep):
+    // Russian, where and why; the placemarks before it are read.
+    QString damage;
+    QString error; // Russian; set when the file is not KML at all, and then nothing was read
     bool ok() const { return error.isEmpty(); }
 };
 
 // Reads placemarks from KML text, matching elements by local name (default namespace, "kml:" or
-// any other prefix) anywhere under Document/Folder. A DTD, a nesting deeper than kKmlMaxDepth or
-// text that is not well-formed XML is refused with an error and no points.
+// any other prefix) anywhere under Document/Folder. Every placemark that can be read is; a point
+// with values past the altitude takes the first two. Text that is not KML (empty, another root,
+// not XML before the root) and any DTD or entity are refused with an error and no points.
 KmlReadResult readKml(const QByteArray& text, const QString& name = QString());
 KmlReadResult readKmlFile(const QString& path);
 
@@ -53,6 +60,8 @@ struct KmlImportResult
     QVector<coreGeoZone> zones; // new zones with their ids, to be appended to the list
     int nonPoints = 0;
     QStringList nonPointNames;
+    QStringList badPlacemarks; // as KmlReadResult
+    QString damage;
     QString error; // Russian; when set, zones is empty
     bool ok() const { return error.isEmpty(); }
 };

@@ -35,7 +35,12 @@ ZRK_Form_Config_Ainf::ZRK_Form_Config_Ainf(QWidget* parent)
     initForm();
 }
 
-ZRK_Form_Config_Ainf::~ZRK_Form_Config_Ainf() = default;
+ZRK_Form_Config_Ainf::~ZRK_Form_Config_Ainf()
+{
+    // The zone list's model reads m_data, which goes before the base class hides the table (a
+    // shown page asks its model for rows as it closes).
+    ui->tableView_ListGeo->setModel(nullptr);
+}
 
 void ZRK_Form_Config_Ainf::applyCaps()
 {
@@ -219,7 +224,9 @@ QString ZRK_Form_Config_Ainf::createNameMapCircle(const coreGeoZone& zone) const
 
 ZrkMapZone ZRK_Form_Config_Ainf::mapZone(const coreGeoZone& zone) const
 {
-    return { zone.id, createNameMapCircle(zone), zone.lat, zone.lon, zone.size };
+    const bool checksCourse = zone.gob & (1 << GeoOpt_CheckAngle);
+    return { zone.id, createNameMapCircle(zone), zone.lat, zone.lon, zone.size,
+        checksCourse ? zone.angle : -1 };
 }
 
 void ZRK_Form_Config_Ainf::createGeoMarker(const coreGeoZone& zone)
@@ -506,9 +513,10 @@ bool ZRK_Form_Config_Ainf::readFileParamGeo(const QString& path, bool centreMap)
 
 bool ZRK_Form_Config_Ainf::writeFileParamGeo(const QString& path, bool full)
 {
-    const QString limits = checkAinfLimits(m_data, m_caps);
-    if (!limits.isEmpty()) {
-        showMessage(limits);
+    // The checks opening runs: a file the page saves always opens again.
+    const QString problem = checkAinf(m_data, m_caps);
+    if (!problem.isEmpty()) {
+        showMessage(problem);
         return false;
     }
     QString error;
@@ -540,15 +548,32 @@ int ZRK_Form_Config_Ainf::loadFileKML(const QString& file, int size, int angle, 
     mapForm()->setMapCenterEnable(true);
     mapForm()->map()->setZones(zones);
     updateMapRoutes();
+    // What was left out, and why, so that the user can mend the file and import the rest.
+    const auto some = [](QStringList items) {
+        if (items.size() > 10) {
+            items = items.mid(0, 10);
+            items << QStringLiteral("…");
+        }
+        return items;
+    };
+    QStringList report;
     if (result.nonPoints > 0) {
-        QStringList names = result.nonPointNames.mid(0, 10);
-        if (result.nonPointNames.size() > 10)
-            names << QStringLiteral("…");
-        //% "Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3"
-        showMessage(qtTrId("gain_287")
-                        .arg(result.zones.size())
-                        .arg(result.nonPoints)
-                        .arg(names.join(QStringLiteral(", "))));
+        //% "Меток без точки (линии, полигоны): %1, они пропущены: %2"
+        report << qtTrId("gain_298")
+                      .arg(result.nonPoints)
+                      .arg(some(result.nonPointNames).join(QStringLiteral(", ")));
+    }
+    if (!result.badPlacemarks.isEmpty()) {
+        //% "Меток с неверными координатами: %1, зоны для них не добавлены:"
+        report << qtTrId("gain_299").arg(result.badPlacemarks.size())
+               << some(result.badPlacemarks).join(QLatin1Char('\n'));
+    }
+    if (!result.damage.isEmpty())
+        report << result.damage;
+    if (!report.isEmpty()) {
+        //% "Добавлено зон: %1."
+        report.prepend(qtTrId("gain_297").arg(result.zones.size()));
+        showMessage(report.join(QLatin1Char('\n')));
     }
     return result.zones.size();
 }
@@ -571,9 +596,9 @@ bool ZRK_Form_Config_Ainf::saveFileInDevice()
 {
     if (!m_connected || isWritingToDevice())
         return false;
-    const QString limits = checkAinfLimits(m_data, m_caps);
-    if (!limits.isEmpty()) {
-        showMessage(limits);
+    const QString problem = checkAinf(m_data, m_caps);
+    if (!problem.isEmpty()) {
+        showMessage(problem);
         return false;
     }
     QString error;
@@ -588,6 +613,7 @@ bool ZRK_Form_Config_Ainf::saveFileInDevice()
     cfgFile.close();
     QFile::remove(cfg);
     m_sdIndex = 0;
+    ++m_sdTransfer;
     updateState();
     saveNextFileSD();
     return true;
@@ -595,7 +621,7 @@ bool ZRK_Form_Config_Ainf::saveFileInDevice()
 
 void ZRK_Form_Config_Ainf::saveNextFileSD()
 {
-    if (m_sdIndex < 0)
+    if (!isWritingToDevice())
         return;
     if (m_sdIndex >= m_sdFiles.size()) {
         finishSd(true, QString());
@@ -610,16 +636,39 @@ void ZRK_Form_Config_Ainf::saveNextFileSD()
         lpGlobalDevice->formWait_Set_Progress_Value(m_sdIndex);
         lpGlobalDevice->formWait_Show();
     }
-    if (!sendSdStep()) {
-        //% "Не удалось передать файл %1 на SD-карту терминала."
-        finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
-    }
+    sendSdStepOrFail();
 }
 
-bool ZRK_Form_Config_Ainf::sendSdStep()
+QString ZRK_Form_Config_Ainf::sdFailureText(qint32 result, const QString& file)
 {
-    if (!lpGlobalDevice || m_sdIndex < 0 || m_sdIndex >= m_sdFiles.size())
-        return false;
+    if (result == ZRK_SD_CARD_FULL)
+        //% "На SD-карте терминала нет места для файла %1."
+        return qtTrId("gain_290").arg(file);
+    if (result == ZRK_SD_NO_CARD)
+        //% "В терминале нет SD-карты; файл %1 не записан."
+        return qtTrId("gain_291").arg(file);
+    //% "Не удалось передать файл %1 на SD-карту терминала."
+    return qtTrId("gain_288").arg(file);
+}
+
+// The host may answer inside the request's call and may end the transfer there (an error reply,
+// a disconnect); whatever it did, the request's own result is looked at only while this same
+// transfer is still on its way.
+void ZRK_Form_Config_Ainf::sendSdStepOrFail()
+{
+    if (!isWritingToDevice() || m_sdIndex >= m_sdFiles.size())
+        return;
+    const quint64 transfer = m_sdTransfer;
+    const QString file = m_sdFiles.at(m_sdIndex).first;
+    const qint32 result = sendSdStep();
+    if (result != ZRK_SD_OK && transfer == m_sdTransfer && isWritingToDevice())
+        finishSd(false, sdFailureText(result, file));
+}
+
+qint32 ZRK_Form_Config_Ainf::sendSdStep()
+{
+    if (!lpGlobalDevice)
+        return ZRK_SD_NO_CARD;
     const auto& file = m_sdFiles.at(m_sdIndex);
     szSDFile request;
     // A fresh copy: the host may keep the name after the plug-in (and its string literals) is gone.
@@ -636,45 +685,47 @@ bool ZRK_Form_Config_Ainf::sendSdStep()
         request.operation = ZRK_SD_CLOSE;
         m_sdClosing = true;
     }
+    m_sdAwaiting = request.operation;
+    m_sdAwaitingOffset = request.offset;
     m_sdWatchdog->start();
     lpGlobalDevice->SendMessage(
         lpGlobalDevice, ZRK_MSG_SD_FILE_OPERATION, reinterpret_cast<unsigned long>(&request), 0);
-    return request.result == ZRK_SD_OK;
+    return request.result;
 }
 
 void ZRK_Form_Config_Ainf::receive_SD_File(QByteArray* data)
 {
-    if (!data || m_sdIndex < 0)
+    if (!data || !isWritingToDevice() || m_sdAwaiting == 0 || m_sdIndex >= m_sdFiles.size())
         return;
     szSDFileReplyHeader header;
     QString name;
-    if (!zrkParseSDFileReply(*data, &header, &name, nullptr) || name != m_sdFiles.at(m_sdIndex).first)
-        return; // not an answer to this page's transfer
+    // Only the answer to the request on its way counts: a repeated or stray reply would otherwise
+    // move the transfer on by a step it never made.
+    if (!zrkParseSDFileReply(*data, &header, &name, nullptr) || name != m_sdFiles.at(m_sdIndex).first
+        || header.operation != m_sdAwaiting || header.offset != m_sdAwaitingOffset)
+        return;
+    m_sdAwaiting = 0;
     m_sdWatchdog->stop();
     if (header.result != ZRK_SD_OK) {
-        const QString file = m_sdFiles.at(m_sdIndex).first;
-        if (header.result == ZRK_SD_CARD_FULL)
-            //% "На SD-карте терминала нет места для файла %1."
-            finishSd(false, qtTrId("gain_290").arg(file));
-        else if (header.result == ZRK_SD_NO_CARD)
-            //% "В терминале нет SD-карты; файл %1 не записан."
-            finishSd(false, qtTrId("gain_291").arg(file));
-        else
-            finishSd(false, qtTrId("gain_288").arg(file));
+        finishSd(false, sdFailureText(header.result, m_sdFiles.at(m_sdIndex).first));
         return;
     }
     // The next request goes out from the event loop: replies may arrive inside the request's call.
-    if (m_sdClosing) {
+    if (m_sdClosing)
         ++m_sdIndex;
-        QMetaObject::invokeMethod(this, &ZRK_Form_Config_Ainf::saveNextFileSD, Qt::QueuedConnection);
-        return;
-    }
-    m_sdOffset = m_sdOffset < 0 ? 0 : m_sdOffset + ZRK_SD_CHUNK_MAX;
+    else
+        m_sdOffset = m_sdOffset < 0 ? 0 : m_sdOffset + ZRK_SD_CHUNK_MAX;
+    const quint64 transfer = m_sdTransfer;
+    const bool nextFile = m_sdClosing;
     QMetaObject::invokeMethod(
         this,
-        [this] {
-            if (m_sdIndex >= 0 && !sendSdStep())
-                finishSd(false, qtTrId("gain_288").arg(m_sdFiles.at(m_sdIndex).first));
+        [this, transfer, nextFile] {
+            if (transfer != m_sdTransfer)
+                return; // that transfer has ended (and another may have started) meanwhile
+            if (nextFile)
+                saveNextFileSD();
+            else
+                sendSdStepOrFail();
         },
         Qt::QueuedConnection);
 }
@@ -683,6 +734,8 @@ void ZRK_Form_Config_Ainf::finishSd(bool ok, const QString& message)
 {
     m_sdWatchdog->stop();
     m_sdIndex = -1;
+    m_sdAwaiting = 0;
+    ++m_sdTransfer;
     m_sdFiles.clear();
     if (lpGlobalDevice)
         lpGlobalDevice->formWait_Close();

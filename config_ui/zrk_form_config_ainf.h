@@ -121,9 +121,12 @@ private:
     void updateMapRoutes();
     void updateState();
     int appendZone(coreGeoZone zone);
-    // Sends the current request of the card write (open, a 4 KB write, close); false when refused.
-    bool sendSdStep();
+    // Sends the current request of the card write (open, a 4 KB write, close); the host's result.
+    qint32 sendSdStep();
+    // Sends it and ends the write with a message when the host refuses it.
+    void sendSdStepOrFail();
     void finishSd(bool ok, const QString& message);
+    static QString sdFailureText(qint32 result, const QString& file);
 
     std::unique_ptr<Ui_ZRK_Designer_Form_Config_Ainf> ui;
     ZRK_Ainf_Caps m_caps;
@@ -140,5 +143,8 @@ private:
     int m_sdIndex = -1;
     int m_sdOffset = -1; // -1: open next; past the file's end: close next
     bool m_sdClosing = false;
+    quint32 m_sdAwaiting = 0; // the operation whose reply is due, 0 when none
+    quint32 m_sdAwaitingOffset = 0;
+    quint64 m_sdTransfer = 0; // changes when a write starts or ends: stale queued steps see it
     QTimer* m_sdWatchdog = nullptr;
 };

@@ -24,6 +24,13 @@ ZRK_Form_Config_Ainf_Map::ZRK_Form_Config_Ainf_Map(QWidget* parent)
     connect(ui->lineEdit_TileSource, &QLineEdit::returnPressed, this,
         &ZRK_Form_Config_Ainf_Map::slot_pressed_BtnApplyTiles);
     connect(ui->BtnCentre, &QPushButton::clicked, this, &ZRK_Form_Config_Ainf_Map::slot_pressed_BtnCentre);
+    // Without a map its own controls have nothing to act on; the message says why.
+    if (!ui->widget_Map->isAvailable()) {
+        for (QWidget* w : { static_cast<QWidget*>(ui->lineEdit_TileSource),
+                 static_cast<QWidget*>(ui->BtnApplyTiles), static_cast<QWidget*>(ui->BtnCentre) })
+            w->setEnabled(false);
+        ui->label_MapHint->hide();
+    }
 }
 
 ZRK_Form_Config_Ainf_Map::~ZRK_Form_Config_Ainf_Map() = default;

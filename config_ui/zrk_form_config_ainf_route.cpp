@@ -1,9 +1,14 @@
 #include "config_ui/zrk_form_config_ainf_route.h"
 
+#include "config_model/geo_fields.h"
 #include "ui_zrk_form_config_ainf_route.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QHeaderView>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace {
 
@@ -35,14 +40,58 @@ QTableWidgetItem* readOnly(const QString& text)
     return item;
 }
 
-// An integer cell: a value outside the range keeps the old one.
-void takeInt(QTableWidgetItem* item, int& field, int lo, int hi)
+// An integer cell: a value outside the range the geo file allows for the key keeps the old one.
+template <typename R, std::size_t N>
+void takeInt(QTableWidgetItem* item, R& record, const GeoKey<R> (&keys)[N], const char* key)
 {
+    const GeoKey<R>* k = findGeoKey(keys, key);
     bool ok = false;
     const int v = item->text().trimmed().toInt(&ok);
-    if (ok && v >= lo && v <= hi)
-        field = v;
+    if (k && ok && v >= k->min && v <= k->max)
+        record.*k->integer = v;
 }
+
+bool hasZone(const QVector<coreGeoZone>& zones, int id)
+{
+    return std::any_of(zones.begin(), zones.end(), [id](const coreGeoZone& z) { return z.id == id; });
+}
+
+// A stop's zone is picked from the zones in the list, never typed: a stop always names a zone that
+// exists, so what the page saves opens again.
+class ZRK_Stop_Zone_Delegate : public QStyledItemDelegate
+{
+public:
+    ZRK_Stop_Zone_Delegate(std::function<const QVector<coreGeoZone>&()> zones, QObject* parent)
+        : QStyledItemDelegate(parent)
+        , m_zones(std::move(zones))
+    {
+    }
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override
+    {
+        auto* box = new QComboBox(parent);
+        box->setObjectName(QStringLiteral("comboBox_StopZone"));
+        for (const coreGeoZone& z : m_zones())
+            box->addItem(
+                z.name.isEmpty() ? QString::number(z.id) : QStringLiteral("%1: %2").arg(z.id).arg(z.name),
+                z.id);
+        return box;
+    }
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override
+    {
+        auto* box = static_cast<QComboBox*>(editor);
+        box->setCurrentIndex(box->findData(index.data().toString().toInt()));
+    }
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
+    {
+        const auto* box = static_cast<QComboBox*>(editor);
+        if (box->currentIndex() >= 0)
+            model->setData(index, QString::number(box->currentData().toInt()));
+    }
+
+private:
+    std::function<const QVector<coreGeoZone>&()> m_zones;
+};
 
 } // namespace
 
@@ -59,6 +108,8 @@ ZRK_Form_Config_Ainf_Route::ZRK_Form_Config_Ainf_Route(QWidget* parent)
         &ZRK_Form_Config_Ainf_Route::routeItemChanged);
     connect(ui->tableWidget_Stops, &QTableWidget::itemChanged, this,
         &ZRK_Form_Config_Ainf_Route::stopItemChanged);
+    ui->tableWidget_Stops->setItemDelegateForColumn(SC_Zone,
+        new ZRK_Stop_Zone_Delegate([this]() -> const QVector<coreGeoZone>& { return m_data->zones; }, this));
     connect(ui->tableWidget_Routes, &QTableWidget::currentCellChanged, this, [this] { showStops(); });
     connect(ui->Routes_BtnAdd, &QPushButton::clicked, this,
         &ZRK_Form_Config_Ainf_Route::slot_pressed_Routes_BtnAdd);
@@ -131,8 +182,8 @@ void ZRK_Form_Config_Ainf_Route::translateForm()
     });
     //% "Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная"
     ui->tableWidget_Stops->horizontalHeaderItem(SC_Type)->setToolTip(qtTrId("gain_244"));
-    //% "Номер зоны остановки: от 1 до 65535"
-    ui->tableWidget_Stops->horizontalHeaderItem(SC_Zone)->setToolTip(qtTrId("gain_245"));
+    //% "Зона остановки: одна из зон списка"
+    ui->tableWidget_Stops->horizontalHeaderItem(SC_Zone)->setToolTip(qtTrId("gain_247"));
 }
 
 void ZRK_Form_Config_Ainf_Route::setData(coreAinfData* data, std::function<void(const QString&)> message)
@@ -224,7 +275,7 @@ void ZRK_Form_Config_Ainf_Route::routeItemChanged(QTableWidgetItem* item)
         r.end = text;
         break;
     case RC_SetSnd:
-        takeInt(item, r.setsnd, 0, 255);
+        takeInt(item, r, kGeoRouteKeys, "setsnd");
         m_filling = true;
         item->setText(QString::number(r.setsnd));
         m_filling = false;
@@ -242,13 +293,20 @@ void ZRK_Form_Config_Ainf_Route::stopItemChanged(QTableWidgetItem* item)
     coreGeoStop& s = m_data->routes[row].stops[item->row()];
     switch (item->column()) {
     case SC_Type:
-        takeInt(item, s.type, GeoStop_Stop, GeoStop_Terminal);
+        takeInt(item, s, kGeoStopKeys, "type");
         break;
-    case SC_Zone:
-        takeInt(item, s.zoneid, 1, zrkAinfCaps().maxZoneId);
+    case SC_Zone: {
+        bool ok = false;
+        const int id = item->text().trimmed().toInt(&ok);
+        if (ok && hasZone(m_data->zones, id))
+            s.zoneid = id;
+        else if (m_message)
+            //% "Зоны \"%1\" нет в списке зон; остановка осталась у зоны %2."
+            m_message(qtTrId("gain_246").arg(item->text().trimmed()).arg(s.zoneid));
         break;
+    }
     case SC_Number:
-        takeInt(item, s.number, 0, 65535);
+        takeInt(item, s, kGeoStopKeys, "number");
         break;
     case SC_Title:
         s.title = item->text().left(zrkAinfCaps().maxNameLength);
@@ -259,8 +317,10 @@ void ZRK_Form_Config_Ainf_Route::stopItemChanged(QTableWidgetItem* item)
     default:
         break;
     }
+    // Showing the stops again makes new items: the one edited is gone after it.
+    const bool zoneChanged = item->column() == SC_Zone;
     showStops();
-    if (item->column() == SC_Zone)
+    if (zoneChanged)
         emit routesChanged();
 }
 
@@ -308,6 +368,12 @@ bool ZRK_Form_Config_Ainf_Route::addStop(int routeRow, int zoneId)
         if (m_message)
             //% "Выберите зону остановки в списке зон или на карте."
             m_message(qtTrId("gain_243"));
+        return false;
+    }
+    if (!hasZone(m_data->zones, zoneId)) {
+        if (m_message)
+            //% "Зоны %1 нет в списке зон."
+            m_message(qtTrId("gain_248").arg(zoneId));
         return false;
     }
     coreGeoStop s;

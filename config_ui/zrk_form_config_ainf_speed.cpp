@@ -1,18 +1,18 @@
 #include "config_ui/zrk_form_config_ainf_speed.h"
 
+#include "config_model/geo_fields.h"
 #include "ui_zrk_form_config_ainf_speed.h"
 
 #include <QHeaderView>
 
+#include <iterator>
+
 namespace {
 
-// The integer keys after "id" and "title", in the file's order.
-constexpr int coreSpeedZone::*kSpeedInts[] = { &coreSpeedZone::speed, &coreSpeedZone::gap,
-    &coreSpeedZone::limitsnd, &coreSpeedZone::activesnd, &coreSpeedZone::limitrep, &coreSpeedZone::activerep,
-    &coreSpeedZone::delay, &coreSpeedZone::limitbuzz };
-constexpr int kSpeedIntCount = int(sizeof(kSpeedInts) / sizeof(kSpeedInts[0]));
-constexpr int kColTitle = 1;
-constexpr int kColFirstInt = 2;
+// One column per key of the file's speed-zone record, in its order: the id (not edited), the title,
+// then the integers with the ranges the file allows.
+constexpr int kColumnCount = int(std::size(kGeoSpeedKeys));
+static_assert(kColumnCount == 10, "the headers in translateForm name every column");
 
 } // namespace
 
@@ -21,7 +21,7 @@ ZRK_Form_Config_Ainf_Speed::ZRK_Form_Config_Ainf_Speed(QWidget* parent)
     , ui(std::make_unique<Ui_ZRK_Designer_Form_Config_Ainf_Speed>())
 {
     ui->setupUi(this);
-    ui->tableWidget_Speeds->setColumnCount(kColFirstInt + kSpeedIntCount);
+    ui->tableWidget_Speeds->setColumnCount(kColumnCount);
     ui->tableWidget_Speeds->horizontalHeader()->setStretchLastSection(true);
     connect(
         ui->tableWidget_Speeds, &QTableWidget::itemChanged, this, &ZRK_Form_Config_Ainf_Speed::itemChanged);
@@ -81,12 +81,16 @@ void ZRK_Form_Config_Ainf_Speed::refresh()
     t->setRowCount(m_data->speeds.size());
     for (int row = 0; row < m_data->speeds.size(); ++row) {
         const coreSpeedZone& s = m_data->speeds.at(row);
-        auto* id = new QTableWidgetItem(QString::number(s.id));
-        id->setFlags(id->flags() & ~Qt::ItemIsEditable);
-        t->setItem(row, 0, id);
-        t->setItem(row, kColTitle, new QTableWidgetItem(s.title));
-        for (int i = 0; i < kSpeedIntCount; ++i)
-            t->setItem(row, kColFirstInt + i, new QTableWidgetItem(QString::number(s.*kSpeedInts[i])));
+        for (int column = 0; column < kColumnCount; ++column) {
+            const GeoKey<coreSpeedZone>& k = kGeoSpeedKeys[column];
+            auto* item = new QTableWidgetItem(
+                k.type == GeoKeyType::Text ? s.*k.text : QString::number(s.*k.integer));
+            if (k.integer == &coreSpeedZone::id)
+                item->setFlags(item->flags() & ~Qt::ItemIsEditable);
+            else if (k.type == GeoKeyType::Integer)
+                item->setToolTip(QStringLiteral("%1..%2").arg(k.min).arg(k.max));
+            t->setItem(row, column, item);
+        }
     }
     ui->spinBox_SpeedMode->setValue(m_data->defaults.speedmode);
     ui->lineEdit_DefSpeedOptions->setText(m_data->defaults.getDefSpeedsOptionsStr());
@@ -97,17 +101,20 @@ void ZRK_Form_Config_Ainf_Speed::itemChanged(QTableWidgetItem* item)
 {
     if (m_filling || item->row() >= m_data->speeds.size())
         return;
+    if (item->column() < 0 || item->column() >= kColumnCount)
+        return;
     coreSpeedZone& s = m_data->speeds[item->row()];
-    if (item->column() == kColTitle) {
-        s.title = item->text().left(zrkAinfCaps().maxNameLength);
-    } else if (item->column() >= kColFirstInt) {
+    const GeoKey<coreSpeedZone>& k = kGeoSpeedKeys[item->column()];
+    if (k.type == GeoKeyType::Text) {
+        s.*k.text = item->text().left(zrkAinfCaps().maxNameLength);
+    } else if (k.type == GeoKeyType::Integer && k.integer != &coreSpeedZone::id) {
         bool ok = false;
         const int v = item->text().trimmed().toInt(&ok);
-        int& field = s.*kSpeedInts[item->column() - kColFirstInt];
-        if (ok && v >= 0 && v <= 65535)
+        int& field = s.*k.integer;
+        if (ok && v >= k.min && v <= k.max)
             field = v;
         m_filling = true;
-        item->setText(QString::number(field)); // a value that is not a number goes back
+        item->setText(QString::number(field)); // a value that is not a number or out of range goes back
         m_filling = false;
     }
 }

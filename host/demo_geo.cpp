@@ -18,6 +18,9 @@
 
 namespace {
 
+// Events on entry and exit, and the heading of entry checked (the map draws it as an arrow).
+constexpr int kDemoZoneOptions = 0x01 | 0x02 | 0x40;
+
 QWidget* findByClass(const char* className)
 {
     for (QWidget* top : QApplication::topLevelWidgets()) {
@@ -109,7 +112,7 @@ bool ZrkDemoSession::runGeoSteps()
     int added = 0;
     if (!writeStopsKml(kml, 300)
         || !QMetaObject::invokeMethod(page, "loadFileKML", Q_RETURN_ARG(int, added), Q_ARG(QString, kml),
-            Q_ARG(int, 120), Q_ARG(int, 0), Q_ARG(int, 3))
+            Q_ARG(int, 120), Q_ARG(int, 45), Q_ARG(int, kDemoZoneOptions))
         || added != 300) {
         std::fprintf(stderr, "zrk-host: the geo page imported %d of 300 zones\n", added);
         return false;

@@ -5,12 +5,15 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPainter>
 #include <QPixmap>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdio>
+#include <limits>
 
 ZrkDemoSession::ZrkDemoSession(ZrkHostWindow& window, const QString& pluginFile, const QString& directory)
     : m_window(window)
@@ -50,6 +53,43 @@ bool ZrkDemoSession::grab(QWidget* widget, const QString& name)
     return true;
 }
 
+// The visible windows painted where they stand, in the order they were shown (as an X server
+// without a window manager stacks them) and the modal one on top: the screen as a person would
+// see it, for platforms that cannot grab the screen (offscreen).
+QPixmap ZrkDemoSession::composeWindows() const
+{
+    QList<QWidget*> windows;
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        if (w->isVisible() && !w->isMinimized())
+            windows << w;
+    }
+    const auto rank = [this](QWidget* w) {
+        return w == QApplication::activeModalWidget() ? std::numeric_limits<quint64>::max()
+                                                      : m_shownOrder.value(w, 0);
+    };
+    std::stable_sort(
+        windows.begin(), windows.end(), [&](QWidget* a, QWidget* b) { return rank(a) < rank(b); });
+    QRect area;
+    for (QWidget* w : qAsConst(windows))
+        area |= w->geometry();
+    if (area.isEmpty())
+        return {};
+    QPixmap canvas(area.size());
+    canvas.fill(Qt::darkGray);
+    QPainter painter(&canvas);
+    for (QWidget* w : qAsConst(windows))
+        painter.drawPixmap(w->geometry().topLeft() - area.topLeft(), w->grab());
+    return canvas;
+}
+
+bool ZrkDemoSession::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show && watched->isWidgetType()
+        && static_cast<QWidget*>(watched)->isWindow())
+        m_shownOrder.insert(static_cast<QWidget*>(watched), ++m_shown);
+    return false;
+}
+
 bool ZrkDemoSession::grabScreen(const QString& name)
 {
     settle(300);
@@ -59,7 +99,10 @@ bool ZrkDemoSession::grabScreen(const QString& name)
     const QString file
         = QDir(m_directory)
               .filePath(QStringLiteral("%1_%2.png").arg(++m_step, 2, 10, QLatin1Char('0')).arg(name));
-    if (!screen->grabWindow(0).save(file)) {
+    QPixmap shot = screen->grabWindow(0);
+    if (shot.isNull())
+        shot = composeWindows();
+    if (!shot.save(file)) {
         std::fprintf(stderr, "zrk-host: cannot write %s\n", qPrintable(file));
         return false;
     }
@@ -73,6 +116,7 @@ int ZrkDemoSession::run()
         std::fprintf(stderr, "zrk-host: cannot create %s\n", qPrintable(m_directory));
         return 1;
     }
+    qApp->installEventFilter(this);
     m_window.move(10, 10);
     m_window.show();
     settle(300);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
+#include <QPixmap>
 #include <QString>
 #include <QStringList>
 
@@ -33,7 +35,10 @@ private:
     bool runFieldSetSteps(QWidget* config);
     void settle(int ms = 150);
     bool grab(QWidget* widget, const QString& name);
+    // The screen; where the platform cannot grab it (offscreen), the visible windows composed.
     bool grabScreen(const QString& name);
+    QPixmap composeWindows() const;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     static QWidget* topLevel(const char* className);
     bool runGeoSteps();
 
@@ -42,4 +47,6 @@ private:
     QString m_directory;
     QStringList m_written;
     int m_step = 0;
+    QHash<QWidget*, quint64> m_shownOrder; // when each window was last shown
+    quint64 m_shown = 0;
 };

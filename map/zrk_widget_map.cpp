@@ -2,8 +2,13 @@
 
 #include "zrk_map_tiles.h"
 
+#include <QEvent>
+#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLabel>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
 #include <QVBoxLayout>
 #include <QWebChannel>
 #include <QWebEnginePage>
@@ -32,6 +37,80 @@ void keepWebEngineLoaded()
     for (const char* lib : { "libQt5WebEngineCore.so.5", "libQt5WebEngineWidgets.so.5",
              "libQt5WebChannel.so.5", "libQt5Quick.so.5", "libQt5Qml.so.5", "libQt5Positioning.so.5" })
         ::dlopen(lib, RTLD_NOW | RTLD_NOLOAD | RTLD_NODELETE);
+}
+
+// What the process answered when asked whether it can make an OpenGL context. Kept as a kind
+// rather than a text, so that the message follows a change of language.
+enum class GlAnswer
+{
+    Unknown,
+    Yes,
+    CannotCreate,
+    CannotMakeCurrent,
+    Forced
+};
+
+struct GlState
+{
+    GlAnswer answer = GlAnswer::Unknown;
+    QString forcedReason;
+};
+
+GlState& glState()
+{
+    static GlState state;
+    return state;
+}
+
+// Makes a context of the kind the web engine's compositor asks for, sharing with the application's
+// global context when there is one, and makes it current on an offscreen surface. Whatever context
+// was current before is current again afterwards.
+GlAnswer probeOpenGL()
+{
+    QOpenGLContext* previous = QOpenGLContext::currentContext();
+    QSurface* previousSurface = previous ? previous->surface() : nullptr;
+    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+    format.setDepthBufferSize(24);
+    format.setStencilBufferSize(8);
+    GlAnswer answer = GlAnswer::Yes;
+    {
+        QOpenGLContext context;
+        context.setShareContext(QOpenGLContext::globalShareContext());
+        context.setFormat(format);
+        if (!context.create()) {
+            answer = GlAnswer::CannotCreate;
+        } else {
+            QOffscreenSurface surface;
+            surface.setFormat(context.format());
+            surface.create();
+            if (!surface.isValid() || !context.makeCurrent(&surface))
+                answer = GlAnswer::CannotMakeCurrent;
+            else
+                context.doneCurrent();
+        }
+    }
+    if (previous && previousSurface)
+        previous->makeCurrent(previousSurface);
+    return answer;
+}
+
+QString reasonText(const GlState& state)
+{
+    const QString platform = QGuiApplication::platformName();
+    switch (state.answer) {
+    case GlAnswer::CannotCreate:
+        //% "не удалось создать контекст OpenGL (платформа «%1»)"
+        return qtTrId("gmap_003").arg(platform);
+    case GlAnswer::CannotMakeCurrent:
+        //% "контекст OpenGL создан, но не становится текущим (платформа «%1»)"
+        return qtTrId("gmap_004").arg(platform);
+    case GlAnswer::Forced:
+        return state.forcedReason;
+    case GlAnswer::Unknown:
+    case GlAnswer::Yes:
+        break;
+    }
+    return {};
 }
 
 } // namespace
@@ -76,16 +155,76 @@ QString json(const QJsonValue& value)
 
 QJsonObject zoneJson(const ZrkMapZone& z)
 {
-    return QJsonObject { { QStringLiteral("id"), z.id }, { QStringLiteral("name"), z.name },
+    QJsonObject o { { QStringLiteral("id"), z.id }, { QStringLiteral("name"), z.name },
         { QStringLiteral("lat"), z.lat }, { QStringLiteral("lon"), z.lon },
         { QStringLiteral("r"), z.radius } };
+    if (z.course >= 0)
+        o.insert(QStringLiteral("c"), z.course);
+    return o;
 }
 
 } // namespace
 
+bool ZRK_Widget_Map::isSupported(QString* reason)
+{
+    GlState& state = glState();
+    if (state.answer == GlAnswer::Unknown)
+        state.answer = probeOpenGL();
+    if (state.answer == GlAnswer::Yes)
+        return true;
+    if (reason)
+        *reason = reasonText(state);
+    return false;
+}
+
+void ZRK_Widget_Map::forceUnsupported(const QString& reason)
+{
+    GlState& state = glState();
+    state.forcedReason = reason;
+    state.answer = reason.isEmpty() ? GlAnswer::Unknown : GlAnswer::Forced;
+}
+
+QString ZRK_Widget_Map::unavailableText() const
+{
+    if (m_view)
+        return {};
+    QString reason;
+    if (isSupported(&reason)) // only when a test lifted its "no" after this map was made
+        reason = reasonText({ GlAnswer::CannotCreate, {} });
+    //% "Карта недоступна: %1.\nВсё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта."
+    return qtTrId("gmap_002").arg(reason);
+}
+
+void ZRK_Widget_Map::showUnavailable()
+{
+    m_unavailable = new QLabel(this);
+    m_unavailable->setObjectName(QStringLiteral("label_MapUnavailable"));
+    m_unavailable->setAlignment(Qt::AlignCenter);
+    m_unavailable->setWordWrap(true);
+    m_unavailable->setFrameShape(QFrame::StyledPanel);
+    m_unavailable->setMargin(12);
+    m_unavailable->setText(unavailableText());
+    layout()->addWidget(m_unavailable);
+}
+
+void ZRK_Widget_Map::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && m_unavailable)
+        m_unavailable->setText(unavailableText());
+    QWidget::changeEvent(event);
+}
+
 ZRK_Widget_Map::ZRK_Widget_Map(QWidget* parent)
     : QWidget(parent)
 {
+    // A map wants all the room its window can give.
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (!isSupported()) {
+        showUnavailable();
+        return;
+    }
     zrkInitMapResources();
     keepWebEngineLoaded();
     // The web engine's sandbox cannot start for root; without this the view stays blank there.
@@ -97,10 +236,6 @@ ZRK_Widget_Map::ZRK_Widget_Map(QWidget* parent)
     m_bridge = new ZRK_Map_Bridge(this);
     m_channel->registerObject(QStringLiteral("bridge"), m_bridge);
     m_view->page()->setWebChannel(m_channel);
-    // A map wants all the room its window can give.
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_view);
 
     connect(m_view, &QWebEngineView::loadStarted, this, &ZRK_Widget_Map::loadStarted);
@@ -127,6 +262,8 @@ void ZRK_Widget_Map::pageReady()
 
 void ZRK_Widget_Map::runScript(const QString& script, const std::function<void(const QVariant&)>& result)
 {
+    if (!m_view)
+        return; // no map: the page's calls are taken and dropped
     if (!m_ready) {
         m_pending.append({ script, result });
         return;
@@ -217,6 +354,8 @@ QString ZRK_Widget_Map::tileUrlFor(const QString& source)
 void ZRK_Widget_Map::setTileSource(const QString& source)
 {
     m_tileSource = source.trimmed();
+    if (!m_view)
+        return; // the folder handler lives on the web engine's profile: leave the engine alone
     const QString url = tileUrlFor(m_tileSource);
     runScript(QStringLiteral("zrkMap.setTiles(%1)")
                   .arg(QString::fromUtf8(QJsonDocument(QJsonArray { url }).toJson(QJsonDocument::Compact))

@@ -11,11 +11,13 @@
 
 #include <functional>
 
+class QLabel;
 class QWebEngineView;
 class QWebChannel;
 class ZRK_Map_Bridge;
 
-// One zone as the map shows it: a marker and a circle of its radius in metres.
+// One zone as the map shows it: a marker and a circle of its radius in metres, and for a zone that
+// checks the heading of entry an arrow of that course.
 struct ZrkMapZone
 {
     int id = 0;
@@ -23,6 +25,7 @@ struct ZrkMapZone
     double lat = 0.0;
     double lon = 0.0;
     int radius = 0;
+    int course = -1; // degrees clockwise from north, 0..359; negative: the zone does not check it
 };
 
 // A route as a line through the centres of its stops' zones, in stop order.
@@ -38,6 +41,11 @@ struct ZrkMapRoute
 // background is a coordinate grid drawn by the page. Zones go over in one batch (a JSON array),
 // which keeps ten thousand of them quick; markers cluster at small scales and shapes are drawn on a
 // canvas. Calls made before the page is ready are queued and run once it is.
+//
+// The web engine aborts the whole process when it cannot make an OpenGL context (a remote
+// session, a virtual machine without a graphics driver, Qt's offscreen platform). So before the
+// first web view the process is asked once whether it can make one; where it cannot, the map shows
+// a message in its place, creates no web view, and takes every call without doing anything.
 class ZRK_Widget_Map : public QWidget
 {
     Q_OBJECT
@@ -46,6 +54,17 @@ public:
     explicit ZRK_Widget_Map(QWidget* parent = nullptr);
     ~ZRK_Widget_Map() override;
 
+    // Whether this process can show the map; the answer is found once and kept. On "no", the
+    // reason (in the user's language) goes into *reason.
+    static bool isSupported(QString* reason = nullptr);
+    // Tests: from now on answer "no" with this reason (an empty reason asks the system again).
+    // Maps made before keep what they are.
+    static void forceUnsupported(const QString& reason);
+
+    // False when the map shows the "map unavailable" message instead of a web view.
+    bool isAvailable() const { return m_view != nullptr; }
+    // The message shown in place of the map, empty while the map is available.
+    QString unavailableText() const;
     bool isReady() const { return m_ready; }
 
     void setZones(const QVector<ZrkMapZone>& zones);
@@ -62,11 +81,13 @@ public:
     void setTileSource(const QString& source);
     QString tileSource() const { return m_tileSource; }
 
-    // Runs a script in the page once it is ready; the result comes back to the callback.
+    // Runs a script in the page once it is ready; the result comes back to the callback. Without
+    // a map the script is dropped and the callback never called.
     void runScript(const QString& script, const std::function<void(const QVariant&)>& result = {});
     // What the page shows (counts of zones, circles, route lines, track points, centre, zoom).
     void queryStats(const std::function<void(const QJsonObject&)>& result);
 
+    // Null when the map is not available.
     QWebEngineView* view() const { return m_view; }
 
     // The script that selects the tile layer of a source (the URL template, or empty for the grid).
@@ -85,11 +106,17 @@ signals:
     void zoneMoved(int id, double lat, double lon);
     void zoneResized(int id, int radius);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     friend class ZRK_Map_Bridge;
     void pageReady();
 
+    void showUnavailable();
+
     QWebEngineView* m_view = nullptr;
+    QLabel* m_unavailable = nullptr;
     QWebChannel* m_channel = nullptr;
     ZRK_Map_Bridge* m_bridge = nullptr;
     bool m_ready = false;

@@ -15,7 +15,7 @@ for bin in "$build"/fuzz/fuzz_*; do
   [ -d "fuzz/corpus/$name" ] && cp -r "fuzz/corpus/$name/." "$work/"
   echo "-- $name (${seconds}s)"
   if ! "$bin" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -print_final_stats=0 \
-       -artifact_prefix="$build/fuzz/$name-" "$work" > "$build/fuzz/$name.log" 2>&1; then
+       -artifact_prefix="$PWD/$build/fuzz/$name-" "$work" > "$build/fuzz/$name.log" 2>&1; then
     echo "FAIL: $name (see $build/fuzz/$name.log)"; tail -40 "$build/fuzz/$name.log"; status=1
   else
     grep -E '^#[0-9]+.*DONE' "$build/fuzz/$name.log" | tail -1 || true

@@ -1,4 +1,5 @@
 // zrk-tool geo: the geo-information file and KML through the same reader and writer as the page.
+#include "config_model/geo_fields.h"
 #include "config_model/geo_file.h"
 #include "config_model/kml_reader.h"
 #include "tools/commands.h"
@@ -8,7 +9,8 @@
 
 const char* const kGeoUsage
     = "  geo check FILE                  read a geo file, print its format, counts and limits\n"
-      "  geo normalize IN OUT [--full]   read IN, write it to OUT in the current format\n"
+      "  geo normalize IN OUT [--full]   read IN, write it to OUT in the current format, keeping\n"
+      "                                  its Sounds and Config; --full adds them when it has none\n"
       "  geo from-kml KML OUT            the zones a KML import makes (radius 100 m, angle 0,\n"
       "                                  default options), written as a full geo file\n"
       "  geo to-kml GEO OUT              zones as placemarks with their radius, routes as lines\n"
@@ -46,11 +48,15 @@ int check(const QString& path, QTextStream& out, QTextStream& err)
     }
     out << "format: " << formatName(info.format) << " ver " << info.version
         << (info.hasConfig ? " (full)" : " (lists only)") << '\n';
-    out << "zones: " << data.zones.size() << " of " << caps.maxZones << '\n';
-    out << "routes: " << data.routes.size() << " of " << caps.maxRoutes << ", stops " << stops << " (at most "
-        << maxStops << " in a route, limit " << caps.maxStopsPerRoute << ")\n";
-    out << "speed zones: " << data.speeds.size() << " of " << caps.maxSpeedZones << '\n';
-    out << "sounds: " << data.sounds.size() << " of " << caps.maxSounds << '\n';
+    const auto count = [&](const GeoRecordKind& kind, int n) -> QTextStream& {
+        return out << kind.toolName << ": " << n << " of " << caps.*kind.limit;
+    };
+    count(kGeoZoneKind, data.zones.size()) << '\n';
+    count(kGeoRouteKind, data.routes.size())
+        << ", " << kGeoStopKind.toolName << ' ' << stops << " (at most " << maxStops << " in a route, limit "
+        << caps.*kGeoStopKind.limit << ")\n";
+    count(kGeoSpeedKind, data.speeds.size()) << '\n';
+    count(kGeoSoundKind, data.sounds.size()) << '\n';
     if (info.hasConfig)
         out << "options: " << data.defaults.packedOptions() << " (routes "
             << data.defaults.getDefRouteOptionsStr() << ", speeds " << data.defaults.getDefSpeedsOptionsStr()
@@ -100,11 +106,13 @@ int runGeoCommand(const QString& name, const QStringList& argsIn, QTextStream& o
     if (sub == QLatin1String("normalize")) {
         coreAinfData data;
         QString error;
-        if (!readFileParamGeo(args[1], &data, &error)) {
+        GeoFileReadInfo info;
+        if (!readFileParamGeo(args[1], &data, &error, &info)) {
             err << "zrk-tool geo normalize: " << error << '\n';
             return 1;
         }
-        return writeGeo(sub, args[2], data, full, err) ? 0 : 1;
+        // What the file had stays; --full only adds.
+        return writeGeo(sub, args[2], data, full || info.isFull(), err) ? 0 : 1;
     }
     if (sub == QLatin1String("from-kml")) {
         const KmlImportResult r = importKml(args[1], kKmlDefaultSize, kKmlDefaultAngle, kmlDefaultGob());
@@ -120,6 +128,13 @@ int runGeoCommand(const QString& name, const QStringList& argsIn, QTextStream& o
         if (r.nonPoints)
             out << "not points (skipped): " << r.nonPoints << " ("
                 << r.nonPointNames.join(QStringLiteral(", ")) << ")\n";
+        if (!r.badPlacemarks.isEmpty()) {
+            out << "bad coordinates (skipped): " << r.badPlacemarks.size() << '\n';
+            for (const QString& line : r.badPlacemarks)
+                out << "  " << line << '\n';
+        }
+        if (!r.damage.isEmpty())
+            out << "damaged: " << r.damage << '\n';
         return 0;
     }
     if (sub == QLatin1String("to-kml")) {

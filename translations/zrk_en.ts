@@ -146,8 +146,8 @@ Built %7</translation>
         <translation>the root element is &quot;%1&quot;, not &quot;kml&quot;</translation>
     </message>
     <message id="geod_045">
-        <source>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</source>
-        <translation>placemark &quot;%1&quot;: the coordinates &quot;%2&quot; cannot be read</translation>
+        <source>метка &quot;%1&quot;: координаты &quot;%2&quot; не прочитаны: %3</source>
+        <translation>placemark &quot;%1&quot;: the coordinates &quot;%2&quot; cannot be read: %3</translation>
     </message>
     <message id="geod_046">
         <source>строка %1: %2</source>
@@ -4036,6 +4036,96 @@ Settings that change on the terminal: %2. Write?</translation>
     <message id="tmiw_120">
         <source>Текущая запись из %1 байт пропущена: она короче 101 байта</source>
         <translation>Current record of %1 bytes ignored: shorter than 101 bytes</translation>
+    </message>
+    <message id="gmap_003">
+        <source>не удалось создать контекст OpenGL (платформа «%1»)</source>
+        <translation>an OpenGL context cannot be created (platform &quot;%1&quot;)</translation>
+    </message>
+    <message id="gmap_004">
+        <source>контекст OpenGL создан, но не становится текущим (платформа «%1»)</source>
+        <translation>an OpenGL context was created but cannot be made current (platform &quot;%1&quot;)</translation>
+    </message>
+    <message id="gmap_002">
+        <source>Карта недоступна: %1.
+Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</source>
+        <translation>Map unavailable: %1.
+Everything else works as usual; on a workstation with OpenGL the map appears here.</translation>
+    </message>
+    <message id="geod_065">
+        <source>%1 ссылается на несуществующую геозону %2.</source>
+        <translation>%1 refers to geo-zone %2, which does not exist.</translation>
+    </message>
+    <message id="geod_067">
+        <source>%1: &quot;%2&quot; = %3 вне диапазона %4..%5.</source>
+        <translation>%1: &quot;%2&quot; = %3 is outside %4..%5.</translation>
+    </message>
+    <message id="geod_060">
+        <source>Геозона %1</source>
+        <translation>Geo-zone %1</translation>
+    </message>
+    <message id="geod_061">
+        <source>Маршрут %1</source>
+        <translation>Route %1</translation>
+    </message>
+    <message id="geod_062">
+        <source>Маршрут %1, остановка %2</source>
+        <translation>Route %1, stop %2</translation>
+    </message>
+    <message id="geod_066">
+        <source>В маршруте %3 остановок: %1 (не более %2 на маршрут).</source>
+        <translation>Route %3 has %1 stops (at most %2 a route).</translation>
+    </message>
+    <message id="geod_063">
+        <source>Скоростная зона %1</source>
+        <translation>Speed zone %1</translation>
+    </message>
+    <message id="geod_064">
+        <source>Звуковой файл %1</source>
+        <translation>Sound file %1</translation>
+    </message>
+    <message id="geod_068">
+        <source>%1: &quot;%2&quot; = &quot;%3&quot; не является координатой</source>
+        <translation>%1: &quot;%2&quot; = &quot;%3&quot; is not a coordinate</translation>
+    </message>
+    <message id="geod_069">
+        <source>нужны долгота и широта через запятую</source>
+        <translation>longitude and latitude separated by a comma are needed</translation>
+    </message>
+    <message id="geod_070">
+        <source>долгота или широта не число</source>
+        <translation>the longitude or the latitude is not a number</translation>
+    </message>
+    <message id="geod_071">
+        <source>широта вне -90..90 или долгота вне -180..180</source>
+        <translation>latitude outside -90..90 or longitude outside -180..180</translation>
+    </message>
+    <message id="geod_072">
+        <source>файл повреждён (%1); метки после этого места не прочитаны</source>
+        <translation>the file is damaged (%1); placemarks after that point were not read</translation>
+    </message>
+    <message id="gain_298">
+        <source>Меток без точки (линии, полигоны): %1, они пропущены: %2</source>
+        <translation>Placemarks without a point (lines, polygons): %1, skipped: %2</translation>
+    </message>
+    <message id="gain_299">
+        <source>Меток с неверными координатами: %1, зоны для них не добавлены:</source>
+        <translation>Placemarks with bad coordinates: %1, no zones were added for them:</translation>
+    </message>
+    <message id="gain_297">
+        <source>Добавлено зон: %1.</source>
+        <translation>Zones added: %1.</translation>
+    </message>
+    <message id="gain_247">
+        <source>Зона остановки: одна из зон списка</source>
+        <translation>The stop&apos;s zone: one of the zones in the list</translation>
+    </message>
+    <message id="gain_246">
+        <source>Зоны &quot;%1&quot; нет в списке зон; остановка осталась у зоны %2.</source>
+        <translation>There is no zone &quot;%1&quot; in the zone list; the stop stays at zone %2.</translation>
+    </message>
+    <message id="gain_248">
+        <source>Зоны %1 нет в списке зон.</source>
+        <translation>There is no zone %1 in the zone list.</translation>
     </message>
 </context>
 </TS>

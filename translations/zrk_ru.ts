@@ -146,8 +146,8 @@
         <translation>корневой элемент &quot;%1&quot;, а не &quot;kml&quot;</translation>
     </message>
     <message id="geod_045">
-        <source>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</source>
-        <translation>метка &quot;%1&quot;: не удалось прочитать координаты &quot;%2&quot;</translation>
+        <source>метка &quot;%1&quot;: координаты &quot;%2&quot; не прочитаны: %3</source>
+        <translation>метка &quot;%1&quot;: координаты &quot;%2&quot; не прочитаны: %3</translation>
     </message>
     <message id="geod_046">
         <source>строка %1: %2</source>
@@ -4036,6 +4036,96 @@
     <message id="tmiw_120">
         <source>Текущая запись из %1 байт пропущена: она короче 101 байта</source>
         <translation>Текущая запись из %1 байт пропущена: она короче 101 байта</translation>
+    </message>
+    <message id="gmap_003">
+        <source>не удалось создать контекст OpenGL (платформа «%1»)</source>
+        <translation>не удалось создать контекст OpenGL (платформа «%1»)</translation>
+    </message>
+    <message id="gmap_004">
+        <source>контекст OpenGL создан, но не становится текущим (платформа «%1»)</source>
+        <translation>контекст OpenGL создан, но не становится текущим (платформа «%1»)</translation>
+    </message>
+    <message id="gmap_002">
+        <source>Карта недоступна: %1.
+Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</source>
+        <translation>Карта недоступна: %1.
+Всё остальное работает как обычно; на рабочем месте с OpenGL здесь будет карта.</translation>
+    </message>
+    <message id="geod_065">
+        <source>%1 ссылается на несуществующую геозону %2.</source>
+        <translation>%1 ссылается на несуществующую геозону %2.</translation>
+    </message>
+    <message id="geod_067">
+        <source>%1: &quot;%2&quot; = %3 вне диапазона %4..%5.</source>
+        <translation>%1: &quot;%2&quot; = %3 вне диапазона %4..%5.</translation>
+    </message>
+    <message id="geod_060">
+        <source>Геозона %1</source>
+        <translation>Геозона %1</translation>
+    </message>
+    <message id="geod_061">
+        <source>Маршрут %1</source>
+        <translation>Маршрут %1</translation>
+    </message>
+    <message id="geod_062">
+        <source>Маршрут %1, остановка %2</source>
+        <translation>Маршрут %1, остановка %2</translation>
+    </message>
+    <message id="geod_066">
+        <source>В маршруте %3 остановок: %1 (не более %2 на маршрут).</source>
+        <translation>В маршруте %3 остановок: %1 (не более %2 на маршрут).</translation>
+    </message>
+    <message id="geod_063">
+        <source>Скоростная зона %1</source>
+        <translation>Скоростная зона %1</translation>
+    </message>
+    <message id="geod_064">
+        <source>Звуковой файл %1</source>
+        <translation>Звуковой файл %1</translation>
+    </message>
+    <message id="geod_068">
+        <source>%1: &quot;%2&quot; = &quot;%3&quot; не является координатой</source>
+        <translation>%1: &quot;%2&quot; = &quot;%3&quot; не является координатой</translation>
+    </message>
+    <message id="geod_069">
+        <source>нужны долгота и широта через запятую</source>
+        <translation>нужны долгота и широта через запятую</translation>
+    </message>
+    <message id="geod_070">
+        <source>долгота или широта не число</source>
+        <translation>долгота или широта не число</translation>
+    </message>
+    <message id="geod_071">
+        <source>широта вне -90..90 или долгота вне -180..180</source>
+        <translation>широта вне -90..90 или долгота вне -180..180</translation>
+    </message>
+    <message id="geod_072">
+        <source>файл повреждён (%1); метки после этого места не прочитаны</source>
+        <translation>файл повреждён (%1); метки после этого места не прочитаны</translation>
+    </message>
+    <message id="gain_298">
+        <source>Меток без точки (линии, полигоны): %1, они пропущены: %2</source>
+        <translation>Меток без точки (линии, полигоны): %1, они пропущены: %2</translation>
+    </message>
+    <message id="gain_299">
+        <source>Меток с неверными координатами: %1, зоны для них не добавлены:</source>
+        <translation>Меток с неверными координатами: %1, зоны для них не добавлены:</translation>
+    </message>
+    <message id="gain_297">
+        <source>Добавлено зон: %1.</source>
+        <translation>Добавлено зон: %1.</translation>
+    </message>
+    <message id="gain_247">
+        <source>Зона остановки: одна из зон списка</source>
+        <translation>Зона остановки: одна из зон списка</translation>
+    </message>
+    <message id="gain_246">
+        <source>Зоны &quot;%1&quot; нет в списке зон; остановка осталась у зоны %2.</source>
+        <translation>Зоны &quot;%1&quot; нет в списке зон; остановка осталась у зоны %2.</translation>
+    </message>
+    <message id="gain_248">
+        <source>Зоны %1 нет в списке зон.</source>
+        <translation>Зоны %1 нет в списке зон.</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,7 @@
 
   var ZONE_STYLE = { color: '#1f6fb2', weight: 1, fillColor: '#1f6fb2', fillOpacity: 0.15 };
   var SELECTED_STYLE = { color: '#d0421b', weight: 2, fillColor: '#d0421b', fillOpacity: 0.2 };
+  var COURSE_STYLE = { color: '#0d3f6b', weight: 2, opacity: 0.9 };
   var ROUTE_COLOURS = ['#2a8f3a', '#8a2be2', '#c27c0e', '#0b7a8c', '#b0306a'];
   var METRES_PER_DEGREE = 111320;
 
@@ -79,13 +80,51 @@
                        html: String(id), iconSize: [18, 18] });
   }
 
+  // A point at a distance (metres) and a heading (degrees clockwise from north) from another.
+  function offsetPoint(from, metres, degrees) {
+    var a = degrees * Math.PI / 180;
+    var cos = Math.max(Math.cos(from.lat * Math.PI / 180), 1e-6);
+    return L.latLng(from.lat + metres * Math.cos(a) / METRES_PER_DEGREE,
+                    from.lng + metres * Math.sin(a) / (METRES_PER_DEGREE * cos));
+  }
+
+  // The entry course of a zone that checks it ("c", degrees, absent or negative otherwise): an
+  // arrow from the centre to the edge, pointing the way a vehicle must move to count as entering.
+  function courseLines(centre, radius, course) {
+    var tip = offsetPoint(centre, radius, course);
+    var wing = radius * 0.3;
+    return [[centre, tip], [offsetPoint(tip, wing, course + 150), tip, offsetPoint(tip, wing, course - 150)]];
+  }
+
+  function hasCourse(d) {
+    return typeof d.c === 'number' && d.c >= 0;
+  }
+
+  // Adds, moves or drops the zone's course arrow after its data, centre or radius changed.
+  function placeCourse(z) {
+    if (!hasCourse(z.data)) {
+      if (z.course) {
+        circleLayer.removeLayer(z.course);
+        z.course = null;
+      }
+      return;
+    }
+    var lines = courseLines(z.circle.getLatLng(), z.circle.getRadius(), z.data.c);
+    if (z.course) {
+      z.course.setLatLngs(lines);
+    } else {
+      z.course = L.polyline(lines, L.extend({ renderer: renderer, interactive: false }, COURSE_STYLE));
+      circleLayer.addLayer(z.course);
+    }
+  }
+
   function makeZone(z) {
     var ll = [z.lat, z.lon];
     var circle = L.circle(ll, L.extend({ radius: z.r, renderer: renderer }, ZONE_STYLE));
     var marker = L.marker(ll, { icon: zoneIcon(z.id, false), title: z.name });
     circle.on('click', function (e) { L.DomEvent.stopPropagation(e); call('onZoneClicked', z.id); });
     marker.on('click', function () { call('onZoneClicked', z.id); });
-    return { data: z, circle: circle, marker: marker };
+    return { data: z, circle: circle, marker: marker, course: null };
   }
 
   // With many zones, circles a pixel wide say nothing at small scales and cost every redraw there:
@@ -126,6 +165,7 @@
       zones[list[i].id] = z;
       markers.push(z.marker);
       circleLayer.addLayer(z.circle);
+      placeCourse(z);
     }
     zoneCount = list.length;
     updateCircleVisibility();
@@ -156,6 +196,7 @@
       ++zoneCount;
       circleLayer.addLayer(z.circle);
       clusters.addLayer(z.marker);
+      placeCourse(z);
     } else {
       z.data = d;
       z.circle.setLatLng([d.lat, d.lon]);
@@ -164,6 +205,7 @@
       z.marker.setLatLng([d.lat, d.lon]);
       z.marker.options.title = d.name;
       clusters.addLayer(z.marker);
+      placeCourse(z);
       if (selected && selected.id === d.id)
         placeHandles(z);
     }
@@ -178,6 +220,8 @@
       deselect();
     clusters.removeLayer(z.marker);
     circleLayer.removeLayer(z.circle);
+    if (z.course)
+      circleLayer.removeLayer(z.course);
     delete zones[id];
     --zoneCount;
     redrawRoutes();
@@ -229,6 +273,7 @@
       var ll = centre.getLatLng();
       z.circle.setLatLng(ll);
       edge.setLatLng(edgePoint(ll, z.circle.getRadius()));
+      placeCourse(z);
     });
     centre.on('dragend', function () {
       var ll = centre.getLatLng();
@@ -244,6 +289,7 @@
       var r = Math.max(1, z.circle.getLatLng().distanceTo(edge.getLatLng()));
       z.circle.setRadius(r);
       showRadius(r);
+      placeCourse(z);
     });
     edge.on('dragend', function () {
       var r = Math.max(1, Math.round(z.circle.getRadius()));
@@ -317,11 +363,16 @@
 
   // What the page shows, for the widget's owner and its tests.
   function stats() {
-    var routeLines = 0, routePoints = 0, circles = 0;
+    var routeLines = 0, routePoints = 0, circles = 0, courses = 0;
     routeLayer.eachLayer(function (l) { ++routeLines; routePoints += l.getLatLngs().length; });
-    circleLayer.eachLayer(function () { ++circles; });
+    circleLayer.eachLayer(function (l) {
+      if (l instanceof L.Circle)
+        ++circles;
+      else
+        ++courses;
+    });
     var c = map.getCenter();
-    return { zones: zoneCount, circles: circles, clusterMarkers: clusters.getLayers().length,
+    return { zones: zoneCount, circles: circles, courses: courses, clusterMarkers: clusters.getLayers().length,
              routeLines: routeLines, routePoints: routePoints,
              trackPoints: Math.max(0, trackLayer.getLayers().length - 1),
              selected: selected ? selected.id : 0, zoom: map.getZoom(), lat: c.lat, lon: c.lng,
@@ -333,7 +384,9 @@
     if (!z)
       return null;
     var ll = z.circle.getLatLng();
-    return { id: id, lat: ll.lat, lon: ll.lng, r: z.circle.getRadius(), name: z.data.name };
+    var tip = z.course ? z.course.getLatLngs()[0][1] : null;
+    return { id: id, lat: ll.lat, lon: ll.lng, r: z.circle.getRadius(), name: z.data.name,
+             course: hasCourse(z.data) ? z.data.c : null, courseTip: tip ? [tip.lat, tip.lng] : null };
   }
 
   window.zrkMap = {

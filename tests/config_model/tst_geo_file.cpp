@@ -1,6 +1,7 @@
 // Geo data, the geo file, GeoZones.cfg and zrk-tool geo.
 #include "../common/tool_run.h"
 #include "config_files.h"
+#include "config_model/geo_fields.h"
 #include "config_model/geo_file.h"
 #include "translations/catalogue.h"
 
@@ -95,6 +96,7 @@ private slots:
     void refusedFilesLeaveDataAlone_data();
     void refusedFilesLeaveDataAlone();
     void limits();
+    void everyKeyIsWrittenReadAndChecked();
     void cardConfigFile();
     void tool();
 };
@@ -240,20 +242,32 @@ void tst_GeoFile::refusedFilesLeaveDataAlone_data()
                                           << QStringLiteral("маршрут 1 объявляет остановок: 2");
     QTest::newRow("bad latitude") << QByteArray(
         "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"north\" lon=\"2\"/></Zones></AINF>")
-                                  << QStringLiteral("геозона 5: \"north\"");
+                                  << QStringLiteral("Геозона 5: \"lat\" = \"north\" не является координатой");
     QTest::newRow("off the globe") << QByteArray(
         "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"5\" lat=\"91\" lon=\"2\"/></Zones></AINF>")
-                                   << QStringLiteral("вне земного шара");
+                                   << QStringLiteral("Геозона 5: \"lat\" = 91 вне диапазона -90..90.");
     QTest::newRow("duplicate id") << QByteArray(
         "<AINF ver=\"3\"><Zones count=\"2\"><Zone id=\"5\" lat=\"1\" lon=\"2\"/>"
         "<Zone id=\"5\" lat=\"1\" lon=\"2\"/></Zones></AINF>")
                                   << QStringLiteral("встречается дважды");
-    QTest::newRow("stop without zone") << QByteArray(
-        "<AINF ver=\"3\"><Routes count=\"1\"><Route id=\"2\" countStop=\"1\"><Stop zoneid=\"9\"/>"
-        "</Route></Routes></AINF>") << QStringLiteral("несуществующую геозону 9");
+    QTest::newRow("stop without zone")
+        << QByteArray(
+               "<AINF ver=\"3\"><Routes count=\"1\"><Route id=\"2\" countStop=\"1\"><Stop zoneid=\"9\"/>"
+               "</Route></Routes></AINF>")
+        << QStringLiteral("Маршрут 2, остановка 1 ссылается на несуществующую геозону 9.");
+    QTest::newRow("angle past 359") << QByteArray("<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"4\" "
+                                                  "lat=\"1\" lon=\"2\" angle=\"360\"/></Zones></AINF>")
+                                    << QStringLiteral("Геозона 4: \"angle\" = 360 вне диапазона 0..359.");
+    QTest::newRow("stop type unknown") << QByteArray(
+        "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\"/></Zones><Routes count=\"1\">"
+        "<Route id=\"3\" countStop=\"2\"><Stop zoneid=\"1\"/><Stop zoneid=\"1\" "
+        "type=\"7\"/></Route></Routes></AINF>")
+                                       << QStringLiteral(
+                                              "Маршрут 3, остановка 2: \"type\" = 7 вне диапазона 0..2.");
     QTest::newRow("radius below limit") << QByteArray(
         "<AINF ver=\"3\"><Zones count=\"1\"><Zone id=\"1\" lat=\"1\" lon=\"2\" size=\"9\"/></Zones></AINF>")
-                                        << QStringLiteral("радиус 9 м");
+                                        << QStringLiteral(
+                                               "Геозона 1: \"size\" = 9 вне диапазона 10..100000.");
     QByteArray routes = "<AINF ver=\"3\"><Routes count=\"101\">";
     for (int i = 0; i < 101; ++i)
         routes += "<Route id=\"" + QByteArray::number(i) + "\"/>";
@@ -309,6 +323,86 @@ void tst_GeoFile::limits()
     QVERIFY(checkAinfLimits(d, tight).contains(QStringLiteral("скоростных зон: 2")));
 }
 
+namespace {
+
+// Every row of one kind: a value at each end of its range is written and read back, one past it is
+// refused by the check that opening, saving and the card write share, naming the record and key.
+template <typename R, std::size_t N>
+void walkKeys(const GeoKey<R> (&keys)[N], R& (*record)(coreAinfData&), const QString& who)
+{
+    for (const GeoKey<R>& k : keys) {
+        const QString key = QLatin1String(k.key);
+        if (k.type == GeoKeyType::Text) {
+            coreAinfData d = smallSet();
+            record(d).*k.text = QStringLiteral("«%1» & <x>").arg(key);
+            coreAinfData back;
+            QVERIFY2(readFileParamGeoText(renderFileParamGeo(d, true), key, &back), qPrintable(key));
+            QCOMPARE(record(back).*k.text, record(d).*k.text);
+            continue;
+        }
+        // Zone and stop ids are what the routes refer to: those rows move in step.
+        if ((std::is_same_v<R, coreGeoZone> && key == QLatin1String("id")) || key == QLatin1String("zoneid"))
+            continue;
+        for (int end : { k.min, k.max }) {
+            coreAinfData d = smallSet();
+            if (k.type == GeoKeyType::Integer)
+                record(d).*k.integer = end;
+            else
+                record(d).*k.coordinate = end;
+            QVERIFY2(checkAinf(d).isEmpty(), qPrintable(key + ": " + checkAinf(d)));
+            coreAinfData back;
+            QString error;
+            QVERIFY2(
+                readFileParamGeoText(renderFileParamGeo(d, true), key, &back, &error), qPrintable(error));
+            QCOMPARE(renderFileParamGeo(back, true), renderFileParamGeo(d, true));
+        }
+        for (int past : { k.min - 1, k.max + 1 }) {
+            coreAinfData d = smallSet();
+            if (k.type == GeoKeyType::Integer)
+                record(d).*k.integer = past;
+            else
+                record(d).*k.coordinate = past;
+            const QString problem = checkAinf(d);
+            QVERIFY2(
+                problem.startsWith(who) && problem.contains(QStringLiteral("\"%1\" = %2").arg(key).arg(past)),
+                qPrintable(key + ": " + problem));
+            QVERIFY(!readFileParamGeoText(renderFileParamGeo(d, true), key, &d));
+        }
+    }
+}
+
+coreGeoZone& secondZone(coreAinfData& d)
+{
+    return d.zones[1];
+}
+coreGeoRoute& firstRoute(coreAinfData& d)
+{
+    return d.routes[0];
+}
+coreGeoStop& secondStop(coreAinfData& d)
+{
+    return d.routes[0].stops[1];
+}
+coreSpeedZone& secondSpeed(coreAinfData& d)
+{
+    return d.speeds[1];
+}
+coreGeoSound& firstSound(coreAinfData& d)
+{
+    return d.sounds[0];
+}
+
+} // namespace
+
+void tst_GeoFile::everyKeyIsWrittenReadAndChecked()
+{
+    walkKeys(kGeoZoneKeys, &secondZone, QStringLiteral("Геозона 3"));
+    walkKeys(kGeoRouteKeys, &firstRoute, QStringLiteral("Маршрут "));
+    walkKeys(kGeoStopKeys, &secondStop, QStringLiteral("Маршрут 7, остановка 2"));
+    walkKeys(kGeoSpeedKeys, &secondSpeed, QStringLiteral("Скоростная зона "));
+    walkKeys(kGeoSoundKeys, &firstSound, QStringLiteral("Звуковой файл "));
+}
+
 void tst_GeoFile::cardConfigFile()
 {
     QTemporaryDir dir;
@@ -341,12 +435,31 @@ void tst_GeoFile::tool()
                    "in a route, limit 200)\nspeed zones: 2 of 100\nsounds: 2 of 500\noptions: 3146369 "
                    "(routes 10000001, speeds 01000000, zones 00001100)\n"));
 
-    const QString lists = dir.filePath(QStringLiteral("lists.xml"));
-    QCOMPARE(runZrkTool({ "geo", "normalize", geo, lists }).code, 0);
-    QCOMPARE(readFile(lists), golden("geo/small_lists.xml"));
-    const QString full = dir.filePath(QStringLiteral("full.xml"));
-    QCOMPARE(runZrkTool({ "geo", "normalize", geo, full, "--full" }).code, 0);
-    QCOMPARE(readFile(full), golden("geo/small_full.xml"));
+    // Normalizing keeps what the file had: a full file stays full, lists stay lists; --full adds
+    // the sections (the model's defaults, no sounds) to a file without them.
+    const QString out = dir.filePath(QStringLiteral("out.xml"));
+    QCOMPARE(runZrkTool({ "geo", "normalize", geo, out }).code, 0);
+    QCOMPARE(readFile(out), golden("geo/small_full.xml"));
+    QCOMPARE(runZrkTool({ "geo", "normalize", geo, out, "--full" }).code, 0);
+    QCOMPARE(readFile(out), golden("geo/small_full.xml"));
+    const QString lists = dataFile("geo/small_lists.xml");
+    QCOMPARE(runZrkTool({ "geo", "normalize", lists, out }).code, 0);
+    QCOMPARE(readFile(out), golden("geo/small_lists.xml"));
+    QCOMPARE(runZrkTool({ "geo", "normalize", lists, out, "--full" }).code, 0);
+    coreAinfData listsOnly = smallSet();
+    listsOnly.sounds.clear();
+    listsOnly.defaults = coreAinfDefaults();
+    QCOMPARE(readFile(out), renderFileParamGeo(listsOnly, true));
+    // A file with sounds but no defaults is a full one too: its sounds stay.
+    coreAinfData soundsOnly = smallSet();
+    writeFile(out, renderFileParamGeo(soundsOnly, true).replace(QByteArray("\t<Config"), QByteArray("\t<X")));
+    const QString again = dir.filePath(QStringLiteral("again.xml"));
+    QCOMPARE(runZrkTool({ "geo", "normalize", out, again }).code, 0);
+    coreAinfData read;
+    GeoFileReadInfo info;
+    QVERIFY(readFileParamGeo(again, &read, nullptr, &info));
+    QVERIFY(info.hasSounds && info.hasConfig);
+    QCOMPARE(read.sounds.size(), 2);
 
     // geo -> KML -> geo keeps names, positions and radii.
     const QString kml = dir.filePath(QStringLiteral("zones.kml"));

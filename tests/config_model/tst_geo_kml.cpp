@@ -18,6 +18,8 @@ private slots:
     void placemarkForms();
     void refused_data();
     void refused();
+    void goodPlacemarksOfABadFile_data();
+    void goodPlacemarksOfABadFile();
     void importIdsAndLimits();
     void writtenKmlReadsBack();
 };
@@ -80,6 +82,13 @@ void tst_GeoKml::placemarkForms_data()
     QTest::newRow("spaces around commas, alt") << QByteArray(
         "<Placemark><Point><coordinates>\n\t 37.5 ,\n 55.25 , 12 \n</coordinates></Point></Placemark>")
                                                << "" << 55.25 << 37.5 << 0;
+    QTest::newRow("values past the altitude")
+        << QByteArray("<Placemark><name>X</name><Point><coordinates>37.5,55.25,12,7</coordinates></Point>"
+                      "</Placemark>")
+        << "X" << 55.25 << 37.5 << 0;
+    QTest::newRow("altitude not a number")
+        << QByteArray("<Placemark><Point><coordinates>37.5,55.25,high</coordinates></Point></Placemark>")
+        << "" << 55.25 << 37.5 << 0;
     QTest::newRow("first of several tuples")
         << QByteArray("<Placemark><Point><coordinates>1,2 3,4</coordinates></Point></Placemark>") << "" << 2.0
         << 1.0 << 0;
@@ -122,8 +131,7 @@ void tst_GeoKml::refused_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("empty") << QByteArray() << QStringLiteral("файл пуст");
     QTest::newRow("not kml") << QByteArray("<gpx><wpt/></gpx>") << QStringLiteral("не \"kml\"");
-    QTest::newRow("truncated") << QByteArray("<kml><Document><Placemark><name>A</na")
-                               << QStringLiteral("строка 1");
+    QTest::newRow("not XML before the root") << QByteArray("<<kml>") << QStringLiteral("строка 1");
     QTest::newRow("entity bomb") << QByteArray(
         "<?xml version=\"1.0\"?><!DOCTYPE kml [<!ENTITY a \"aaaaaaaa\">"
         "<!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;\">]><kml><Placemark><name>&b;"
@@ -131,15 +139,6 @@ void tst_GeoKml::refused_data()
                                  << QStringLiteral("DTD");
     QTest::newRow("external entity") << QByteArray("<!DOCTYPE kml SYSTEM \"file:///etc/passwd\"><kml/>")
                                      << QStringLiteral("DTD");
-    QTest::newRow("deep") << "<kml>" + QByteArray("<Folder>").repeated(100)
-            + QByteArray("</Folder>").repeated(100)
-            + "</kml>" << QStringLiteral("глубже 64");
-    QTest::newRow("bad coordinates") << QByteArray(
-        "<kml><Placemark><name>B</name><Point><coordinates>east,north</coordinates></Point></Placemark>"
-        "</kml>") << QStringLiteral("метка \"B\"");
-    QTest::newRow("latitude off the globe")
-        << QByteArray("<kml><Placemark><Point><coordinates>10,95</coordinates></Point></Placemark></kml>")
-        << QStringLiteral("координаты \"10,95\"");
 }
 
 void tst_GeoKml::refused()
@@ -154,6 +153,70 @@ void tst_GeoKml::refused()
     const KmlImportResult imp = importKmlText(text, QStringLiteral("x.kml"), 100, 0, 0);
     QVERIFY(!imp.ok());
     QVERIFY(imp.zones.isEmpty());
+}
+
+void tst_GeoKml::goodPlacemarksOfABadFile_data()
+{
+    QTest::addColumn<QByteArray>("body"); // after <kml><Document>
+    QTest::addColumn<QStringList>("imported");
+    QTest::addColumn<QStringList>("bad"); // a piece of each bad placemark's line, in order
+    QTest::addColumn<QString>("damage"); // a piece of the damage line, empty when none
+    const QByteArray good
+        = "<Placemark><name>A</name><Point><coordinates>37,55</coordinates></Point></Placemark>"
+          "<Placemark><name>C</name><Point><coordinates>38,56,0</coordinates></Point></Placemark>";
+    const auto point = [](const char* name, const char* coordinates) {
+        return QByteArray("<Placemark><name>") + name + "</name><Point><coordinates>" + coordinates
+            + "</coordinates></Point></Placemark>";
+    };
+    const QStringList ac { QStringLiteral("A"), QStringLiteral("C") };
+    QTest::newRow("text") << point("B", "east,north") + good << ac
+                          << QStringList { QStringLiteral(
+                                 "метка \"B\": координаты \"east,north\" не прочитаны: "
+                                 "долгота или широта не число") }
+                          << QString();
+    QTest::newRow("one value") << good + point("B", "37.5") << ac
+                               << QStringList { QStringLiteral(
+                                      "\"B\": координаты \"37.5\" не прочитаны: нужны") }
+                               << QString();
+    QTest::newRow("latitude off the globe")
+        << good + point("B", "10,95") + point("D", "-181,0") << ac
+        << QStringList { QStringLiteral("\"B\": координаты \"10,95\" не прочитаны: широта вне"),
+               QStringLiteral("\"D\"") }
+        << QString();
+    QTest::newRow("not finite") << good + point("B", "nan,1") + point("E", "1,inf") << ac
+                                << QStringList { QStringLiteral("\"B\""), QStringLiteral("\"E\"") }
+                                << QString();
+    QTest::newRow("cut in a placemark") << good + "<Placemark><name>B</na" << ac << QStringList()
+                                        << QStringLiteral("файл повреждён (строка 1:");
+    QTest::newRow("deep after the good ones")
+        << good + QByteArray("<Folder>").repeated(100) + QByteArray("</Folder>").repeated(100) << ac
+        << QStringList() << QStringLiteral("глубже 64");
+    QTest::newRow("cut before any placemark") << QByteArray("<Placemark><name>B</na") << QStringList()
+                                              << QStringList() << QStringLiteral("строка 1");
+}
+
+// A file from another program with a few bad placemarks: the good ones come in, each bad one is
+// named with its reason, and a damaged tail says where reading stopped.
+void tst_GeoKml::goodPlacemarksOfABadFile()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QStringList, imported);
+    QFETCH(QStringList, bad);
+    QFETCH(QString, damage);
+    const QByteArray text = "<kml xmlns=\"http://www.opengis.net/kml/2.2\"><Document>" + body
+        + (damage.isEmpty() ? QByteArray("</Document></kml>") : QByteArray());
+    const KmlImportResult r = importKmlText(text, QStringLiteral("x.kml"), 100, 0, 0);
+    QVERIFY2(r.ok(), qPrintable(r.error));
+    QStringList names;
+    for (const coreGeoZone& z : r.zones)
+        names << z.name;
+    QCOMPARE(names, imported);
+    QCOMPARE(r.badPlacemarks.size(), bad.size());
+    for (int i = 0; i < bad.size(); ++i)
+        QVERIFY2(r.badPlacemarks.at(i).contains(bad.at(i)), qPrintable(r.badPlacemarks.at(i)));
+    QCOMPARE(r.damage.isEmpty(), damage.isEmpty());
+    QVERIFY2(r.damage.contains(damage), qPrintable(r.damage));
+    QCOMPARE(r.nonPoints, 0);
 }
 
 void tst_GeoKml::importIdsAndLimits()

@@ -4,14 +4,20 @@
 #include "../map/web_test_main.h"
 #include "config_model/geo_file.h"
 #include "config_ui/zrk_form_config_ainf.h"
+#include "config_ui/zrk_form_config_ainf_map.h"
 #include "config_ui/zrk_form_config_ainf_route.h"
 #include "device/zrk_device_k7140.h"
 #include "translations/catalogue.h"
 
+#include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QMap>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTimer>
 
 namespace {
 
@@ -19,7 +25,18 @@ ZRK_Form_Config_Ainf* g_page = nullptr;
 QMap<QString, QByteArray> g_card; // what the simulated card holds
 QMap<QString, QByteArray> g_open; // files being written
 int g_requests = 0;
-qint32 g_failWith = ZRK_SD_OK; // a result the card gives to writes
+
+// How the fake host answers the request that fails (the others it answers well, inside the call).
+enum class Answer
+{
+    InsideCall, // result set and the 2401 reply sent before the request returns (zrk-host's card)
+    Later, // result set; the reply comes from the event loop
+    ResultOnly, // result set, no reply at all
+    ReplyOnly, // result OK, the reply (inside the call) says what went wrong
+};
+qint32 g_failWith = ZRK_SD_OK; // what the card answers to g_failOperation
+quint32 g_failOperation = ZRK_SD_WRITE;
+Answer g_answer = Answer::InsideCall;
 
 QByteArray reply(const szSDFile& r, qint32 result)
 {
@@ -34,27 +51,35 @@ unsigned long hostCallback(void*, int msg, unsigned long w, unsigned long)
         return 0;
     auto* r = reinterpret_cast<szSDFile*>(w);
     ++g_requests;
-    r->result = ZRK_SD_OK;
     qint32 result = ZRK_SD_OK;
-    switch (r->operation) {
-    case ZRK_SD_OPEN:
-        g_open[r->fileName].clear();
-        break;
-    case ZRK_SD_WRITE:
-        if (g_failWith != ZRK_SD_OK || int(r->size) != r->data.size() || r->data.size() > ZRK_SD_CHUNK_MAX) {
-            result = g_failWith != ZRK_SD_OK ? g_failWith : ZRK_SD_BAD_REQUEST;
+    if (g_failWith != ZRK_SD_OK && r->operation == g_failOperation) {
+        result = g_failWith;
+    } else {
+        switch (r->operation) {
+        case ZRK_SD_OPEN:
+            g_open[r->fileName].clear();
             break;
+        case ZRK_SD_WRITE:
+            if (int(r->size) != r->data.size() || r->data.size() > ZRK_SD_CHUNK_MAX)
+                result = ZRK_SD_BAD_REQUEST;
+            else
+                g_open[r->fileName].replace(int(r->offset), r->data.size(), r->data);
+            break;
+        case ZRK_SD_CLOSE:
+            g_card[r->fileName] = g_open.take(r->fileName);
+            break;
+        default:
+            result = ZRK_SD_BAD_REQUEST;
         }
-        g_open[r->fileName].replace(int(r->offset), r->data.size(), r->data);
-        break;
-    case ZRK_SD_CLOSE:
-        g_card[r->fileName] = g_open.take(r->fileName);
-        break;
-    default:
-        result = ZRK_SD_BAD_REQUEST;
     }
-    QByteArray answer = reply(*r, result);
-    g_page->receive_SD_File(&answer); // the reply comes inside the request's call
+    const Answer answer = result == ZRK_SD_OK ? Answer::InsideCall : g_answer;
+    r->result = answer == Answer::ReplyOnly ? ZRK_SD_OK : result;
+    QByteArray bytes = reply(*r, result);
+    if (answer == Answer::InsideCall || answer == Answer::ReplyOnly) {
+        g_page->receive_SD_File(&bytes);
+    } else if (answer == Answer::Later) {
+        QTimer::singleShot(0, g_page, [bytes]() mutable { g_page->receive_SD_File(&bytes); });
+    }
     return 0;
 }
 
@@ -201,6 +226,71 @@ private slots:
         QVERIFY(m_messages.at(1).contains(QString::number(m_page->caps().maxStopsPerRoute)));
     }
 
+    // A stop names a zone of the list: the editor offers only those, a typed number of no zone is
+    // refused, and saving or writing to the card refuses data whose stop names none (saying which),
+    // so that a file the page saved always opens again.
+    void stopsNameExistingZones()
+    {
+        coreAinfData data;
+        data.zones << zone(1) << zone(4);
+        coreGeoRoute route;
+        route.id = 3;
+        route.stops << coreGeoStop { GeoStop_Stop, 1, 1, QString(), QString() }
+                    << coreGeoStop { GeoStop_Stop, 4, 2, QString(), QString() };
+        data.routes << route;
+        m_page->setData(data);
+        m_page->show();
+        auto* stops = m_page->findChild<QTableWidget*>(QStringLiteral("tableWidget_Stops"));
+        QVERIFY(stops);
+        QCOMPARE(stops->rowCount(), 2);
+
+        // The editor of the zone cell lists the zones, nothing else.
+        QTableWidgetItem* cell = stops->item(1, 1);
+        stops->setCurrentItem(cell);
+        stops->editItem(cell);
+        auto* box = stops->findChild<QComboBox*>(QStringLiteral("comboBox_StopZone"));
+        QVERIFY(box);
+        QCOMPARE(box->count(), 2);
+        QCOMPARE(box->itemData(0).toInt(), 1);
+        QCOMPARE(box->itemData(1).toInt(), 4);
+        QCOMPARE(box->currentIndex(), 1);
+        box->setCurrentIndex(0);
+        QTest::keyClick(box, Qt::Key_Return);
+        QTRY_COMPARE(m_page->data().routes.at(0).stops.at(1).zoneid, 1);
+
+        // A number that names no zone, typed or pasted, leaves the stop where it was.
+        stops->item(1, 1)->setText(QStringLiteral("5"));
+        QCOMPARE(m_page->data().routes.at(0).stops.at(1).zoneid, 1);
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY2(m_messages.last().contains(QLatin1String("5")), qPrintable(m_messages.last()));
+        QVERIFY(!m_page->routeForm()->addStop(0, 9));
+        QCOMPARE(m_page->data().routes.at(0).stops.size(), 2);
+        QCOMPARE(m_messages.size(), 2);
+        const QString path = m_dir.filePath(QStringLiteral("stops.xml"));
+        QVERIFY(m_page->writeFileParamGeo(path, true));
+        ZRK_Form_Config_Ainf other;
+        QVERIFY(other.readFileParamGeo(path));
+
+        // Data whose stop names no zone (a route built elsewhere) is neither saved nor sent.
+        data.routes[0].stops[1].zoneid = 9;
+        m_page->setData(data);
+        m_messages.clear();
+        const QString refused = m_dir.filePath(QStringLiteral("refused.xml"));
+        QVERIFY(!m_page->writeFileParamGeo(refused, true));
+        QVERIFY(!QFile::exists(refused));
+        QCOMPARE(m_messages.size(), 1);
+        QVERIFY2(m_messages.first().contains(QStringLiteral("Маршрут 3, остановка 2")),
+            qPrintable(m_messages.first()));
+        ZRK_Device_K7140 device(QStringLiteral("K-7140"), 3, 5, 8, 1);
+        device.InitConfigurator(&hostCallback);
+        g_requests = 0;
+        m_page->deviceConnect();
+        QVERIFY(!m_page->saveFileInDevice());
+        QCOMPARE(g_requests, 0);
+        QCOMPARE(m_messages.size(), 2);
+        QCOMPARE(m_messages.last(), m_messages.first());
+    }
+
     void kmlImport()
     {
         const QString path = m_dir.filePath(QStringLiteral("points.kml"));
@@ -266,6 +356,47 @@ private slots:
         QCOMPARE(ids(*m_page), (QVector<int> { 1, 7 }));
     }
 
+    // A workstation without OpenGL: the page is built with a message where the map would be, and
+    // zones are added, moved, selected, saved and opened again as anywhere else.
+    void withoutMap()
+    {
+        zrktest::NoOpenGL noGl;
+        ZRK_Form_Config_Ainf page;
+        page.setMessageSink([this](const QString& m) { m_messages << m; });
+        page.resize(1000, 700);
+        page.show();
+        ZRK_Widget_Map* map = page.mapForm()->map();
+        QVERIFY(!map->isAvailable());
+        auto* label = page.findChild<QLabel*>(QStringLiteral("label_MapUnavailable"));
+        QVERIFY(label);
+        QTRY_VERIFY(label->isVisible());
+        QVERIFY(label->text().startsWith(QStringLiteral("Карта недоступна")));
+        // The map's own controls have nothing to act on.
+        QVERIFY(!page.mapForm()->findChild<QPushButton*>(QStringLiteral("BtnCentre"))->isEnabled());
+        QVERIFY(!page.mapForm()->findChild<QPushButton*>(QStringLiteral("BtnApplyTiles"))->isEnabled());
+
+        QCOMPARE(page.addZoneAt(55.75, 37.62), 1);
+        QCOMPARE(page.addGeoZone(
+                     QStringLiteral("Склад"), 300, 45, 1, QStringLiteral("55.8"), QStringLiteral("37.7")),
+            2);
+        page.selectZone(2);
+        QCOMPARE(page.selectedZoneId(), 2);
+        page.moveZone(2, 55.9, 37.8);
+        page.resizeZone(2, 400);
+        QCOMPARE(page.addRouteThroughZones(QStringLiteral("7"), { 1, 2 }), 1);
+        QCOMPARE(page.deleteZones({ page.rowOfZone(1) }), 0); // a stop of the route stays
+        const QString path = m_dir.filePath(QStringLiteral("nomap.xml"));
+        QVERIFY(page.writeFileParamGeo(path, true));
+        QCOMPARE(m_messages.size(), 1);
+
+        ZRK_Form_Config_Ainf other;
+        QVERIFY(other.readFileParamGeo(path));
+        QCOMPARE(ids(other), (QVector<int> { 1, 2 }));
+        QCOMPARE(other.data().zones.at(1).lat, 55.9);
+        QCOMPARE(other.data().zones.at(1).size, 400);
+        QCOMPARE(other.data().routes.size(), 1);
+    }
+
     void proposedName()
     {
         const QString name
@@ -277,19 +408,53 @@ private slots:
     {
         QTest::addColumn<int>("zones");
         QTest::addColumn<int>("failWith");
-        QTest::newRow("small set") << 3 << int(ZRK_SD_OK);
-        QTest::newRow("many chunks") << 400 << int(ZRK_SD_OK);
-        QTest::newRow("card full") << 3 << int(ZRK_SD_CARD_FULL);
+        QTest::addColumn<uint>("failOperation");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QString>("message");
+        const QString noCard = QStringLiteral("нет SD-карты");
+        const QString full = QStringLiteral("нет места");
+        const QString refused = QStringLiteral("Не удалось передать");
+        QTest::newRow("small set") << 3 << int(ZRK_SD_OK) << uint(ZRK_SD_OPEN) << 0 << QString();
+        QTest::newRow("many chunks") << 400 << int(ZRK_SD_OK) << uint(ZRK_SD_OPEN) << 0 << QString();
+        // zrk-host's card when it is taken out: the result and the reply, both inside the call.
+        QTest::newRow("card removed, inside the call")
+            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::InsideCall) << noCard;
+        QTest::newRow("card full at a write, inside the call")
+            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::InsideCall) << full;
+        QTest::newRow("close refused, inside the call")
+            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_CLOSE) << int(Answer::InsideCall) << refused;
+        QTest::newRow("card removed, answered later")
+            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::Later) << noCard;
+        QTest::newRow("card full at a write, answered later")
+            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::Later) << full;
+        QTest::newRow("close refused, answered later")
+            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_CLOSE) << int(Answer::Later) << refused;
+        QTest::newRow("card removed, result only")
+            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::ResultOnly) << noCard;
+        QTest::newRow("card full, result only")
+            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::ResultOnly) << full;
+        QTest::newRow("write refused, reply only")
+            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_WRITE) << int(Answer::ReplyOnly) << refused;
+        QTest::newRow("not found at close, reply only")
+            << 3 << int(ZRK_SD_NOT_FOUND) << uint(ZRK_SD_CLOSE) << int(Answer::ReplyOnly) << refused;
     }
+    // The card write against a host that answers each error synchronously or later: one message
+    // naming the file, the page free for the next write, which then succeeds.
     void writeToCard()
     {
         QFETCH(int, zones);
         QFETCH(int, failWith);
+        QFETCH(uint, failOperation);
+        QFETCH(int, answer);
+        QFETCH(QString, message);
         ZRK_Device_K7140 device(QStringLiteral("K-7140"), 3, 5, 8, 1);
         device.InitConfigurator(&hostCallback);
         g_card.clear();
+        g_open.clear();
         g_requests = 0;
         g_failWith = failWith;
+        g_failOperation = failOperation;
+        g_answer = Answer(answer);
         coreAinfData data;
         for (int i = 1; i <= zones; ++i)
             data.zones << zone(i);
@@ -303,12 +468,27 @@ private slots:
         QTRY_COMPARE(done.count(), 1);
         QCOMPARE(done.first().first().toBool(), failWith == ZRK_SD_OK);
         QVERIFY(!m_page->isWritingToDevice());
-        if (failWith != ZRK_SD_OK) {
-            QVERIFY(g_card.isEmpty());
-            QCOMPARE(m_messages.size(), 1);
-            return;
-        }
         const QByteArray geo = renderFileParamGeo(data, true);
+        if (failWith != ZRK_SD_OK) {
+            QVERIFY(!g_card.contains(QStringLiteral("GeoZones.cfg")));
+            QCOMPARE(m_messages.size(), 1);
+            QVERIFY2(m_messages.first().contains(message), qPrintable(m_messages.first()));
+            QVERIFY2(
+                m_messages.first().contains(QStringLiteral("GeoZones.xml")), qPrintable(m_messages.first()));
+            // Nothing more goes out once the write has ended, and a late reply changes nothing.
+            const int requests = g_requests;
+            QTest::qWait(50);
+            QCOMPARE(g_requests, requests);
+            QCOMPARE(done.count(), 1);
+            QCOMPARE(m_messages.size(), 1);
+            // The card is back: the page writes again.
+            g_failWith = ZRK_SD_OK;
+            g_requests = 0;
+            m_messages.clear();
+            QVERIFY(m_page->saveFileInDevice());
+            QTRY_COMPARE(done.count(), 2);
+            QVERIFY(done.last().first().toBool());
+        }
         QCOMPARE(
             g_card.keys(), (QStringList { QStringLiteral("GeoZones.cfg"), QStringLiteral("GeoZones.xml") }));
         QCOMPARE(g_card.value(QStringLiteral("GeoZones.xml")), geo);

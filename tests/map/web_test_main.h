@@ -2,8 +2,11 @@
 
 // main() for tests that open web views: a home of their own (the web engine writes under it), no
 // sandbox (the tests may run as root), and shared GL contexts set before the application exists.
+#include "map/zrk_widget_map.h"
+
 #include <QApplication>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -43,6 +46,39 @@ template <typename Start> QVariant waitFor(Start start, int timeoutMs = 10000)
         loop.exec();
     return result;
 }
+
+// True in the test's offscreen run (tests/CMakeLists: ALSO_OFFSCREEN), where no X display is there
+// and so no OpenGL context can be made.
+inline bool offscreenWithoutDisplay()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen")
+        && qEnvironmentVariableIsEmpty("DISPLAY");
+}
+
+// Maps made in its scope see a process without OpenGL: naturally in the offscreen run, forced
+// under Xvfb, where the machine has it. The process's own answer comes back at its end.
+class NoOpenGL
+{
+public:
+    static constexpr const char* kForcedReason = "no OpenGL in this test";
+    NoOpenGL()
+        : m_forced(ZRK_Widget_Map::isSupported())
+    {
+        if (m_forced)
+            ZRK_Widget_Map::forceUnsupported(QString::fromLatin1(kForcedReason));
+    }
+    ~NoOpenGL()
+    {
+        if (m_forced)
+            ZRK_Widget_Map::forceUnsupported(QString());
+    }
+    NoOpenGL(const NoOpenGL&) = delete;
+    NoOpenGL& operator=(const NoOpenGL&) = delete;
+    bool forced() const { return m_forced; }
+
+private:
+    bool m_forced;
+};
 
 } // namespace zrktest
 
