@@ -28,7 +28,13 @@ ZRK_Dialog_Config_Compare::ZRK_Dialog_Config_Compare(QWidget* parent)
     , ui(new Ui::ZRK_Designer_Dialog_Config_Compare)
 {
     ui->setupUi(this);
-    ui->treeWidget_Differences->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // Names fit their texts; the two values share the rest, long ones (the record mask) elided in
+    // the middle with the whole value in the tooltip.
+    QHeaderView* header = ui->treeWidget_Differences->header();
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(3, QHeaderView::Stretch);
+    header->setSectionResizeMode(4, QHeaderView::Stretch);
+    ui->treeWidget_Differences->setTextElideMode(Qt::ElideMiddle);
 }
 
 ZRK_Dialog_Config_Compare::~ZRK_Dialog_Config_Compare()
@@ -107,9 +113,11 @@ void ZRK_Dialog_Config_Compare::fill(const QVector<zrk::ConfigDifference>& diffe
             top->setFirstColumnSpanned(true);
         }
         const QString rest = d.node.section(QLatin1Char('/'), 1);
-        new QTreeWidgetItem(top,
+        auto* row = new QTreeWidgetItem(top,
             { rest.isEmpty() ? QString() : rest, d.key, d.label, d.inLeft ? d.left : absent,
                 d.inRight ? d.right : absent });
+        row->setToolTip(3, row->text(3));
+        row->setToolTip(4, row->text(4));
     }
     tree->expandAll();
 }
