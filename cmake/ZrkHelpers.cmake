@@ -7,8 +7,10 @@
 # ALSO_OFFSCREEN: the same executable once more as <name>_offscreen, on the offscreen platform with
 # no X display, where no OpenGL context can be made (a workstation without OpenGL).
 # TOOL: the test runs the built zrk-tool (tests/common/tool_run.h).
+# COMMA_LOCALE: the test runs a second time as <name>_ru, under ru_RU.UTF-8, whose decimal
+# separator is a comma (scripts/install-deps.sh generates the locale).
 function(zrk_add_qtest)
-  cmake_parse_arguments(T "XVFB;WEBENGINE;ALSO_OFFSCREEN;TOOL" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
+  cmake_parse_arguments(T "XVFB;WEBENGINE;ALSO_OFFSCREEN;TOOL;COMMA_LOCALE" "NAME" "SOURCES;LIBS;ENV" ${ARGN})
   if(T_WEBENGINE)
     set(T_XVFB TRUE)
   endif()
@@ -33,13 +35,21 @@ function(zrk_add_qtest)
   endif()
   list(APPEND T_ENV "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
                     "ASAN_OPTIONS=detect_leaks=${leaks}"
-                    "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
-                    "LC_ALL=C.UTF-8")
-  set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV}" TIMEOUT 300)
+                    "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+  set_tests_properties(${T_NAME} PROPERTIES ENVIRONMENT "${T_ENV};LC_ALL=C.UTF-8" TIMEOUT 300)
   if(T_ALSO_OFFSCREEN)
     add_test(NAME ${T_NAME}_offscreen COMMAND ${T_NAME})
-    set_tests_properties(${T_NAME}_offscreen PROPERTIES ENVIRONMENT "${T_ENV};QT_QPA_PLATFORM=offscreen;DISPLAY="
-                                                        TIMEOUT 300)
+    set_tests_properties(${T_NAME}_offscreen
+                         PROPERTIES ENVIRONMENT "${T_ENV};LC_ALL=C.UTF-8;QT_QPA_PLATFORM=offscreen;DISPLAY=" TIMEOUT 300)
+  endif()
+  if(T_COMMA_LOCALE)
+    if(T_XVFB)
+      add_test(NAME ${T_NAME}_ru COMMAND xvfb-run -a $<TARGET_FILE:${T_NAME}>)
+    else()
+      add_test(NAME ${T_NAME}_ru COMMAND ${T_NAME})
+    endif()
+    set_tests_properties(${T_NAME}_ru PROPERTIES ENVIRONMENT "${T_ENV};LC_ALL=ru_RU.UTF-8;ZRK_COMMA_LOCALE=1"
+                                                 TIMEOUT 300)
   endif()
 endfunction()
 

@@ -25,3 +25,17 @@ void setProgramLanguage(const QString& language)
     QSettings().setValue(QLatin1String(kLanguageKey),
         language == QLatin1String("en") ? QStringLiteral("en") : QStringLiteral("ru"));
 }
+
+namespace {
+const char kReviewKey[] = "zrk_k7140/reviewBeforeWrite";
+}
+
+bool reviewBeforeWrite()
+{
+    return QSettings().value(QLatin1String(kReviewKey), true).toBool();
+}
+
+void setReviewBeforeWrite(bool review)
+{
+    QSettings().setValue(QLatin1String(kReviewKey), review);
+}

@@ -10,3 +10,8 @@ QString appDataDirectory();
 // The user-interface language, "ru" (the default) or "en", kept in the application's settings.
 QString programLanguage();
 void setProgramLanguage(const QString& language);
+
+// Whether "write to the terminal" first shows what will change there (on unless the user turned
+// it off).
+bool reviewBeforeWrite();
+void setReviewBeforeWrite(bool review);

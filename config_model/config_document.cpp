@@ -4,6 +4,7 @@
 #include "config_model/xml_tag.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 
 namespace zrk {
@@ -113,6 +114,45 @@ CXmlTagV2* childAt(const CXmlTagV2* tag, const QString& path)
         at = at->children.getTagFromName(name);
     }
     return at;
+}
+
+CXmlTagV2* nodeAt(const CXmlTagV2* tag, const QString& path)
+{
+    static const QRegularExpression numbered(QStringLiteral("^(.*)\\[(\\d+)\\]$"));
+    CXmlTagV2* at = const_cast<CXmlTagV2*>(tag);
+    for (const QString& step : path.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+        if (!at)
+            return nullptr;
+        const QRegularExpressionMatch m = numbered.match(step);
+        const QString name = m.hasMatch() ? m.captured(1) : step;
+        int wanted = m.hasMatch() ? m.captured(2).toInt() : 1;
+        CXmlTagV2* found = nullptr;
+        for (CXmlTagV2* child : at->children) {
+            if (child->name == name && --wanted == 0) {
+                found = child;
+                break;
+            }
+        }
+        at = found;
+    }
+    return at;
+}
+
+QString pathOf(const CXmlTagV2* node)
+{
+    QStringList steps;
+    for (const CXmlTagV2* at = node; at && at->parent; at = at->parent) {
+        int number = 0, count = 0;
+        for (const CXmlTagV2* sibling : at->parent->children) {
+            if (sibling->name != at->name)
+                continue;
+            ++count;
+            if (sibling == at)
+                number = count;
+        }
+        steps.prepend(count > 1 ? QStringLiteral("%1[%2]").arg(at->name).arg(number) : at->name);
+    }
+    return steps.join(QLatin1Char('/'));
 }
 
 QString keyValue(const CXmlTagV2* tag, const QString& key, const QString& def)

@@ -35,6 +35,11 @@ bool writeFileWhole(const QString& path, const QByteArray& bytes, QString* error
 
 // The first child of tag by a path of names ("TRACK/POINTS"); null when any step is missing.
 CXmlTagV2* childAt(const CXmlTagV2* tag, const QString& path);
+// A node by a path whose steps may carry their number among siblings of that name ("CAN/CAN[2]",
+// counting from 1); "" is tag itself. Null when any step is missing.
+CXmlTagV2* nodeAt(const CXmlTagV2* tag, const QString& path);
+// The path of a node under the document's root in that form; the number only where needed.
+QString pathOf(const CXmlTagV2* node);
 // The value of a key (the last attribute entry of that name, as when written); def when missing.
 QString keyValue(const CXmlTagV2* tag, const QString& key, const QString& def = QString());
 // Sets every attribute entry of that name, or appends one; the value is stored as given.

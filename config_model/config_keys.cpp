@@ -112,103 +112,145 @@ BranchDecl trackBranch(const ZRK_Track_Caps& caps)
     auto& k = b.keys;
     //% "Ставить точки только в движении (правило старт/стоп)"
     k << boolean("POINTS", "useMoveSens", true, true, QT_TRID_NOOP("cfgt3_007"));
+    k.last().widget = QStringLiteral("Always_checkBox_StartStop");
     //% "Ставить точку при превышении скорости"
     k << boolean("POINTS", "useMaxSpeed", false, false, QT_TRID_NOOP("cfgt3_008"));
+    k.last().widget = QStringLiteral("Always_checkBox_MaxSpeed");
     //% "Порог скорости, км/ч"
     k << integer("POINTS", "maxSpeed", 100, 100, 1, 180, QT_TRID_NOOP("cfgt3_009"));
+    k.last().widget = QStringLiteral("Always_spinBox_MaxSpeed");
     //% "Правило поворота"
     k << integer("POINTS", "angleMode", 2, 2, 0, 2, QT_TRID_NOOP("cfgt3_010"));
+    k.last().widget = QStringLiteral("Additional_checkBox_Corner:angleMode");
     //% "Угол поворота, °"
     k << integer("POINTS", "angle", 5, 5, 1, 90, QT_TRID_NOOP("cfgt3_013"));
+    k.last().widget = QStringLiteral("Additional_spinBox_Corner");
+    k.last().lightWidget = QStringLiteral("spinBox_Angle");
     //% "Ставить точку по расстоянию, м"
     k << boolean("POINTS", "useDist", true, true, QT_TRID_NOOP("cfgt3_014"));
+    k.last().widget = QStringLiteral("Additional_checkBox_Distance");
     //% "Расстояние, м"
     k << integer("POINTS", "dist", 500, 500, 1, 10000, QT_TRID_NOOP("cfgt3_015"));
+    k.last().widget = QStringLiteral("Additional_spinBox_Distance");
+    k.last().lightWidget = QStringLiteral("spinBox_Dist");
     //% "Ставить точку по таймеру в движении, с"
     k << boolean("POINTS", "useTimer", true, true, QT_TRID_NOOP("cfgt3_016"));
+    k.last().widget = QStringLiteral("Additional_checkBox_Timer");
     //% "Таймер в движении, с"
     k << integer("POINTS", "moveTimer", 60, 60, 0, 99999, QT_TRID_NOOP("cfgt3_017"));
+    k.last().widget = QStringLiteral("Additional_spinBox_Timer");
+    k.last().lightWidget = QStringLiteral("spinBox_MoveTimer");
     //% "Признаки движения для таймера"
     k << flags("POINTS", "moveTimerSens", 4, "0000", "0000", QT_TRID_NOOP("cfgt3_018"));
+    k.last().widget = QStringLiteral("groupBox_TmrFlags:tmrFlags");
     //% "Таймер на стоянке, с"
     k << integer("POINTS", "stopTimer", 600, 600, 0, 99999, QT_TRID_NOOP("cfgt3_023"));
+    k.last().widget = QStringLiteral("Additional_spinBox_StopTimer");
+    k.last().lightWidget = QStringLiteral("spinBox_StopTimer");
 
     //% "Не ставить точки ближе, м"
     k << boolean("LIMPOINT", "blockDist", true, true, QT_TRID_NOOP("cfgt3_025"));
+    k.last().widget = QStringLiteral("checkBox_BlockDist");
     //% "Минимальное расстояние между точками, м"
     k << integer("LIMPOINT", "dist", 10, 10, 1, 200, QT_TRID_NOOP("cfgt3_026"));
+    k.last().widget = QStringLiteral("spinBox_BlockDist");
     //% "Не ставить точки чаще, с"
     k << boolean("LIMPOINT", "blockTimer", false, false, QT_TRID_NOOP("cfgt3_027"));
+    k.last().widget = QStringLiteral("checkBox_BlockTimer");
     //% "Минимальный интервал между точками, с"
     k << integer("LIMPOINT", "timer", 5, 5, 1, 99999, QT_TRID_NOOP("cfgt3_028"));
+    k.last().widget = QStringLiteral("spinBox_BlockTimer");
 
     //% "Фильтр координат"
     k << boolean("COORDFLT", "use", true, true, QT_TRID_NOOP("cfgt3_029"));
+    k.last().widget = QStringLiteral("checkBox_CoordFlt_Use");
     //% "Минимум спутников"
     k << integer("COORDFLT", "minSats", 4, 4, 1, 255, QT_TRID_NOOP("cfgt3_031"));
+    k.last().widget = QStringLiteral("spinBox_MinSats");
     KeyDecl maxHdop = text("COORDFLT", "maxHDOP", hdop, hdop,
         //% "Максимальный HDOP"
         QT_TRID_NOOP("cfgt3_032"));
     maxHdop.type = T::Decimal;
     maxHdop.min = 1; // 0.1
     maxHdop.max = 1000; // the widget's own upper bound, 100.0
+    maxHdop.widget = QStringLiteral("doubleSpinBox_MaxHdop");
     k << maxHdop;
     //% "Максимальная скорость, км/ч"
     k << integer("COORDFLT", "maxSpeed", 200, 200, 1, 1500, QT_TRID_NOOP("cfgt3_033"));
+    k.last().widget = QStringLiteral("spinBox_FltMaxSpeed");
     //% "Максимальное ускорение"
     k << integer("COORDFLT", "maxAccel", 25, 25, 1, 100, QT_TRID_NOOP("cfgt3_034"));
+    k.last().widget = QStringLiteral("spinBox_MaxAccel");
     //% "Максимальный скачок, м"
     k << integer("COORDFLT", "maxDist", 100, 100, 1, 500, QT_TRID_NOOP("cfgt3_035"));
+    k.last().widget = QStringLiteral("spinBox_MaxDist");
     //% "Отбраковок подряд, не более"
     k << integer("COORDFLT", "maxFilterCnt", 5, 5, 0, 250, QT_TRID_NOOP("cfgt3_036"));
+    k.last().widget = QStringLiteral("spinBox_MaxFilterCnt");
     //% "Минимальная высота, м"
     k << integer("COORDFLT", "minAlt", -100, -100, -32768, 32767, QT_TRID_NOOP("cfgt3_037"));
+    k.last().widget = QStringLiteral("spinBox_MinAlt:minAlt");
     //% "Максимальная высота, м"
     k << integer("COORDFLT", "maxAlt", 3000, 3000, -32768, 32767, QT_TRID_NOOP("cfgt3_038"));
+    k.last().widget = QStringLiteral("spinBox_MaxAlt:maxAlt");
     if (caps.rejectDeltaNtp) {
         //% "Расхождение с временем сети, с"
-        k << integer("COORDFLT", "deltaNTP", 5, 5, 0, 255, QT_TRID_NOOP("cfgt3_039"));
+        k << integer("COORDFLT", "deltaNTP", 5, 5, 1, 255, QT_TRID_NOOP("cfgt3_039"));
+        k.last().zeroMeansOff = true;
+        k.last().widget = QStringLiteral("spinBox_DeltaNtp:deltaNtp");
     }
 
     //% "Координаты на стоянке"
     k << choice("COORDAVER", "mode", 1, 1, kAveragingModes, QT_TRID_NOOP("cfgt3_040"));
+    k.last().widget = QStringLiteral("Coord_groupBox_Stop:averageMode");
     const int sensorLength = caps.avgSensorCount >= 5 ? 5 : 4;
     //% "Признаки стоянки"
     k << flags("COORDAVER", "sensors", sensorLength, caps.avgSensorsDefault,
         fitFlags(caps.avgSensorsDefault, sensorLength), QT_TRID_NOOP("cfgt3_044"));
+    k.last().widget = QStringLiteral("groupBox_SensorAverage:sensorAverage");
 
     //% "Режим стоянки"
     k << choice("MOVESENS", "mode", 1, 1, kZeroOne, QT_TRID_NOOP("cfgt3_051"));
+    k.last().widget = QStringLiteral("groupBox_Parking:parkingMode");
     //% "Время до стоянки, с"
     k << integer("MOVESENS", "stopTimer", 30, 30, 0, 65535, QT_TRID_NOOP("cfgt3_056"));
+    k.last().widget = QStringLiteral("spinBox_ParkingStopTimer");
 
     if (caps.gnssPresent) {
         b.groups << QStringLiteral("GNSS");
         //% "Спутниковые системы"
         k << text("GNSS", "mode", caps.gnssModeDefault, caps.gnssModeDefault, QT_TRID_NOOP("cfgt3_057"));
+        k.last().widget = QStringLiteral("groupBox_GnssSystems:gnssMode");
         if (caps.gnssAgps) {
             //% "Помощь A-GPS"
             k << boolean("GNSS", "useAGPS", true, true, QT_TRID_NOOP("cfgt3_058"));
+            k.last().widget = QStringLiteral("checkBox_Agps");
         }
         if (caps.gnssEpo) {
             //% "Прогноз орбит (EPO)"
             k << boolean("GNSS", "useEPO", false, false, QT_TRID_NOOP("cfgt3_059"));
+            k.last().widget = QStringLiteral("checkBox_Epo");
         }
         if (caps.gnssAngle) {
             //% "Маска возвышения спутников, °"
             k << integer("GNSS", "angle", 5, 5, 0, 90, QT_TRID_NOOP("cfgt3_060"));
+            k.last().widget = QStringLiteral("spinBox_Angle");
         }
         if (caps.gnssDatum) {
             //% "Система координат"
             k << choice("GNSS", "datum", 0, 0, kZeroOne, QT_TRID_NOOP("cfgt3_061"));
+            k.last().widget = QStringLiteral("groupBox_Datum:gnssCoord");
         }
         if (caps.gnssReceiver) {
             //% "Приёмник"
             k << integer("GNSS", "receiver", 0, 0, 0, 255, QT_TRID_NOOP("cfgt3_064"));
+            k.last().widget = QStringLiteral("comboBox_Receiver");
         }
         if (caps.coldRestartTimer) {
             //% "Таймер холодного рестарта приёмника"
-            k << integer("GNSS", "coldRstTimer", 5, 0, 0, 255, QT_TRID_NOOP("cfgt3_067"));
+            k << integer("GNSS", "coldRstTimer", 5, 0, 1, 255, QT_TRID_NOOP("cfgt3_067"));
+            k.last().zeroMeansOff = true;
+            k.last().widget = QStringLiteral("spinBox_ColdRstTimer:coldRstTimer");
         }
     }
     return b;
@@ -230,14 +272,20 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
     b.top = QStringLiteral("LOCATOR");
     auto& k = b.keys;
     // The two period widgets share their keys; only the timers' defaults and minimums differ.
-    auto period = [&k](const char* group, int readMove, int resetMove, int minMove, int minStop) {
+    // Each group has a source widget and a period widget of its own ("widget_Tlm_Source", ...).
+    auto period = [&k](const char* group, const char* widgets, int readMove, int resetMove, int minMove,
+                      int minStop) {
+        const QString periodWidget = QStringLiteral("widget_%1_Period.").arg(QLatin1String(widgets));
         //% "Период в движении, с"
         k << integer(group, "moveTimer", readMove, resetMove, minMove, 65535, QT_TRID_NOOP("cfgt3_071"));
+        k.last().widget = periodWidget + QStringLiteral("moveTimer");
         //% "Признаки движения"
         k << flags(group, "moveSens", 4, "0000", "0000", QT_TRID_NOOP("cfgt3_072"));
+        k.last().widget = periodWidget + QStringLiteral("moveSens");
         //% "Период на стоянке, с (0 — выключено)"
         KeyDecl stop = integer(group, "stopTimer", 0, 0, minStop, 65535, QT_TRID_NOOP("cfgt3_073"));
         stop.zeroMeansOff = true;
+        stop.widget = periodWidget + QStringLiteral("stopTimer");
         k << stop;
     };
     //% "Источники"
@@ -246,49 +294,65 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
         b.groups << QStringLiteral("TLM");
         //% "Позиционирование для телеметрии"
         k << boolean("TLM", "use", false, false, QT_TRID_NOOP("cfgt3_069"));
+        k.last().widget = QStringLiteral("checkBox_Tlm_Use");
         k << flags("TLM", "source", 2, "10", "10", sourceLabel);
-        period("TLM", 60, 20, 10, 10);
+        k.last().widget = QStringLiteral("widget_Tlm_Source.source");
+        period("TLM", "Tlm", 60, 20, 10, 10);
     }
     if (caps.locatorGlobal) {
         b.groups << QStringLiteral("GLOBAL");
         //% "Сервис локации"
         k << boolean("GLOBAL", "use", false, false, QT_TRID_NOOP("cfgt3_074"));
+        k.last().widget = QStringLiteral("checkBox_Loc_Use");
         //% "Ключ доступа"
         k << text("GLOBAL", "key", QString(), QString(), QT_TRID_NOOP("cfgt3_075"));
+        k.last().widget = QStringLiteral("lineEdit_Loc_Key");
         //% "Условие"
         k << choice("GLOBAL", "condition", 0, 0, kZeroOne, QT_TRID_NOOP("cfgt3_076"));
+        k.last().widget = QStringLiteral("comboBox_Loc_Condition:locCondition");
         if (caps.locatorAddTlm) {
             //% "Добавлять в телеметрию"
             KeyDecl add = integer("GLOBAL", "addTlm", 0, 0, 0, 2, QT_TRID_NOOP("cfgt3_077"));
             add.keptOnReset = true;
+            add.widget = QStringLiteral("comboBox_Loc_AddTlm");
             k << add;
         }
         k << flags("GLOBAL", "source", 2, "10", "10", sourceLabel);
-        period("GLOBAL", 60, 60, 20, 20);
+        k.last().widget = QStringLiteral("widget_Loc_Source.source");
+        period("GLOBAL", "Loc", 60, 60, 20, 20);
 
         if (caps.locatorCoordFilter) {
             b.groups << QStringLiteral("COORDFILT");
             //% "Фильтр координат локатора"
             k << boolean("COORDFILT", "use", true, true, QT_TRID_NOOP("cfgt3_078"));
+            k.last().widget = QStringLiteral("groupBox_CoordFlt_Use");
             //% "Предельная скорость, км/ч"
             k << integer("COORDFILT", "speed", 130, 130, 0, 255, QT_TRID_NOOP("cfgt3_079"));
+            k.last().widget = QStringLiteral("spinBox_CoordFlt_Speed");
             //% "Отбраковок подряд до принятия"
-            k << integer("COORDFILT", "rejCnt", 2, 2, 0, 255, QT_TRID_NOOP("cfgt3_080"));
+            k << integer("COORDFILT", "rejCnt", 2, 2, 1, 255, QT_TRID_NOOP("cfgt3_080"));
+            k.last().zeroMeansOff = true;
+            k.last().widget = QStringLiteral("spinBox_CoordFlt_RejCnt:rejCnt");
             //% "Записывать отбракованные координаты"
             k << boolean("COORDFILT", "bbWrite", false, false, QT_TRID_NOOP("cfgt3_081"));
+            k.last().widget = QStringLiteral("checkBox_CoordFlt_BbWrite");
             if (caps.locatorRecheckWifi) {
                 //% "Перепроверять по Wi-Fi"
                 k << boolean("COORDFILT", "recheckWiFi", true, true, QT_TRID_NOOP("cfgt3_082"));
+                k.last().widget = QStringLiteral("checkBox_CoordFlt_RecheckWiFi");
             }
             //% "Перепроверять по GNSS"
             k << boolean("COORDFILT", "recheckGNSS", true, true, QT_TRID_NOOP("cfgt3_083"));
+            k.last().widget = QStringLiteral("checkBox_CoordFlt_RecheckGnss");
         }
         if (caps.locatorApFilter) {
             b.groups << QStringLiteral("APFILT");
             //% "Фильтр точек доступа"
             k << boolean("APFILT", "use", true, true, QT_TRID_NOOP("cfgt3_084"));
+            k.last().widget = QStringLiteral("groupBox_ApFLT_Use");
             //% "Минимальный уровень точки доступа, дБм"
             k << integer("APFILT", "rxLvl", -65, -65, -128, 127, QT_TRID_NOOP("cfgt3_085"));
+            k.last().widget = QStringLiteral("spinBox_ApFlt_RxLvl");
         }
         if (caps.locatorBlackList) {
             b.groups << QStringLiteral("BLIST");
@@ -298,6 +362,7 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
                 //% "Чёрный список, строка %1"
                 KeyDecl row = text("BLIST", "", rows[i], rows[i], QT_TRID_NOOP("cfgt3_087"));
                 row.key = QString::fromLatin1(key);
+                row.widget = QStringLiteral("pushButton_BlackList:blackList[%1]").arg(i);
                 k << row;
             }
         }
@@ -318,6 +383,7 @@ BranchDecl protocolBranch(bool useState2, bool useReserv)
             //% "Поколение протокола ORBA"
             QT_TRID_NOOP("cfgo_081"));
     format.choices = { 10, 20, 30 };
+    format.lightWidget = QStringLiteral("comboBox_FlashFormat");
     b.keys << format;
     KeyDecl mask = flags(fs::kOrbaNode, fs::kMaskKey, fs::kMaskLength, fs::defaultMask(useState2),
         fs::defaultMask(useState2, useReserv),
@@ -325,6 +391,30 @@ BranchDecl protocolBranch(bool useState2, bool useReserv)
         QT_TRID_NOOP("cfgo_082"));
     mask.checkedApart = true;
     b.keys << mask;
+    return b;
+}
+
+BranchDecl userParamBranch()
+{
+    namespace fs = fieldset;
+    BranchDecl b;
+    b.top = QLatin1String(fs::kUserNode);
+    for (int g = 0; g < 4; ++g) {
+        const QString group = fs::userGroupNode(g);
+        b.groups << group;
+        const QString types(fs::kUserCounts[g], QLatin1Char('0'));
+        //% "Типы пользовательских параметров (0 — без знака, 1 — со знаком, 2 — hex, 3 — float)"
+        KeyDecl type = text("", fs::kUserTypeKey, types, types, QT_TRID_NOOP("cfgo_083"));
+        type.group = group;
+        b.keys << type;
+        for (int i = 1; i <= fs::kUserCounts[g]; ++i) {
+            //% "Название пользовательского параметра %1"
+            KeyDecl name = text("", "", QString(), QString(), QT_TRID_NOOP("cfgo_084"));
+            name.group = group;
+            name.key = QStringLiteral("name%1").arg(i);
+            b.keys << name;
+        }
+    }
     return b;
 }
 
@@ -358,7 +448,13 @@ const KeyDecl* findDeclaredKey(const QString& node, const QString& key)
     const int slash = node.indexOf(QLatin1Char('/'));
     const QString top = slash < 0 ? QString() : node.left(slash);
     const QString group = slash < 0 ? node : node.mid(slash + 1);
-    for (const BranchDecl& b : declaredBranches()) {
+    static const BranchDecl user = userParamBranch();
+    QVector<const BranchDecl*> branches;
+    for (const BranchDecl& b : declaredBranches())
+        branches << &b;
+    branches << &user;
+    for (const BranchDecl* branch : branches) {
+        const BranchDecl& b = *branch;
         if (!top.isEmpty() && b.top != top)
             continue;
         // A key on the top node itself is named by the top node alone.

@@ -49,6 +49,13 @@ struct KeyDecl
     bool zeroMeansOff = false; // Integer: 0 switches the setting off, else min..max
     QVector<int> choices; // Integer, Text: the only values allowed, when not empty
     bool checkedApart = false; // lint checks it by a rule of its own (the record mask)
+    // The page's widget showing the key: "name" (its usual value: a box's check, a spin box's
+    // number, a line's text, a list's index), "name.property" (a property of that widget), or
+    // "name:property" (the widget shows it, a property of the page reads and writes it by a rule of
+    // the page; "[n]" after it takes element n of a list). Empty: no page shows it by itself.
+    QString widget;
+    // The light editor's widget showing the key (object name); empty when it does not show it.
+    QString lightWidget;
 };
 
 // One branch a page owns: its top node under "DEVICE", its record nodes in write order and keys.
@@ -75,6 +82,10 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps);
 // The record field-set branch ("PROTOCOL"/"ORBA"): the default mask's position 122 follows the
 // device's second-state flag; reset also clears position 19 when the device has no backup battery.
 BranchDecl protocolBranch(bool useState2, bool useReserv = true);
+
+// The user parameters ("USERPARAM"): per width a "type" string (one digit a parameter) and the
+// names "name1".."nameN". The window writes the branch last, after the branches no page owns.
+BranchDecl userParamBranch();
 
 // node: a record node name ("POINTS") or a path ("TRACK/POINTS"); null when not declared.
 const KeyDecl* findDeclaredKey(const QString& node, const QString& key);

@@ -6,8 +6,16 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <locale.h>
 
 namespace {
+
+// The "C" numeric convention, made once; the process locale is never touched.
+locale_t cNumericLocale()
+{
+    static const locale_t c = newlocale(LC_NUMERIC_MASK, "C", static_cast<locale_t>(nullptr));
+    return c;
+}
 
 // Copies at most kParamTextMax bytes and zero-fills the rest of the field.
 void copyField(char (&field)[kParamFieldSize], const char* text)
@@ -108,7 +116,7 @@ void COneParameter::setValueInt(int v)
 void COneParameter::setValueFloat(float v)
 {
     // "%f" of a huge float is longer than the field; snprintf cuts it at 254 bytes.
-    std::snprintf(value, sizeof value, "%f", static_cast<double>(v));
+    formatFixedDecimal(value, sizeof value, static_cast<double>(v));
 }
 
 bool COneParameter::asInt(int& out) const
@@ -148,7 +156,7 @@ bool COneParameter::asDouble(double& out) const
 {
     if (value[0] == '\0')
         return false;
-    out = std::strtod(value, nullptr);
+    out = parseDecimalPrefix(value);
     return true;
 }
 
@@ -363,4 +371,19 @@ coreSzArrayItem* CListParameters::createOutPutData() const
     out->count = count;
     std::memcpy(out->items, items, static_cast<size_t>(count) * sizeof(coreSzItem));
     return out;
+}
+
+void formatFixedDecimal(char* buf, int size, double value)
+{
+    if (!buf || size <= 0)
+        return;
+    // uselocale switches this thread only, and only for the one call.
+    const locale_t previous = uselocale(cNumericLocale());
+    std::snprintf(buf, static_cast<size_t>(size), "%f", value);
+    uselocale(previous);
+}
+
+double parseDecimalPrefix(const char* text)
+{
+    return text ? strtod_l(text, nullptr, cNumericLocale()) : 0.0;
 }

@@ -28,6 +28,11 @@ constexpr bool isNodeMode(int mode)
     return mode == NodeFindOrCreate || mode == NodeAppend || mode == NodeRecord;
 }
 
+// Decimals in files always use the point, whatever the desktop's numeric locale (a Russian one
+// writes a comma): "%f" text into buf, and strtod's reading of a text's leading number.
+void formatFixedDecimal(char* buf, int size, double value);
+double parseDecimalPrefix(const char* text);
+
 // One parameter of a node.
 struct coreSzItem
 {

@@ -287,7 +287,7 @@ CXMLWorkData* CXMLWorkData::createNodeZRK(const char* name, int value)
 CXMLWorkData* CXMLWorkData::createNodeZRK(const char* name, float value)
 {
     char text[512];
-    std::snprintf(text, sizeof text, "%f", static_cast<double>(value));
+    formatFixedDecimal(text, sizeof text, static_cast<double>(value));
     return createNodeZRK(name, QString::fromLocal8Bit(text));
 }
 

@@ -1,8 +1,10 @@
 #include "config_ui/zrk_form_config_other.h"
 
 #include "config_model/config_document.h"
+#include "config_model/config_session.h"
 #include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
+#include "config_ui/zrk_config_editing.h"
 
 #include "ui_zrk_form_config_other.h"
 
@@ -13,15 +15,8 @@ namespace {
 
 enum ItemRole
 {
-    TagRole = Qt::UserRole, // the CXmlTagV2 the row shows
-    KindRole, // RowKind
-};
-
-enum RowKind
-{
-    ElementRow,
-    AttributeRow, // one attribute entry: key and value
-    TextRow, // an element holding only a text: its name is the key
+    PathRole = Qt::UserRole, // the node the row's key belongs to
+    KeyRole, // the key; empty on a node's own row
 };
 
 constexpr int kNodeColumn = 0;
@@ -47,25 +42,19 @@ constexpr int kValueColumn = 2;
     QT_TRID_NOOP("cfgx_008"),
 };
 
-CXmlTagV2* tagOf(const QTreeWidgetItem* item)
+// A row of a key: its node's path and the key, so that an edit names the value it changes.
+void bindKey(QTreeWidgetItem* item, const QString& path, const QString& key)
 {
-    return reinterpret_cast<CXmlTagV2*>(item->data(kNodeColumn, TagRole).value<quintptr>());
-}
-
-void bindRow(QTreeWidgetItem* item, CXmlTagV2* tag, RowKind kind)
-{
-    item->setData(kNodeColumn, TagRole, QVariant::fromValue(reinterpret_cast<quintptr>(tag)));
-    item->setData(kNodeColumn, KindRole, kind);
-    if (kind != ElementRow)
-        item->setFlags(item->flags() | Qt::ItemIsEditable);
+    item->setData(kNodeColumn, PathRole, path);
+    item->setData(kNodeColumn, KeyRole, key);
+    item->setFlags(item->flags() | Qt::ItemIsEditable);
 }
 
 } // namespace
 
 ZRK_Form_Config_Other::ZRK_Form_Config_Other(QWidget* parent)
-    : QWidget(parent)
+    : ZRK_Form_Config_Page(parent)
     , ui(new Ui::ZRK_Designer_Form_Config_Other)
-    , m_kept(zrk::extractUnowned(nullptr, {}))
 {
     ui->setupUi(this);
     applyCaps();
@@ -102,25 +91,31 @@ void ZRK_Form_Config_Other::initForm()
     });
 }
 
-void ZRK_Form_Config_Other::setDefaultParam()
+// Defaults leave what the terminal had beyond the pages: nothing to do here.
+void ZRK_Form_Config_Other::setDefaultParam() { }
+
+void ZRK_Form_Config_Other::setEditing(ZRK_Config_Editing* editing)
 {
-    m_kept = zrk::extractUnowned(nullptr, {});
+    m_editing = editing;
+    refresh();
+}
+
+void ZRK_Form_Config_Other::refresh()
+{
     rebuildTree();
 }
 
-void ZRK_Form_Config_Other::readFormParam(CXMLWorkData* root)
+void ZRK_Form_Config_Other::showValue(const QString& path, const QString& key)
 {
-    if (!root)
+    if (m_treeStale || !m_editing)
+        return; // built from the configuration when next looked at
+    QTreeWidgetItem* item = findItem(path, key);
+    const QString value = m_editing->session().value(path, key);
+    if (!item || item->text(kValueColumn) == value)
         return;
-    m_kept = zrk::extractUnowned(root->tag(), m_owned);
-    rebuildTree();
-}
-
-void ZRK_Form_Config_Other::writeFormParam(CXMLWorkData* root)
-{
-    if (!root)
-        return;
-    zrk::appendKept(root->tag(), m_kept.get());
+    m_filling = true;
+    item->setText(kValueColumn, value);
+    m_filling = false;
 }
 
 void ZRK_Form_Config_Other::setFormEnabled(bool enabled)
@@ -128,9 +123,14 @@ void ZRK_Form_Config_Other::setFormEnabled(bool enabled)
     ui->treeWidget_Other->setEnabled(enabled);
 }
 
+const CXmlTagV2* ZRK_Form_Config_Other::shownRoot() const
+{
+    return m_editing ? m_editing->session().root() : nullptr;
+}
+
 QStringList ZRK_Form_Config_Other::keptBranchNames() const
 {
-    return zrk::topNodeNames(m_kept.get());
+    return m_editing ? m_editing->session().keptBranchNames() : QStringList();
 }
 
 void ZRK_Form_Config_Other::rebuildTree()
@@ -151,42 +151,53 @@ void ZRK_Form_Config_Other::ensureTree() const
     self->m_filling = true;
     QTreeWidget* tree = ui->treeWidget_Other;
     tree->clear();
+    const CXmlTagV2* root = shownRoot();
+    const QStringList owned = zrk::ConfigSession::ownedTopNodes();
+    const QStringList& header = zrk::configHeaderKeys();
     // Items are built detached and added at once, which spares the view a notification per row.
     QList<QTreeWidgetItem*> top;
-    if (!m_kept->values.isEmpty()) {
-        // The root's own keys come first, under the root's name.
-        auto* rootItem = new QTreeWidgetItem(QStringList(m_kept->name));
-        bindRow(rootItem, m_kept.get(), ElementRow);
-        for (CXmlTagV2* attr : m_kept->values)
-            bindRow(
-                new QTreeWidgetItem(rootItem, { QString(), attr->name, attr->value }), attr, AttributeRow);
-        top << rootItem;
+    QTreeWidgetItem* rootItem = nullptr;
+    if (!root) {
+        self->m_filling = false;
+        return;
     }
-    for (CXmlTagV2* child : m_kept->children)
-        top << elementItem(nullptr, child);
+    for (const CXmlTagV2* attr : root->values) {
+        if (header.contains(attr->name))
+            continue;
+        // The root's own keys come first, under the root's name.
+        if (!rootItem) {
+            rootItem = new QTreeWidgetItem(QStringList(root->name));
+            top << rootItem;
+        }
+        bindKey(new QTreeWidgetItem(rootItem, { QString(), attr->name, attr->value }), QString(), attr->name);
+    }
+    for (CXmlTagV2* child : root->children) {
+        if (!owned.contains(child->name))
+            top << elementItem(nullptr, child);
+    }
     tree->addTopLevelItems(top);
     tree->expandToDepth(1);
     self->m_filling = false;
     self->applyFilter();
 }
 
-QTreeWidgetItem* ZRK_Form_Config_Other::elementItem(QTreeWidgetItem* parent, CXmlTagV2* tag)
+QTreeWidgetItem* ZRK_Form_Config_Other::elementItem(QTreeWidgetItem* parent, CXmlTagV2* tag) const
 {
     if (parent && tag->values.isEmpty() && tag->children.isEmpty()) {
         auto* item = new QTreeWidgetItem(parent, { QString(), tag->name, tag->value });
-        bindRow(item, tag, TextRow);
+        bindKey(item, parent->data(kNodeColumn, PathRole).toString(), tag->name);
         return item;
     }
     auto* item = parent ? new QTreeWidgetItem(parent, QStringList(tag->name))
                         : new QTreeWidgetItem(QStringList(tag->name));
-    bindRow(item, tag, ElementRow);
+    const QString path = zrk::pathOf(tag);
+    item->setData(kNodeColumn, PathRole, path);
     for (CXmlTagV2* attr : tag->values)
-        bindRow(new QTreeWidgetItem(item, { QString(), attr->name, attr->value }), attr, AttributeRow);
+        bindKey(new QTreeWidgetItem(item, { QString(), attr->name, attr->value }), path, attr->name);
     for (CXmlTagV2* child : tag->children)
         elementItem(item, child);
     return item;
 }
-
 void ZRK_Form_Config_Other::showEvent(QShowEvent* event)
 {
     ensureTree();
@@ -238,32 +249,20 @@ bool ZRK_Form_Config_Other::filterItem(QTreeWidgetItem* item, const QString& tex
 QTreeWidgetItem* ZRK_Form_Config_Other::findItem(const QString& path, const QString& key) const
 {
     ensureTree();
-    const CXmlTagV2* node = path.isEmpty() ? m_kept.get() : zrk::childAt(m_kept.get(), path);
-    if (!node)
-        return nullptr;
-    const CXmlTagV2* target = nullptr;
-    for (const CXmlTagV2* attr : node->values) {
-        if (attr->name == key)
-            target = attr; // the last entry of a name is the one written
-    }
-    if (!target) {
-        const CXmlTagV2* child = node->children.getTagFromName(key);
-        if (child && child->values.isEmpty() && child->children.isEmpty())
-            target = child;
-    }
-    if (!target)
-        return nullptr;
     QList<QTreeWidgetItem*> stack;
     for (int i = 0; i < ui->treeWidget_Other->topLevelItemCount(); ++i)
         stack << ui->treeWidget_Other->topLevelItem(i);
+    QTreeWidgetItem* found = nullptr;
     while (!stack.isEmpty()) {
-        QTreeWidgetItem* item = stack.takeLast();
-        if (tagOf(item) == target)
-            return item;
+        QTreeWidgetItem* item = stack.takeFirst();
+        // The last entry of a key is the one written.
+        if (!key.isEmpty() && item->data(kNodeColumn, KeyRole).toString() == key
+            && item->data(kNodeColumn, PathRole).toString() == path)
+            found = item;
         for (int i = 0; i < item->childCount(); ++i)
             stack << item->child(i);
     }
-    return nullptr;
+    return found;
 }
 
 bool ZRK_Form_Config_Other::setKeptValue(const QString& path, const QString& key, const QString& value)
@@ -282,14 +281,11 @@ void ZRK_Form_Config_Other::slot_textChanged_lineEdit_Filter(const QString& text
 
 void ZRK_Form_Config_Other::slot_itemChanged_treeWidget_Other(QTreeWidgetItem* item, int column)
 {
-    if (m_filling || column != kValueColumn)
+    if (m_filling || column != kValueColumn || !m_editing)
         return;
-    const int kind = item->data(kNodeColumn, KindRole).toInt();
-    if (kind != AttributeRow && kind != TextRow)
+    const QString key = item->data(kNodeColumn, KeyRole).toString();
+    if (key.isEmpty())
         return;
-    CXmlTagV2* tag = tagOf(item);
-    if (!tag || tag->value == item->text(kValueColumn))
-        return;
-    tag->value = item->text(kValueColumn); // stored as typed: no second decoding
-    emit keptValueEdited();
+    // Stored as typed (no second decoding); the configuration tells the views back.
+    m_editing->setValue(item->data(kNodeColumn, PathRole).toString(), key, item->text(kValueColumn));
 }

@@ -20,62 +20,76 @@ using namespace zrk::fieldset;
 
 namespace {
 
-QVector<int> range(int first, int last)
-{
-    QVector<int> out;
-    for (int pos = first; pos <= last; ++pos)
-        out << pos;
-    return out;
-}
-
-QVector<int> join(std::initializer_list<QVector<int>> parts)
-{
-    QVector<int> out;
-    for (const QVector<int>& part : parts)
-        out += part;
-    return out;
-}
-
-// The tyre-count combo box stands for positions 93..96 together.
-constexpr int kTiresFirst = 93;
-constexpr int kTiresCount = 4;
-
-// Tab titles, in the order the tabs are described.
-const char* const kTabTitles[] = {
-    //% "Основные"
-    QT_TRID_NOOP("cfgo_001"),
-    //% "Навигация"
-    QT_TRID_NOOP("cfgo_002"),
-    //% "Датчики RS"
-    QT_TRID_NOOP("cfgo_003"),
-    //% "Шина CAN"
-    QT_TRID_NOOP("cfgo_004"),
-    //% "Тахограф"
-    QT_TRID_NOOP("cfgo_005"),
-    //% "Дополнительно"
-    QT_TRID_NOOP("cfgo_006"),
-    //% "Акселерометр"
-    QT_TRID_NOOP("cfgo_007"),
-    //% "Расходомер"
-    QT_TRID_NOOP("cfgo_008"),
-    //% "Рефрижератор"
-    QT_TRID_NOOP("cfgo_009"),
-    //% "Пользовательские"
-    QT_TRID_NOOP("cfgo_010"),
-};
-
 // "navigation only": the fields that make a track, besides the three every record has.
 const QVector<int> kNaviPreset = { 0, 1, 2, 8, 9, 10, 11, 12, 13, 14 };
 
+// The types a user parameter can be shown as.
+const char* const kUserTypeIds[4] = {
+    //% "Целое без знака"
+    QT_TRID_NOOP("cfgo_023"),
+    //% "Целое со знаком"
+    QT_TRID_NOOP("cfgo_024"),
+    //% "Шестнадцатеричное"
+    QT_TRID_NOOP("cfgo_025"),
+    //% "С плавающей точкой"
+    QT_TRID_NOOP("cfgo_026"),
+};
+
+int userGroupOf(int pos)
+{
+    for (int g = 3; g >= 0; --g) {
+        if (pos >= kUserFirstPos[g])
+            return g;
+    }
+    return 0;
+}
+
 } // namespace
 
-// ---- The tab base ----------------------------------------------------------------------------
+// ---- The tab ---------------------------------------------------------------------------------
 
-ZRK_Form_Config_Set_Orba3_Tab::ZRK_Form_Config_Set_Orba3_Tab(QWidget* parent)
+ZRK_Form_Config_Set_Orba3_Tab::ZRK_Form_Config_Set_Orba3_Tab(TabId id, int deviceType, QWidget* parent)
     : QWidget(parent)
     , ui(new Ui::ZRK_Designer_Form_Config_Set_Orba3_Tab)
+    , m_id(id)
+    , m_deviceType(deviceType)
 {
     ui->setupUi(this);
+    const TabDecl& decl = tabDecl(id);
+    for (const TabSection& section : decl.sections) {
+        QGroupBox* group = makeSection(section.titleId);
+        auto* grid = static_cast<QGridLayout*>(group->layout());
+        int i = 0;
+        switch (section.kind) {
+        case SectionKind::Boxes:
+            for (int pos : section.positions) {
+                grid->addWidget(makeBox(pos, group), i / decl.columns, i % decl.columns);
+                ++i;
+            }
+            break;
+        case SectionKind::TyreCount:
+            m_tiresGroup = group;
+            m_tires = new QComboBox(group);
+            m_tires->setObjectName(QStringLiteral("Tires"));
+            for (int n = 0; n <= kTiresCount; ++n)
+                m_tires->addItem(QString());
+            grid->addWidget(m_tires, 0, 0);
+            connect(m_tires, qOverload<int>(&QComboBox::currentIndexChanged), this,
+                &ZRK_Form_Config_Set_Orba3_Tab::slot_currentIndexChanged_Tires);
+            break;
+        case SectionKind::UserParams:
+            for (int pos : section.positions)
+                makeUserRow(pos, userGroupOf(pos), group, i++);
+            break;
+        }
+    }
+    ui->layout_Boxes->addStretch(1);
+    if (id == TabMain) {
+        makeAlternates();
+        for (int pos = 0; pos < kAlwaysOn; ++pos)
+            forcePosition(pos, true);
+    }
+    translateForm();
 }
 
 ZRK_Form_Config_Set_Orba3_Tab::~ZRK_Form_Config_Set_Orba3_Tab()
@@ -83,9 +97,69 @@ ZRK_Form_Config_Set_Orba3_Tab::~ZRK_Form_Config_Set_Orba3_Tab()
     delete ui;
 }
 
+QGroupBox* ZRK_Form_Config_Set_Orba3_Tab::makeSection(const char* titleId)
+{
+    auto* group = new QGroupBox(ui->widget_Boxes);
+    group->setObjectName(QStringLiteral("groupBox_%1").arg(QLatin1String(titleId)));
+    new QGridLayout(group);
+    ui->layout_Boxes->addWidget(group);
+    m_sections.append({ group, titleId });
+    return group;
+}
+
+QCheckBox* ZRK_Form_Config_Set_Orba3_Tab::makeBox(int pos, QGroupBox* section)
+{
+    auto* box = new QCheckBox(section);
+    box->setObjectName(QStringLiteral("checkBox_Field_%1").arg(pos + 1, 3, 10, QLatin1Char('0')));
+    m_boxes.insert(pos, box);
+    m_sectionOf.insert(box, section);
+    connect(box, &QCheckBox::toggled, this, [this, pos](bool on) { emit positionToggled(pos, on); });
+    return box;
+}
+
+void ZRK_Form_Config_Set_Orba3_Tab::makeUserRow(int pos, int group, QGroupBox* section, int row)
+{
+    auto* grid = static_cast<QGridLayout*>(section->layout());
+    QCheckBox* box = makeBox(pos, section);
+    auto* name = new QLineEdit(section);
+    name->setObjectName(QStringLiteral("lineEdit_UserName_%1").arg(pos + 1));
+    name->setMaxLength(32);
+    auto* type = new QComboBox(section);
+    type->setObjectName(QStringLiteral("comboBox_UserType_%1").arg(pos + 1));
+    for (int t = 0; t < userTypeCount(group); ++t)
+        type->addItem(QString());
+    grid->addWidget(box, row, 0);
+    grid->addWidget(name, row, 1);
+    grid->addWidget(type, row, 2);
+    m_names.insert(pos, name);
+    m_types.insert(pos, type);
+}
+
+// Positions 3..5 have a second box for the other device type; only one of each pair is used.
+void ZRK_Form_Config_Set_Orba3_Tab::makeAlternates()
+{
+    for (int pos = 3; pos <= 5; ++pos) {
+        QCheckBox* primary = m_boxes.value(pos);
+        auto* other = new QCheckBox(primary->parentWidget());
+        other->setObjectName(QStringLiteral("checkBox_Field_%1_Alt").arg(pos + 1, 3, 10, QLatin1Char('0')));
+        primary->parentWidget()->layout()->addWidget(other);
+        if (m_deviceType != 0) {
+            m_sectionOf.remove(primary);
+            m_sectionOf.insert(other, static_cast<QGroupBox*>(other->parentWidget()));
+            std::swap(primary, other);
+            m_boxes.insert(pos, primary);
+            connect(
+                primary, &QCheckBox::toggled, this, [this, pos](bool on) { emit positionToggled(pos, on); });
+            disconnect(other, nullptr, this, nullptr);
+        }
+        other->hide();
+        m_alternate.insert(pos, other);
+    }
+}
+
 QString ZRK_Form_Config_Set_Orba3_Tab::tabTitle() const
 {
-    return m_titleId ? qtTrId(m_titleId) : QString();
+    return qtTrId(tabDecl(m_id).titleId);
 }
 
 QList<int> ZRK_Form_Config_Set_Orba3_Tab::positions() const
@@ -95,12 +169,10 @@ QList<int> ZRK_Form_Config_Set_Orba3_Tab::positions() const
 
 int ZRK_Form_Config_Set_Orba3_Tab::tickedSize(int generation) const
 {
-    int size = 0;
-    for (auto it = m_boxes.cbegin(); it != m_boxes.cend(); ++it) {
-        if (it.value()->isChecked() && positionGeneration(it.key()) <= generation + 1)
-            size += positionWidth(it.key());
-    }
-    return size;
+    QString mask(kMaskLength, QLatin1Char('0'));
+    for (int g = 1; g <= 3; ++g)
+        writeSpan(mask, g);
+    return tabRecordSize(m_id, mask, generation);
 }
 
 bool ZRK_Form_Config_Set_Orba3_Tab::isPositionShown(int pos) const
@@ -132,49 +204,7 @@ int ZRK_Form_Config_Set_Orba3_Tab::applyFilter(const QString& text, bool onlyTic
     return inSight;
 }
 
-QVBoxLayout* ZRK_Form_Config_Set_Orba3_Tab::boxesLayout() const
-{
-    return ui->layout_Boxes;
-}
-
-QGroupBox* ZRK_Form_Config_Set_Orba3_Tab::makeSection(const char* titleId)
-{
-    auto* group = new QGroupBox(ui->widget_Boxes);
-    group->setObjectName(QStringLiteral("groupBox_%1").arg(QLatin1String(titleId)));
-    new QGridLayout(group);
-    ui->layout_Boxes->addWidget(group);
-    m_sections.append({ group, titleId });
-    return group;
-}
-
-QCheckBox* ZRK_Form_Config_Set_Orba3_Tab::makeBox(int pos, QGroupBox* section)
-{
-    auto* box = new QCheckBox(section);
-    box->setObjectName(QStringLiteral("checkBox_Field_%1").arg(pos + 1, 3, 10, QLatin1Char('0')));
-    m_boxes.insert(pos, box);
-    m_sectionOf.insert(box, section);
-    connect(box, &QCheckBox::toggled, this, [this, pos](bool on) { notifyToggled(pos, on); });
-    return box;
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab::buildSections(
-    const char* titleId, const QVector<Section>& sections, int columns)
-{
-    m_titleId = titleId;
-    for (const Section& section : sections) {
-        QGroupBox* group = makeSection(section.titleId);
-        auto* grid = static_cast<QGridLayout*>(group->layout());
-        int i = 0;
-        for (int pos : section.positions) {
-            grid->addWidget(makeBox(pos, group), i / columns, i % columns);
-            ++i;
-        }
-    }
-    ui->layout_Boxes->addStretch(1);
-    translateBoxes();
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab::translateBoxes()
+void ZRK_Form_Config_Set_Orba3_Tab::translateForm()
 {
     for (auto it = m_boxes.cbegin(); it != m_boxes.cend(); ++it) {
         const int no = it.key() + 1;
@@ -182,8 +212,26 @@ void ZRK_Form_Config_Set_Orba3_Tab::translateBoxes()
         //% "Поле %1, размер в записи: %2 байт"
         it.value()->setToolTip(qtTrId("cfgo_015").arg(no).arg(positionWidth(it.key())));
     }
+    for (auto it = m_alternate.cbegin(); it != m_alternate.cend(); ++it)
+        it.value()->setText(orba::fieldLabel(it.key() + 1));
     for (const auto& section : qAsConst(m_sections))
         section.first->setTitle(qtTrId(section.second));
+    if (m_tires) {
+        //% "Нет"
+        m_tires->setItemText(0, qtTrId("cfgo_022"));
+        const int upTo[] = { 0, 2, 6, 14, 30 };
+        for (int i = 1; i <= kTiresCount; ++i)
+            m_tires->setItemText(i, QStringLiteral("1–%1").arg(upTo[i]));
+        //% "Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30"
+        m_tires->setToolTip(qtTrId("cfgo_028"));
+    }
+    for (QComboBox* type : qAsConst(m_types)) {
+        for (int t = 0; t < type->count(); ++t)
+            type->setItemText(t, qtTrId(kUserTypeIds[t]));
+    }
+    for (QLineEdit* name : qAsConst(m_names))
+        //% "Название параметра"
+        name->setPlaceholderText(qtTrId("cfgo_027"));
 }
 
 void ZRK_Form_Config_Set_Orba3_Tab::writeSpan(QString& mask, int g) const
@@ -192,6 +240,8 @@ void ZRK_Form_Config_Set_Orba3_Tab::writeSpan(QString& mask, int g) const
         if (positionGeneration(it.key()) == g && it.key() < mask.size())
             mask[it.key()] = QLatin1Char(it.value()->isChecked() ? '1' : '0');
     }
+    if (m_tires && positionGeneration(kTiresFirst) == g && mask.size() >= kTiresFirst + kTiresCount)
+        mask.replace(kTiresFirst, kTiresCount, tiresText(m_tiresIndex));
 }
 
 void ZRK_Form_Config_Set_Orba3_Tab::readSpan(const QString& mask, int g)
@@ -203,6 +253,12 @@ void ZRK_Form_Config_Set_Orba3_Tab::readSpan(const QString& mask, int g)
             || (it.key() < mask.size() && mask.at(it.key()) == QLatin1Char('1'));
         it.value()->setChecked(on);
     }
+    if (m_tires && positionGeneration(kTiresFirst) == g)
+        m_tires->setCurrentIndex(tiresIndex(mask.mid(kTiresFirst, kTiresCount)));
+    if (g == 1) {
+        for (auto it = m_alternate.cbegin(); it != m_alternate.cend(); ++it)
+            it.value()->setChecked(m_boxes.value(it.key())->isChecked());
+    }
 }
 
 void ZRK_Form_Config_Set_Orba3_Tab::enableSpan(int g, bool enabled)
@@ -212,6 +268,8 @@ void ZRK_Form_Config_Set_Orba3_Tab::enableSpan(int g, bool enabled)
         if (positionGeneration(it.key()) == g)
             refreshBox(it.key());
     }
+    if (m_tires && positionGeneration(kTiresFirst) == g)
+        m_tires->setEnabled(enabled);
 }
 
 void ZRK_Form_Config_Set_Orba3_Tab::showPosition(int pos, bool shown)
@@ -255,6 +313,12 @@ void ZRK_Form_Config_Set_Orba3_Tab::lockPosition(int pos, bool locked)
     refreshBox(pos);
 }
 
+void ZRK_Form_Config_Set_Orba3_Tab::showTyres(bool shown)
+{
+    if (m_tiresGroup)
+        m_tiresGroup->setVisible(shown);
+}
+
 void ZRK_Form_Config_Set_Orba3_Tab::refreshBox(int pos)
 {
     QCheckBox* b = m_boxes.value(pos);
@@ -269,737 +333,44 @@ void ZRK_Form_Config_Set_Orba3_Tab::refreshSections()
 {
     for (const auto& section : qAsConst(m_sections)) {
         bool any = false;
-        for (auto it = m_sectionOf.cbegin(); it != m_sectionOf.cend() && !any; ++it)
-            any = it.value() == section.first && !it.key()->isHidden();
-        // A section without boxes of its own (the tyre combo) keeps its own visibility.
         bool owns = false;
-        for (auto it = m_sectionOf.cbegin(); it != m_sectionOf.cend() && !owns; ++it)
-            owns = it.value() == section.first;
+        for (auto it = m_sectionOf.cbegin(); it != m_sectionOf.cend() && !any; ++it) {
+            if (it.value() != section.first)
+                continue;
+            owns = true;
+            any = !it.key()->isHidden();
+        }
+        // A section without boxes of its own (the tyre list) keeps its own visibility.
         if (owns)
             section.first->setVisible(any);
     }
 }
 
-void ZRK_Form_Config_Set_Orba3_Tab::notifyToggled(int pos, bool on)
-{
-    emit positionToggled(pos, on);
-}
-
-// ---- Main ------------------------------------------------------------------------------------
-
-namespace {
-const QVector<int> kMainAnalogue = range(20, 27);
-const QVector<int> kMainPulse = join({ range(32, 33), range(126, 131) });
-const QVector<int> kMainFrequency = join({ range(34, 35), range(132, 137) });
-const QVector<int> kMainTemp = range(44, 51);
-} // namespace
-
-ZRK_Form_Config_Set_Orba3_Tab_Main::ZRK_Form_Config_Set_Orba3_Tab_Main(int deviceType, QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-    , m_deviceType(deviceType)
-{
-    buildSections(kTabTitles[0],
-        {
-            //% "Запись и состояние терминала"
-            { QT_TRID_NOOP("cfgo_050"), join({ range(0, 6), range(122, 124), { 199 } }) },
-            //% "Питание"
-            { QT_TRID_NOOP("cfgo_051"), range(18, 19) },
-            //% "Аналоговые входы"
-            { QT_TRID_NOOP("cfgo_052"), kMainAnalogue },
-            //% "Дискретные входы и выходы"
-            { QT_TRID_NOOP("cfgo_053"), { 28, 29, 125, 30, 31 } },
-            //% "Счётчики импульсов и частота"
-            { QT_TRID_NOOP("cfgo_054"), join({ kMainPulse, kMainFrequency }) },
-            //% "Моточасы"
-            { QT_TRID_NOOP("cfgo_055"), { 36, 204, 205 } },
-            //% "Температура"
-            { QT_TRID_NOOP("cfgo_056"), kMainTemp },
-        });
-    // Positions 3..5 have a second box for the other device type; only one of each pair is used.
-    for (int pos = 3; pos <= 5; ++pos) {
-        QCheckBox* primary = m_boxes.value(pos);
-        auto* other = new QCheckBox(primary->parentWidget());
-        other->setObjectName(QStringLiteral("checkBox_Field_%1_Alt").arg(pos + 1, 3, 10, QLatin1Char('0')));
-        primary->parentWidget()->layout()->addWidget(other);
-        if (m_deviceType != 0) {
-            m_sectionOf.remove(primary);
-            m_sectionOf.insert(other, static_cast<QGroupBox*>(other->parentWidget()));
-            std::swap(primary, other);
-            m_boxes.insert(pos, primary);
-            connect(primary, &QCheckBox::toggled, this, [this, pos](bool on) { notifyToggled(pos, on); });
-            disconnect(other, nullptr, this, nullptr);
-        }
-        other->hide();
-        m_alternate.insert(pos, other);
-    }
-    for (int pos = 0; pos < kAlwaysOn; ++pos)
-        forcePosition(pos, true);
-    translateForm();
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::translateForm()
-{
-    translateBoxes();
-    for (auto it = m_alternate.cbegin(); it != m_alternate.cend(); ++it)
-        it.value()->setText(orba::fieldLabel(it.key() + 1));
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::getStrFormat_Orba_1(QString& mask)
-{
-    writeSpan(mask, 1);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Main::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setStrFormat_Orba_1(QString mask)
-{
-    readSpan(mask, 1);
-    for (auto it = m_alternate.cbegin(); it != m_alternate.cend(); ++it)
-        it.value()->setChecked(m_boxes.value(it.key())->isChecked());
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setFormat_Enabled_Orba_1(bool enabled)
-{
-    enableSpan(1, enabled);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceUseState(bool state, bool state2)
-{
-    showPosition(3, state);
-    showPosition(122, state2);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceAlwaysUseState(bool state, bool state2)
-{
-    forcePosition(3, state);
-    forcePosition(122, state2);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceUseModule(bool module1, bool module2, bool module3)
-{
-    showPosition(4, module1);
-    showPosition(5, module2);
-    showPosition(123, module3);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceAlwaysUseModule(bool module1, bool module2, bool module3)
-{
-    forcePosition(4, module1);
-    forcePosition(5, module2);
-    forcePosition(123, module3);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceUseGSM(bool gsm, bool connections)
-{
-    showPosition(6, gsm);
-    showPosition(124, connections);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceUseMotochas(bool motochas, bool loadOn, bool loadOff)
-{
-    showPosition(36, motochas);
-    showPosition(204, loadOn);
-    showPosition(205, loadOff);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceEnabledMotochasMore(bool enabled)
-{
-    lockPosition(204, !enabled);
-    lockPosition(205, !enabled);
-}
-
-// Outputs and input states come eight to a byte.
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setMaxCountLinesOut(int count)
-{
-    showFirst({ 30, 31 }, (count + 7) / 8);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setMaxCountStateIn(int count)
-{
-    showFirst({ 28, 29, 125 }, (count + 7) / 8);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setMaxCountLinesIn(int count)
-{
-    showFirst(kMainAnalogue, count);
-    showFirst(kMainPulse, count);
-    showFirst(kMainFrequency, count);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setMaxCountSensorsTemp(int count)
-{
-    showFirst(kMainTemp, count);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Main::setDeviceUseReservPower(bool use)
-{
-    m_useReserv = use;
-    showPosition(kPosReserv, use);
-}
-
-// ---- Navigation ------------------------------------------------------------------------------
-
-ZRK_Form_Config_Set_Orba3_Tab_Navi::ZRK_Form_Config_Set_Orba3_Tab_Navi(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    buildSections(kTabTitles[1],
-        {
-            //% "Координаты и движение"
-            { QT_TRID_NOOP("cfgo_057"), range(7, 17) },
-            //% "Навигационный приёмник"
-            { QT_TRID_NOOP("cfgo_058"), range(69, 75) },
-            //% "Базовые станции"
-            { QT_TRID_NOOP("cfgo_059"), { 76 } },
-        });
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::translateForm()
-{
-    translateBoxes();
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::getStrFormat_Orba_1(QString& mask)
-{
-    writeSpan(mask, 1);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::getStrFormat_Orba_2(QString& mask)
-{
-    writeSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::setStrFormat_Orba_1(QString mask)
-{
-    readSpan(mask, 1);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::setStrFormat_Orba_2(QString mask)
-{
-    readSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::setFormat_Enabled_Orba_1(bool enabled)
-{
-    enableSpan(1, enabled);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::setFormat_Enabled_Orba_2(bool enabled)
-{
-    enableSpan(2, enabled);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::setDeviceUseNaviMore(bool naviMore, bool preciseCoord)
-{
-    for (int pos : { 69, 70, 71, 73, 74, 75 })
-        showPosition(pos, naviMore);
-    showPosition(72, naviMore && preciseCoord);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Navi::setDeviceUseLBS(bool use)
-{
-    showPosition(76, use);
-}
-
-// ---- Serial sensors --------------------------------------------------------------------------
-
-namespace {
-const QVector<int> kRsLevel = join({ range(37, 42), range(83, 92) }); // sensors 1..16 in order
-const QVector<int> kRsTemp = range(77, 82); // sensors 1..6
-const QVector<int> kRsFreq = range(146, 161); // sensors 1..16
-} // namespace
-
-ZRK_Form_Config_Set_Orba3_Tab_RS::ZRK_Form_Config_Set_Orba3_Tab_RS(
-    bool rs232, bool rs485Temp, bool rs485Freq, QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-    , m_rs485Temp(rs485Temp)
-    , m_rs485Freq(rs485Freq)
-{
-    buildSections(kTabTitles[2],
-        {
-            //% "ДУТ RS-485 1–6 и RS-232"
-            { QT_TRID_NOOP("cfgo_060"), range(37, 43) },
-            //% "Температура ДУТ RS-485"
-            { QT_TRID_NOOP("cfgo_061"), kRsTemp },
-            //% "ДУТ RS-485 7–16"
-            { QT_TRID_NOOP("cfgo_062"), range(83, 92) },
-            //% "Частота ДУТ RS-485"
-            { QT_TRID_NOOP("cfgo_063"), kRsFreq },
-        });
-    showPosition(43, rs232);
-    setRS485_FLS_MaxCount(16);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_RS::setRS485_FLS_MaxCount(int count)
-{
-    showFirst(kRsLevel, count);
-    showFirst(kRsTemp, m_rs485Temp ? count : 0);
-    showFirst(kRsFreq, m_rs485Freq ? count : 0);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_RS::translateForm()
-{
-    translateBoxes();
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::getStrFormat_Orba_1(QString& mask)
-{
-    writeSpan(mask, 1);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::getStrFormat_Orba_2(QString& mask)
-{
-    writeSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::setStrFormat_Orba_1(QString mask)
-{
-    readSpan(mask, 1);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::setStrFormat_Orba_2(QString mask)
-{
-    readSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::setFormat_Enabled_Orba_1(bool enabled)
-{
-    enableSpan(1, enabled);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::setFormat_Enabled_Orba_2(bool enabled)
-{
-    enableSpan(2, enabled);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_RS::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-// ---- CAN -------------------------------------------------------------------------------------
-
-ZRK_Form_Config_Set_Orba3_Tab_CAN::ZRK_Form_Config_Set_Orba3_Tab_CAN(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    buildSections(kTabTitles[3],
-        {
-            //% "Данные шины CAN"
-            { QT_TRID_NOOP("cfgo_064"), range(52, 68) },
-            //% "Состояние систем ТС по CAN"
-            { QT_TRID_NOOP("cfgo_065"), range(200, 203) },
-        });
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::setDeviceUseCANState(bool use)
-{
-    showFirst(range(200, 203), use ? 4 : 0);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::translateForm()
-{
-    translateBoxes();
-}
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::getStrFormat_Orba_1(QString& mask)
-{
-    writeSpan(mask, 1);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::setStrFormat_Orba_1(QString mask)
-{
-    readSpan(mask, 1);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::setFormat_Enabled_Orba_1(bool enabled)
-{
-    enableSpan(1, enabled);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_CAN::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-// ---- Tachograph ------------------------------------------------------------------------------
-
-ZRK_Form_Config_Set_Orba3_Tab_Taho::ZRK_Form_Config_Set_Orba3_Tab_Taho(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    buildSections(kTabTitles[4],
-        {
-            //% "Данные тахографа"
-            { QT_TRID_NOOP("cfgo_066"), range(97, 102) },
-        });
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Taho::translateForm()
-{
-    translateBoxes();
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Taho::getStrFormat_Orba_2(QString& mask)
-{
-    writeSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Taho::setStrFormat_Orba_2(QString mask)
-{
-    readSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Taho::setFormat_Enabled_Orba_2(bool enabled)
-{
-    enableSpan(2, enabled);
-}
-
-// ---- More ------------------------------------------------------------------------------------
-
-namespace {
-const QVector<int> kPassager = range(109, 116);
-const QVector<int> kHpTemp = range(162, 165);
-const QVector<int> kHumidity = range(166, 169);
-} // namespace
-
-ZRK_Form_Config_Set_Orba3_Tab_More::ZRK_Form_Config_Set_Orba3_Tab_More(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    //% "Датчики давления в шинах"
-    m_tiresGroup = makeSection(QT_TRID_NOOP("cfgo_021"));
-    m_tires = new QComboBox(m_tiresGroup);
-    m_tires->setObjectName(QStringLiteral("Tires"));
-    for (int i = 0; i <= kTiresCount; ++i)
-        m_tires->addItem(QString());
-    static_cast<QGridLayout*>(m_tiresGroup->layout())->addWidget(m_tires, 0, 0);
-    buildSections(kTabTitles[5],
-        {
-            //% "Диспетчерские сообщения"
-            { QT_TRID_NOOP("cfgo_067"), range(103, 104) },
-            //% "Пассажиропоток"
-            { QT_TRID_NOOP("cfgo_068"), kPassager },
-            //% "Автоинформатор"
-            { QT_TRID_NOOP("cfgo_069"), range(117, 120) },
-            //% "Камера и акселерометр ТС"
-            { QT_TRID_NOOP("cfgo_070"), { 121, 141 } },
-            //% "Точная температура"
-            { QT_TRID_NOOP("cfgo_071"), kHpTemp },
-            //% "Влажность"
-            { QT_TRID_NOOP("cfgo_072"), kHumidity },
-        });
-    connect(m_tires, qOverload<int>(&QComboBox::currentIndexChanged), this,
-        &ZRK_Form_Config_Set_Orba3_Tab_More::slot_currentIndexChanged_Tires);
-    translateForm();
-}
-
-QString ZRK_Form_Config_Set_Orba3_Tab_More::tiresText(int index)
-{
-    const int n = qBound(0, index, kTiresCount);
-    return QString(n, QLatin1Char('1')) + QString(kTiresCount - n, QLatin1Char('0'));
-}
-
-// The count of leading "1"s: a gap ("1010") means the sensors after it are not there.
-int ZRK_Form_Config_Set_Orba3_Tab_More::tiresIndex(const QString& fourChars)
-{
-    int n = 0;
-    while (n < kTiresCount && n < fourChars.size() && fourChars.at(n) == QLatin1Char('1'))
-        ++n;
-    return n;
-}
-
-int ZRK_Form_Config_Set_Orba3_Tab_More::tickedSize(int generation) const
-{
-    int size = ZRK_Form_Config_Set_Orba3_Tab::tickedSize(generation);
-    if (generation >= 1) {
-        for (int i = 0; i < m_tiresIndex; ++i)
-            size += positionWidth(kTiresFirst + i);
-    }
-    return size;
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_More::slot_currentIndexChanged_Tires(int index)
+void ZRK_Form_Config_Set_Orba3_Tab::slot_currentIndexChanged_Tires(int index)
 {
     const int before = m_tiresIndex;
     m_tiresIndex = qBound(0, index, kTiresCount);
     for (int i = qMin(before, m_tiresIndex); i < qMax(before, m_tiresIndex); ++i)
-        notifyToggled(kTiresFirst + i, m_tiresIndex > before);
+        emit positionToggled(kTiresFirst + i, m_tiresIndex > before);
 }
 
-void ZRK_Form_Config_Set_Orba3_Tab_More::translateForm()
+void ZRK_Form_Config_Set_Orba3_Tab::setDefaultParam()
 {
-    translateBoxes();
-    //% "Нет"
-    m_tires->setItemText(0, qtTrId("cfgo_022"));
-    const int upTo[] = { 0, 2, 6, 14, 30 };
-    for (int i = 1; i <= kTiresCount; ++i)
-        m_tires->setItemText(i, QStringLiteral("1–%1").arg(upTo[i]));
-    //% "Поля 94–97: шины 1–2, 3–6, 7–14 и 15–30"
-    m_tires->setToolTip(qtTrId("cfgo_028"));
+    if (!m_names.isEmpty())
+        setUserParams(defaultUserParams());
 }
 
-void ZRK_Form_Config_Set_Orba3_Tab_More::getStrFormat_Orba_2(QString& mask)
+void ZRK_Form_Config_Set_Orba3_Tab::setFormEnabled(bool enabled)
 {
-    writeSpan(mask, 2);
-    if (mask.size() >= kTiresFirst + kTiresCount)
-        mask.replace(kTiresFirst, kTiresCount, tiresText(m_tiresIndex));
+    // Only the user parameters give way when the record is too long.
+    if (!m_names.isEmpty())
+        setEnabled(enabled);
 }
 
-void ZRK_Form_Config_Set_Orba3_Tab_More::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_More::setStrFormat_Orba_2(QString mask)
-{
-    readSpan(mask, 2);
-    m_tires->setCurrentIndex(tiresIndex(mask.mid(kTiresFirst, kTiresCount)));
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_More::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_More::setFormat_Enabled_Orba_2(bool enabled)
-{
-    enableSpan(2, enabled);
-    m_tires->setEnabled(enabled);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_More::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_More::setDeviceUsePassager(bool use)
-{
-    showFirst(kPassager, use ? 8 : 0);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_More::setDeviceUseTires(bool use)
-{
-    m_tiresGroup->setVisible(use);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_More::setDeviceUseDisp(bool use)
-{
-    showFirst({ 103, 104 }, use ? 2 : 0);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_More::setDeviceUseVAccelAxels(bool use)
-{
-    showPosition(141, use);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_More::setDeviceUseAinf(bool use)
-{
-    showFirst(range(117, 120), use ? 4 : 0);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_More::setDeviceUseCamera(bool use)
-{
-    showPosition(121, use);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_More::setMaxCountHighPrecisionTemp(int count)
-{
-    showFirst(kHpTemp, count);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_More::setMaxCountHighPrecisionHumidity(int count)
-{
-    showFirst(kHumidity, count);
-}
-
-// ---- Accelerometer, flow meter, refrigerator -------------------------------------------------
-
-ZRK_Form_Config_Set_Orba3_Tab_Accel::ZRK_Form_Config_Set_Orba3_Tab_Accel(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    buildSections(kTabTitles[6],
-        {
-            //% "Акселерометр терминала"
-            { QT_TRID_NOOP("cfgo_073"), range(105, 108) },
-            //% "Акселерометр ТС и эко-вождение"
-            { QT_TRID_NOOP("cfgo_074"), join({ range(138, 140), range(142, 145) }) },
-        });
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Accel::translateForm()
-{
-    translateBoxes();
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Accel::getStrFormat_Orba_2(QString& mask)
-{
-    writeSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Accel::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Accel::setStrFormat_Orba_2(QString mask)
-{
-    readSpan(mask, 2);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Accel::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Accel::setFormat_Enabled_Orba_2(bool enabled)
-{
-    enableSpan(2, enabled);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Accel::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-ZRK_Form_Config_Set_Orba3_Tab_FFS::ZRK_Form_Config_Set_Orba3_Tab_FFS(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    buildSections(kTabTitles[7],
-        {
-            //% "Расходомер топлива"
-            { QT_TRID_NOOP("cfgo_075"), range(170, 180) },
-        });
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_FFS::translateForm()
-{
-    translateBoxes();
-}
-void ZRK_Form_Config_Set_Orba3_Tab_FFS::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_FFS::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_FFS::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-ZRK_Form_Config_Set_Orba3_Tab_Refr::ZRK_Form_Config_Set_Orba3_Tab_Refr(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    buildSections(kTabTitles[8],
-        {
-            //% "Рефрижераторная установка"
-            { QT_TRID_NOOP("cfgo_076"), range(181, 198) },
-        });
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_Refr::translateForm()
-{
-    translateBoxes();
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Refr::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Refr::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_Refr::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-// ---- User parameters -------------------------------------------------------------------------
-
-ZRK_Form_Config_Set_Orba3_Tab_User::ZRK_Form_Config_Set_Orba3_Tab_User(QWidget* parent)
-    : ZRK_Form_Config_Set_Orba3_Tab(parent)
-{
-    setTitleId(kTabTitles[9]);
-    const char* titles[4] = {
-        //% "Параметры 1 байт"
-        QT_TRID_NOOP("cfgo_077"),
-        //% "Параметры 2 байта"
-        QT_TRID_NOOP("cfgo_078"),
-        //% "Параметры 4 байта"
-        QT_TRID_NOOP("cfgo_079"),
-        //% "Параметры 8 байт"
-        QT_TRID_NOOP("cfgo_080"),
-    };
-    for (int g = 0; g < 4; ++g) {
-        QGroupBox* group = makeSection(titles[g]);
-        auto* grid = static_cast<QGridLayout*>(group->layout());
-        for (int i = 0; i < kUserCounts[g]; ++i) {
-            const int pos = kUserFirstPos[g] + i;
-            QCheckBox* box = makeBox(pos, group);
-            auto* name = new QLineEdit(group);
-            name->setObjectName(QStringLiteral("lineEdit_UserName_%1").arg(pos + 1));
-            name->setMaxLength(32);
-            auto* type = new QComboBox(group);
-            type->setObjectName(QStringLiteral("comboBox_UserType_%1").arg(pos + 1));
-            fillTypes(type, g);
-            grid->addWidget(box, i, 0);
-            grid->addWidget(name, i, 1);
-            grid->addWidget(type, i, 2);
-            m_names.insert(pos, name);
-            m_types.insert(pos, type);
-        }
-    }
-    boxesLayout()->addStretch(1);
-    translateForm();
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_User::fillTypes(QComboBox* box, int group)
-{
-    box->clear();
-    for (int t = 0; t < userTypeCount(group); ++t)
-        box->addItem(QString());
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_User::translateForm()
-{
-    translateBoxes();
-    const char* typeIds[4] = {
-        //% "Целое без знака"
-        QT_TRID_NOOP("cfgo_023"),
-        //% "Целое со знаком"
-        QT_TRID_NOOP("cfgo_024"),
-        //% "Шестнадцатеричное"
-        QT_TRID_NOOP("cfgo_025"),
-        //% "С плавающей точкой"
-        QT_TRID_NOOP("cfgo_026"),
-    };
-    for (QComboBox* type : qAsConst(m_types)) {
-        for (int t = 0; t < type->count(); ++t)
-            type->setItemText(t, qtTrId(typeIds[t]));
-    }
-    for (QLineEdit* name : qAsConst(m_names))
-        //% "Название параметра"
-        name->setPlaceholderText(qtTrId("cfgo_027"));
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_User::setDefaultParam()
-{
-    setUserParams(defaultUserParams());
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_User::setFormEnabled(bool enabled)
-{
-    setEnabled(enabled);
-}
-
-void ZRK_Form_Config_Set_Orba3_Tab_User::getStrFormat_Orba_3(QString& mask)
-{
-    writeSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_User::setStrFormat_Orba_3(QString mask)
-{
-    readSpan(mask, 3);
-}
-void ZRK_Form_Config_Set_Orba3_Tab_User::setFormat_Enabled_Orba_3(bool enabled)
-{
-    enableSpan(3, enabled);
-}
-
-zrk::fieldset::UserParams ZRK_Form_Config_Set_Orba3_Tab_User::userParams() const
+zrk::fieldset::UserParams ZRK_Form_Config_Set_Orba3_Tab::userParams() const
 {
     UserParams params;
-    for (int g = 0; g < 4; ++g) {
+    for (int g = 0; g < 4 && !m_names.isEmpty(); ++g) {
         for (int i = 0; i < kUserCounts[g]; ++i) {
             const int pos = kUserFirstPos[g] + i;
             params.names[g] << m_names.value(pos)->text();
@@ -1010,9 +381,9 @@ zrk::fieldset::UserParams ZRK_Form_Config_Set_Orba3_Tab_User::userParams() const
     return params;
 }
 
-void ZRK_Form_Config_Set_Orba3_Tab_User::setUserParams(const zrk::fieldset::UserParams& params)
+void ZRK_Form_Config_Set_Orba3_Tab::setUserParams(const zrk::fieldset::UserParams& params)
 {
-    for (int g = 0; g < 4; ++g) {
+    for (int g = 0; g < 4 && !m_names.isEmpty(); ++g) {
         for (int i = 0; i < kUserCounts[g]; ++i) {
             const int pos = kUserFirstPos[g] + i;
             m_names.value(pos)->setText(params.names[g].value(i));
@@ -1022,22 +393,22 @@ void ZRK_Form_Config_Set_Orba3_Tab_User::setUserParams(const zrk::fieldset::User
     }
 }
 
-void ZRK_Form_Config_Set_Orba3_Tab_User::readUserParam(CXMLWorkData* root)
+void ZRK_Form_Config_Set_Orba3_Tab::readUserParam(CXMLWorkData* root)
 {
-    if (root)
+    if (root && !m_names.isEmpty())
         setUserParams(readUserParams(root));
 }
 
-void ZRK_Form_Config_Set_Orba3_Tab_User::writeUserParam(CXMLWorkData* root)
+void ZRK_Form_Config_Set_Orba3_Tab::writeUserParam(CXMLWorkData* root)
 {
-    if (root)
+    if (root && !m_names.isEmpty())
         writeUserParams(root, userParams());
 }
 
 // ---- The page --------------------------------------------------------------------------------
 
 ZRK_Form_Config_Set_Orba3::ZRK_Form_Config_Set_Orba3(QWidget* parent)
-    : QWidget(parent)
+    : ZRK_Form_Config_Page(parent)
     , ui(new Ui::ZRK_Designer_Form_Config_Set_Orba3)
 {
     ui->setupUi(this);
@@ -1089,8 +460,9 @@ void ZRK_Form_Config_Set_Orba3::initForm()
     connect(ui->PresetFile, &QPushButton::pressed, this, &ZRK_Form_Config_Set_Orba3::slot_pressed_PresetFile);
 }
 
-void ZRK_Form_Config_Set_Orba3::addTab(ZRK_Form_Config_Set_Orba3_Tab* tab)
+ZRK_Form_Config_Set_Orba3_Tab* ZRK_Form_Config_Set_Orba3::addTab(TabId id, int deviceType)
 {
+    auto* tab = new ZRK_Form_Config_Set_Orba3_Tab(id, deviceType);
     m_tabs.append(tab);
     ui->tabWidget_Tabs->addTab(tab, tab->tabTitle());
     connect(tab, &ZRK_Form_Config_Set_Orba3_Tab::positionToggled, this,
@@ -1099,66 +471,72 @@ void ZRK_Form_Config_Set_Orba3::addTab(ZRK_Form_Config_Set_Orba3_Tab* tab)
     tab->setFormat_Enabled_Orba_1(true);
     tab->setFormat_Enabled_Orba_2(g >= 1);
     tab->setFormat_Enabled_Orba_3(g >= 2);
+    return tab;
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_Main(int deviceType)
 {
     if (!m_tabMain)
-        addTab(m_tabMain = new ZRK_Form_Config_Set_Orba3_Tab_Main(deviceType));
+        m_tabMain = addTab(TabMain, deviceType);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_Navi()
 {
     if (!m_tabNavi)
-        addTab(m_tabNavi = new ZRK_Form_Config_Set_Orba3_Tab_Navi);
+        m_tabNavi = addTab(TabNavi);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_RS(bool rs232, bool rs485Temp, bool rs485Freq)
 {
-    if (!m_tabRS)
-        addTab(m_tabRS = new ZRK_Form_Config_Set_Orba3_Tab_RS(rs232, rs485Temp, rs485Freq));
+    if (m_tabRS)
+        return;
+    m_tabRS = addTab(TabRS);
+    m_rs485Temp = rs485Temp;
+    m_rs485Freq = rs485Freq;
+    m_tabRS->showPosition(43, rs232);
+    setRS485_FLS_MaxCount(16);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_CAN()
 {
     if (!m_tabCAN)
-        addTab(m_tabCAN = new ZRK_Form_Config_Set_Orba3_Tab_CAN);
+        m_tabCAN = addTab(TabCAN);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_Taho()
 {
     if (!m_tabTaho)
-        addTab(m_tabTaho = new ZRK_Form_Config_Set_Orba3_Tab_Taho);
+        m_tabTaho = addTab(TabTaho);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_Accel()
 {
     if (!m_tabAccel)
-        addTab(m_tabAccel = new ZRK_Form_Config_Set_Orba3_Tab_Accel);
+        m_tabAccel = addTab(TabAccel);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_Refr()
 {
     if (!m_tabRefr)
-        addTab(m_tabRefr = new ZRK_Form_Config_Set_Orba3_Tab_Refr);
+        m_tabRefr = addTab(TabRefr);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_FFS()
 {
     if (!m_tabFFS)
-        addTab(m_tabFFS = new ZRK_Form_Config_Set_Orba3_Tab_FFS);
+        m_tabFFS = addTab(TabFFS);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_More()
 {
     if (!m_tabMore)
-        addTab(m_tabMore = new ZRK_Form_Config_Set_Orba3_Tab_More);
+        m_tabMore = addTab(TabMore);
 }
 
 void ZRK_Form_Config_Set_Orba3::createTab_User()
 {
     if (!m_tabUser)
-        addTab(m_tabUser = new ZRK_Form_Config_Set_Orba3_Tab_User);
+        m_tabUser = addTab(TabUser);
 }
 
 // Main first and user last, whatever order they were created in.
@@ -1327,7 +705,7 @@ void ZRK_Form_Config_Set_Orba3::setDefaultParam()
         const QSignalBlocker block(ui->FlashFormat);
         ui->FlashFormat->setCurrentIndex(0);
     }
-    m_defMask = zrk::fieldset::defaultMask(m_useDefState2, m_tabMain ? m_tabMain->isUseReservPower() : true);
+    m_defMask = zrk::fieldset::defaultMask(m_useDefState2, m_useReserv);
     setStrFormatQuiet(m_defMask);
     for (auto* tab : qAsConst(m_tabs))
         tab->setDefaultParam();
@@ -1348,6 +726,45 @@ void ZRK_Form_Config_Set_Orba3::writeFormParam(CXMLWorkData* root)
     if (!root)
         return;
     writeFieldSet(root, { getTypeDFProtocol(), getStrFormat() });
+}
+
+QVector<zrk::cfg::BranchDecl> ZRK_Form_Config_Set_Orba3::shownBranches() const
+{
+    return { zrk::cfg::protocolBranch(m_useDefState2), zrk::cfg::userParamBranch() };
+}
+
+// The user branch's values run by width: the type digits, then the names.
+zrk::cfg::Values ZRK_Form_Config_Set_Orba3::shownValues(int branch) const
+{
+    if (branch == 0)
+        return { getTypeDFProtocol(), getStrFormat() };
+    zrk::cfg::Values values;
+    const UserParams params = m_tabUser ? m_tabUser->userParams() : defaultUserParams();
+    for (int g = 0; g < 4; ++g) {
+        values << params.types[g];
+        for (const QString& name : params.names[g])
+            values << name;
+    }
+    return values;
+}
+
+void ZRK_Form_Config_Set_Orba3::showValues(int branch, const zrk::cfg::Values& values)
+{
+    if (branch == 0) {
+        setTypeDFProtocol(values.value(0));
+        setStrFormat(values.value(1));
+        return;
+    }
+    if (!m_tabUser)
+        return;
+    UserParams params;
+    int at = 0;
+    for (int g = 0; g < 4; ++g) {
+        params.types[g] = values.value(at++);
+        for (int i = 0; i < kUserCounts[g]; ++i)
+            params.names[g] << values.value(at++);
+    }
+    m_tabUser->setUserParams(params);
 }
 
 void ZRK_Form_Config_Set_Orba3::deviceConnect()
@@ -1407,8 +824,7 @@ void ZRK_Form_Config_Set_Orba3::openTabUser()
 
 void ZRK_Form_Config_Set_Orba3::applyPresetDefault()
 {
-    setStrFormat(
-        zrk::fieldset::defaultMask(m_useDefState2, m_tabMain ? m_tabMain->isUseReservPower() : true));
+    setStrFormat(zrk::fieldset::defaultMask(m_useDefState2, m_useReserv));
 }
 
 void ZRK_Form_Config_Set_Orba3::applyPresetNavigation()
@@ -1478,109 +894,176 @@ void ZRK_Form_Config_Set_Orba3::slot_pressed_PresetFile()
         QMessageBox::warning(this, qtTrId("cfgo_029"), error);
 }
 
-// ---- Device description forwards -------------------------------------------------------------
+// ---- Device description: each setter shows, locks or ticks the boxes of its tab ----------------
 
-#define ZRK_FORWARD(tab, call)                                                                               \
-    do {                                                                                                     \
-        if (tab)                                                                                             \
-            tab->call;                                                                                       \
-    } while (0)
-
-void ZRK_Form_Config_Set_Orba3::setDeviceUseState(bool a, bool b)
+void ZRK_Form_Config_Set_Orba3::setDeviceUseState(bool state, bool state2)
 {
-    ZRK_FORWARD(m_tabMain, setDeviceUseState(a, b));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceAlwaysUseState(bool a, bool b)
-{
-    ZRK_FORWARD(m_tabMain, setDeviceAlwaysUseState(a, b));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseModule(bool a, bool b, bool c)
-{
-    ZRK_FORWARD(m_tabMain, setDeviceUseModule(a, b, c));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceAlwaysUseModule(bool a, bool b, bool c)
-{
-    ZRK_FORWARD(m_tabMain, setDeviceAlwaysUseModule(a, b, c));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseGSM(bool a, bool b)
-{
-    ZRK_FORWARD(m_tabMain, setDeviceUseGSM(a, b));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseMotochas(bool a, bool b, bool c)
-{
-    ZRK_FORWARD(m_tabMain, setDeviceUseMotochas(a, b, c));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceEnabledMotochasMore(bool e)
-{
-    ZRK_FORWARD(m_tabMain, setDeviceEnabledMotochasMore(e));
-}
-void ZRK_Form_Config_Set_Orba3::setMaxCountLinesOut(int n)
-{
-    ZRK_FORWARD(m_tabMain, setMaxCountLinesOut(n));
-}
-void ZRK_Form_Config_Set_Orba3::setMaxCountStateIn(int n)
-{
-    ZRK_FORWARD(m_tabMain, setMaxCountStateIn(n));
-}
-void ZRK_Form_Config_Set_Orba3::setMaxCountLinesIn(int n)
-{
-    ZRK_FORWARD(m_tabMain, setMaxCountLinesIn(n));
-}
-void ZRK_Form_Config_Set_Orba3::setMaxCountSensorsTemp(int n)
-{
-    ZRK_FORWARD(m_tabMain, setMaxCountSensorsTemp(n));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseReservPower(bool u)
-{
-    ZRK_FORWARD(m_tabMain, setDeviceUseReservPower(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseNaviMore(bool a, bool b)
-{
-    ZRK_FORWARD(m_tabNavi, setDeviceUseNaviMore(a, b));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseLBS(bool u)
-{
-    ZRK_FORWARD(m_tabNavi, setDeviceUseLBS(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseCANState(bool u)
-{
-    ZRK_FORWARD(m_tabCAN, setDeviceUseCANState(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUsePassager(bool u)
-{
-    ZRK_FORWARD(m_tabMore, setDeviceUsePassager(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseTires(bool u)
-{
-    ZRK_FORWARD(m_tabMore, setDeviceUseTires(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseDisp(bool u)
-{
-    ZRK_FORWARD(m_tabMore, setDeviceUseDisp(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseVAccelAxels(bool u)
-{
-    ZRK_FORWARD(m_tabMore, setDeviceUseVAccelAxels(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseAinf(bool u)
-{
-    ZRK_FORWARD(m_tabMore, setDeviceUseAinf(u));
-}
-void ZRK_Form_Config_Set_Orba3::setDeviceUseCamera(bool u)
-{
-    ZRK_FORWARD(m_tabMore, setDeviceUseCamera(u));
-}
-void ZRK_Form_Config_Set_Orba3::setMaxCountHighPrecisionTemp(int n)
-{
-    ZRK_FORWARD(m_tabMore, setMaxCountHighPrecisionTemp(n));
-}
-void ZRK_Form_Config_Set_Orba3::setMaxCountHighPrecisionHumidity(int n)
-{
-    ZRK_FORWARD(m_tabMore, setMaxCountHighPrecisionHumidity(n));
-}
-void ZRK_Form_Config_Set_Orba3::setRS485_FLS_MaxCount(int n)
-{
-    ZRK_FORWARD(m_tabRS, setRS485_FLS_MaxCount(n));
+    if (m_tabMain) {
+        m_tabMain->showPosition(3, state);
+        m_tabMain->showPosition(kPosState2, state2);
+    }
 }
 
-#undef ZRK_FORWARD
+void ZRK_Form_Config_Set_Orba3::setDeviceAlwaysUseState(bool state, bool state2)
+{
+    if (m_tabMain) {
+        m_tabMain->forcePosition(3, state);
+        m_tabMain->forcePosition(kPosState2, state2);
+    }
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseModule(bool module1, bool module2, bool module3)
+{
+    if (m_tabMain) {
+        m_tabMain->showPosition(4, module1);
+        m_tabMain->showPosition(5, module2);
+        m_tabMain->showPosition(123, module3);
+    }
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceAlwaysUseModule(bool module1, bool module2, bool module3)
+{
+    if (m_tabMain) {
+        m_tabMain->forcePosition(4, module1);
+        m_tabMain->forcePosition(5, module2);
+        m_tabMain->forcePosition(123, module3);
+    }
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseGSM(bool gsm, bool connections)
+{
+    if (m_tabMain) {
+        m_tabMain->showPosition(6, gsm);
+        m_tabMain->showPosition(124, connections);
+    }
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseMotochas(bool motochas, bool loadOn, bool loadOff)
+{
+    if (m_tabMain) {
+        m_tabMain->showPosition(36, motochas);
+        m_tabMain->showPosition(204, loadOn);
+        m_tabMain->showPosition(205, loadOff);
+    }
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceEnabledMotochasMore(bool enabled)
+{
+    if (m_tabMain) {
+        m_tabMain->lockPosition(204, !enabled);
+        m_tabMain->lockPosition(205, !enabled);
+    }
+}
+
+// Outputs and input states come eight to a byte.
+void ZRK_Form_Config_Set_Orba3::setMaxCountLinesOut(int count)
+{
+    if (m_tabMain)
+        m_tabMain->showFirst({ 30, 31 }, (count + 7) / 8);
+}
+
+void ZRK_Form_Config_Set_Orba3::setMaxCountStateIn(int count)
+{
+    if (m_tabMain)
+        m_tabMain->showFirst({ 28, 29, 125 }, (count + 7) / 8);
+}
+
+void ZRK_Form_Config_Set_Orba3::setMaxCountLinesIn(int count)
+{
+    if (m_tabMain) {
+        m_tabMain->showFirst(kMainAnalogue, count);
+        m_tabMain->showFirst(kMainPulse, count);
+        m_tabMain->showFirst(kMainFrequency, count);
+    }
+}
+
+void ZRK_Form_Config_Set_Orba3::setMaxCountSensorsTemp(int count)
+{
+    if (m_tabMain)
+        m_tabMain->showFirst(kMainTemp, count);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseReservPower(bool use)
+{
+    m_useReserv = use;
+    if (m_tabMain)
+        m_tabMain->showPosition(kPosReserv, use);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseNaviMore(bool naviMore, bool preciseCoord)
+{
+    if (!m_tabNavi)
+        return;
+    for (int pos : { 69, 70, 71, 73, 74, 75 })
+        m_tabNavi->showPosition(pos, naviMore);
+    m_tabNavi->showPosition(72, naviMore && preciseCoord);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseLBS(bool use)
+{
+    if (m_tabNavi)
+        m_tabNavi->showPosition(76, use);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseCANState(bool use)
+{
+    if (m_tabCAN)
+        m_tabCAN->showFirst({ 200, 201, 202, 203 }, use ? 4 : 0);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUsePassager(bool use)
+{
+    if (m_tabMore)
+        m_tabMore->showFirst(kPassenger, use ? kPassenger.size() : 0);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseTires(bool use)
+{
+    if (m_tabMore)
+        m_tabMore->showTyres(use);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseDisp(bool use)
+{
+    if (m_tabMore)
+        m_tabMore->showFirst({ 103, 104 }, use ? 2 : 0);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseVAccelAxels(bool use)
+{
+    if (m_tabMore)
+        m_tabMore->showPosition(141, use);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseAinf(bool use)
+{
+    if (m_tabMore)
+        m_tabMore->showFirst({ 117, 118, 119, 120 }, use ? 4 : 0);
+}
+
+void ZRK_Form_Config_Set_Orba3::setDeviceUseCamera(bool use)
+{
+    if (m_tabMore)
+        m_tabMore->showPosition(121, use);
+}
+
+void ZRK_Form_Config_Set_Orba3::setMaxCountHighPrecisionTemp(int count)
+{
+    if (m_tabMore)
+        m_tabMore->showFirst(kHpTemp, count);
+}
+
+void ZRK_Form_Config_Set_Orba3::setMaxCountHighPrecisionHumidity(int count)
+{
+    if (m_tabMore)
+        m_tabMore->showFirst(kHumidity, count);
+}
+
+void ZRK_Form_Config_Set_Orba3::setRS485_FLS_MaxCount(int count)
+{
+    if (!m_tabRS)
+        return;
+    m_tabRS->showFirst(kRsLevel, count);
+    m_tabRS->showFirst(kRsTemp, m_rs485Temp ? count : 0);
+    m_tabRS->showFirst(kRsFreq, m_rs485Freq ? count : 0);
+}

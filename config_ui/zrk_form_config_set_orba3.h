@@ -1,11 +1,13 @@
 #pragma once
 
 // The record field-set page: which fields the terminal puts into each ORBA record and which
-// protocol generation it uses. Ten tabs each own the check boxes of a group of mask positions;
-// the page joins their positions into the 255-character mask and keeps the record size under
-// the terminal's limit.
+// protocol generation it uses. Ten tabs, built from the position table beside the field set in the
+// model, each own the check boxes of a group of mask positions; the page joins their positions into
+// the 255-character mask and keeps the record size under the terminal's limit.
 
 #include "config_model/orba_fieldset.h"
+#include "config_model/orba_fieldset_tabs.h"
+#include "config_ui/zrk_form_config_page.h"
 
 #include <QMap>
 #include <QSet>
@@ -25,82 +27,97 @@ class ZRK_Designer_Form_Config_Set_Orba3;
 class ZRK_Designer_Form_Config_Set_Orba3_Tab;
 }
 
-// One group of field boxes. Every tab overrides the operations of the spans it owns; the base
-// keeps the boxes, built from each tab's list of positions, and the rules all boxes share.
+// One tab of field boxes, built from its row of the position table (zrk::fieldset::tabTable()):
+// a titled section of boxes for each group of positions, the tyre-count list, or the user
+// parameters with their names and types. The operations of every tab are the same; a tab with no
+// positions in a generation's span leaves that span alone.
 class ZRK_Form_Config_Set_Orba3_Tab : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab(QWidget* parent = nullptr);
+    // deviceType picks which of two boxes carries positions 3, 4 and 5 on the main tab.
+    explicit ZRK_Form_Config_Set_Orba3_Tab(
+        zrk::fieldset::TabId id, int deviceType = 0, QWidget* parent = nullptr);
     ~ZRK_Form_Config_Set_Orba3_Tab() override;
 
-    // A titled group of positions; the boxes appear in the listed order.
-    struct Section
-    {
-        const char* titleId;
-        QVector<int> positions;
-    };
-
+    zrk::fieldset::TabId id() const { return m_id; }
     QString tabTitle() const;
-    QList<int> positions() const; // every mask position this tab writes
+    QList<int> positions() const; // every mask position this tab shows as a box
     QCheckBox* box(int pos) const { return m_boxes.value(pos); }
     // Bytes the ticked positions of this tab add within generation index 0..2.
-    virtual int tickedSize(int generation) const;
+    int tickedSize(int generation) const;
     bool isPositionShown(int pos) const; // shown for this device (filters aside)
     int shownCount(const QVector<int>& positions) const;
     // Shows only boxes whose label contains text (any case) and, when asked, only ticked ones;
     // returns the number of boxes left in sight.
     int applyFilter(const QString& text, bool onlyTicked);
 
+    // Device description: a box absent on this model is hidden; an always-recorded one is ticked
+    // and locked; a box the model keeps as it stands is locked with its state.
+    void showPosition(int pos, bool shown);
+    void showFirst(const QVector<int>& positions, int count);
+    void forcePosition(int pos, bool forced);
+    void lockPosition(int pos, bool locked);
+    void showTyres(bool shown);
+
+    int deviceType() const { return m_deviceType; }
+    QCheckBox* alternateBox(int pos) const { return m_alternate.value(pos); }
+    QComboBox* tiresBox() const { return m_tires; }
+    QLineEdit* nameEdit(int pos) const { return m_names.value(pos); }
+    QComboBox* typeBox(int pos) const { return m_types.value(pos); }
+    zrk::fieldset::UserParams userParams() const;
+    void setUserParams(const zrk::fieldset::UserParams& params);
+    void readUserParam(CXMLWorkData* root);
+    void writeUserParam(CXMLWorkData* root);
+
 public slots:
-    virtual void deviceConnect() { }
-    virtual void deviceDisconnect() { }
-    virtual void setDefaultParam() { }
-    virtual void setFormEnabled(bool enabled) { Q_UNUSED(enabled) }
-    virtual void translateForm() { }
-    virtual void getStrFormat_Orba_1(QString& mask) { Q_UNUSED(mask) }
-    virtual void getStrFormat_Orba_2(QString& mask) { Q_UNUSED(mask) }
-    virtual void getStrFormat_Orba_3(QString& mask) { Q_UNUSED(mask) }
-    virtual void setStrFormat_Orba_1(QString mask) { Q_UNUSED(mask) }
-    virtual void setStrFormat_Orba_2(QString mask) { Q_UNUSED(mask) }
-    virtual void setStrFormat_Orba_3(QString mask) { Q_UNUSED(mask) }
-    virtual void setFormat_Enabled_Orba_1(bool enabled) { Q_UNUSED(enabled) }
-    virtual void setFormat_Enabled_Orba_2(bool enabled) { Q_UNUSED(enabled) }
-    virtual void setFormat_Enabled_Orba_3(bool enabled) { Q_UNUSED(enabled) }
+    void deviceConnect() { }
+    void deviceDisconnect() { }
+    void setDefaultParam();
+    void setFormEnabled(bool enabled);
+    void translateForm();
+    void getStrFormat_Orba_1(QString& mask) const { writeSpan(mask, 1); }
+    void getStrFormat_Orba_2(QString& mask) const { writeSpan(mask, 2); }
+    void getStrFormat_Orba_3(QString& mask) const { writeSpan(mask, 3); }
+    void setStrFormat_Orba_1(QString mask) { readSpan(mask, 1); }
+    void setStrFormat_Orba_2(QString mask) { readSpan(mask, 2); }
+    void setStrFormat_Orba_3(QString mask) { readSpan(mask, 3); }
+    void setFormat_Enabled_Orba_1(bool enabled) { enableSpan(1, enabled); }
+    void setFormat_Enabled_Orba_2(bool enabled) { enableSpan(2, enabled); }
+    void setFormat_Enabled_Orba_3(bool enabled) { enableSpan(3, enabled); }
 
 signals:
     // A position of this tab changed from the user's hand or a setter.
     void positionToggled(int pos, bool on);
 
-protected:
-    void buildSections(const char* titleId, const QVector<Section>& sections, int columns = 2);
+private slots:
+    void slot_currentIndexChanged_Tires(int index);
+
+private:
     QGroupBox* makeSection(const char* titleId);
     QCheckBox* makeBox(int pos, QGroupBox* section);
-    void setTitleId(const char* titleId) { m_titleId = titleId; }
-    QVBoxLayout* boxesLayout() const;
+    void makeUserRow(int pos, int group, QGroupBox* section, int row);
+    void makeAlternates();
     void refreshSections();
-    void translateBoxes();
-    // The shared work behind the per-span operations: generation g is 1, 2 or 3.
+    void refreshBox(int pos);
+    // generation g is 1, 2 or 3
     void writeSpan(QString& mask, int g) const;
     void readSpan(const QString& mask, int g);
     void enableSpan(int g, bool enabled);
-    // Device description: a box absent on this model is hidden; an always-recorded one is ticked
-    // and locked; a box the model keeps as it stands is locked with its state.
-    void showPosition(int pos, bool shown);
-    void showFirst(const QVector<int>& positions, int count);
-    void forcePosition(int pos, bool forced); // always recorded: ticked and locked
-    void lockPosition(int pos, bool locked); // kept as it stands: locked with its state
-    void refreshBox(int pos);
-    void notifyToggled(int pos, bool on);
 
+    Ui::ZRK_Designer_Form_Config_Set_Orba3_Tab* ui;
+    zrk::fieldset::TabId m_id;
+    int m_deviceType;
     QMap<int, QCheckBox*> m_boxes;
     QMap<QCheckBox*, QGroupBox*> m_sectionOf;
     QVector<QPair<QGroupBox*, const char*>> m_sections;
-
-private:
-    Ui::ZRK_Designer_Form_Config_Set_Orba3_Tab* ui;
-    const char* m_titleId = nullptr;
+    QMap<int, QCheckBox*> m_alternate; // the boxes of positions 3..5 the other device type uses
+    QComboBox* m_tires = nullptr;
+    QGroupBox* m_tiresGroup = nullptr;
+    int m_tiresIndex = 0;
+    QMap<int, QLineEdit*> m_names;
+    QMap<int, QComboBox*> m_types;
     bool m_spanEnabled[4] = { true, true, true, true };
     QSet<int> m_hidden; // absent on this model
     QSet<int> m_locked;
@@ -108,218 +125,19 @@ private:
     QSet<int> m_filtered; // out of the filter's sight
 };
 
-class ZRK_Form_Config_Set_Orba3_Tab_Main : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    // deviceType picks which of the two boxes carries positions 3, 4 and 5.
-    explicit ZRK_Form_Config_Set_Orba3_Tab_Main(int deviceType, QWidget* parent = nullptr);
-    int deviceType() const { return m_deviceType; }
-    QCheckBox* alternateBox(int pos) const { return m_alternate.value(pos); }
+// The names each tab has by its row; they are all the one class above.
+using ZRK_Form_Config_Set_Orba3_Tab_Main = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_Navi = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_RS = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_CAN = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_Taho = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_More = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_Accel = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_FFS = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_Refr = ZRK_Form_Config_Set_Orba3_Tab;
+using ZRK_Form_Config_Set_Orba3_Tab_User = ZRK_Form_Config_Set_Orba3_Tab;
 
-    void setDeviceUseState(bool state, bool state2);
-    void setDeviceAlwaysUseState(bool state, bool state2);
-    void setDeviceUseModule(bool module1, bool module2, bool module3);
-    void setDeviceAlwaysUseModule(bool module1, bool module2, bool module3);
-    void setDeviceUseGSM(bool gsm, bool connections);
-    void setDeviceUseMotochas(bool motochas, bool loadOn, bool loadOff);
-    void setDeviceEnabledMotochasMore(bool enabled);
-    void setMaxCountLinesOut(int count);
-    void setMaxCountStateIn(int count);
-    void setMaxCountLinesIn(int count);
-    void setMaxCountSensorsTemp(int count);
-    void setDeviceUseReservPower(bool use);
-    bool isUseReservPower() const { return m_useReserv; }
-
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_1(QString& mask) override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_1(QString mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_1(bool enabled) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-
-private:
-    int m_deviceType;
-    bool m_useReserv = true;
-    QMap<int, QCheckBox*> m_alternate; // the boxes of positions 3..5 the other device type uses
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_Navi : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_Navi(QWidget* parent = nullptr);
-    void setDeviceUseNaviMore(bool naviMore, bool preciseCoord);
-    void setDeviceUseLBS(bool use);
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_1(QString& mask) override;
-    void getStrFormat_Orba_2(QString& mask) override;
-    void setStrFormat_Orba_1(QString mask) override;
-    void setStrFormat_Orba_2(QString mask) override;
-    void setFormat_Enabled_Orba_1(bool enabled) override;
-    void setFormat_Enabled_Orba_2(bool enabled) override;
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_RS : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    ZRK_Form_Config_Set_Orba3_Tab_RS(bool rs232, bool rs485Temp, bool rs485Freq, QWidget* parent = nullptr);
-    void setRS485_FLS_MaxCount(int count);
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_1(QString& mask) override;
-    void getStrFormat_Orba_2(QString& mask) override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_1(QString mask) override;
-    void setStrFormat_Orba_2(QString mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_1(bool enabled) override;
-    void setFormat_Enabled_Orba_2(bool enabled) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-
-private:
-    bool m_rs485Temp;
-    bool m_rs485Freq;
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_CAN : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_CAN(QWidget* parent = nullptr);
-    void setDeviceUseCANState(bool use);
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_1(QString& mask) override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_1(QString mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_1(bool enabled) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_Taho : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_Taho(QWidget* parent = nullptr);
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_2(QString& mask) override;
-    void setStrFormat_Orba_2(QString mask) override;
-    void setFormat_Enabled_Orba_2(bool enabled) override;
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_More : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_More(QWidget* parent = nullptr);
-    QComboBox* tiresBox() const { return m_tires; }
-    int tickedSize(int generation) const override;
-    // "0000", "1000", "1100", "1110", "1111" for tyre-count index 0..4.
-    static QString tiresText(int index);
-    static int tiresIndex(const QString& fourChars);
-
-    void setDeviceUsePassager(bool use);
-    void setDeviceUseTires(bool use);
-    void setDeviceUseDisp(bool use);
-    void setDeviceUseVAccelAxels(bool use);
-    void setDeviceUseAinf(bool use);
-    void setDeviceUseCamera(bool use);
-    void setMaxCountHighPrecisionTemp(int count);
-    void setMaxCountHighPrecisionHumidity(int count);
-
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_2(QString& mask) override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_2(QString mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_2(bool enabled) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-
-private slots:
-    void slot_currentIndexChanged_Tires(int index);
-
-private:
-    QComboBox* m_tires = nullptr;
-    QGroupBox* m_tiresGroup = nullptr;
-    int m_tiresIndex = 0;
-    bool m_orba2Enabled = true;
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_Accel : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_Accel(QWidget* parent = nullptr);
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_2(QString& mask) override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_2(QString mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_2(bool enabled) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_FFS : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_FFS(QWidget* parent = nullptr);
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-};
-
-class ZRK_Form_Config_Set_Orba3_Tab_Refr : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_Refr(QWidget* parent = nullptr);
-public slots:
-    void translateForm() override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-};
-
-// The user parameters: each of positions 206..254 with a name and a display type.
-class ZRK_Form_Config_Set_Orba3_Tab_User : public ZRK_Form_Config_Set_Orba3_Tab
-{
-    Q_OBJECT
-public:
-    explicit ZRK_Form_Config_Set_Orba3_Tab_User(QWidget* parent = nullptr);
-    void readUserParam(CXMLWorkData* root);
-    void writeUserParam(CXMLWorkData* root);
-    zrk::fieldset::UserParams userParams() const;
-    void setUserParams(const zrk::fieldset::UserParams& params);
-    QLineEdit* nameEdit(int pos) const { return m_names.value(pos); }
-    QComboBox* typeBox(int pos) const { return m_types.value(pos); }
-
-public slots:
-    void setDefaultParam() override;
-    void setFormEnabled(bool enabled) override;
-    void translateForm() override;
-    void getStrFormat_Orba_3(QString& mask) override;
-    void setStrFormat_Orba_3(QString mask) override;
-    void setFormat_Enabled_Orba_3(bool enabled) override;
-
-private:
-    void fillTypes(QComboBox* box, int group);
-    QMap<int, QLineEdit*> m_names;
-    QMap<int, QComboBox*> m_types;
-};
-
-class ZRK_Form_Config_Set_Orba3 : public QWidget
+class ZRK_Form_Config_Set_Orba3 : public ZRK_Form_Config_Page
 {
     Q_OBJECT
 
@@ -327,18 +145,20 @@ public:
     explicit ZRK_Form_Config_Set_Orba3(QWidget* parent = nullptr);
     ~ZRK_Form_Config_Set_Orba3() override;
 
-    void applyCaps();
-    void translateForm();
-    void initForm();
-    QString getTabTitle() const { return m_tabTitle; }
-    void setDefaultParam();
-    void readFormParam(CXMLWorkData* root);
-    void writeFormParam(CXMLWorkData* root);
-    void deviceConnect();
-    void deviceDisconnect();
-    void setFormEnabled(bool enabled);
-    void setTabIndex(int index) { m_tabIndex = index; }
-    int getTabIndex() const { return m_tabIndex; }
+    void applyCaps() override;
+    void translateForm() override;
+    void initForm() override;
+    QString getTabTitle() const override { return m_tabTitle; }
+    void setDefaultParam() override;
+    void readFormParam(CXMLWorkData* root) override;
+    void writeFormParam(CXMLWorkData* root) override;
+    void deviceConnect() override;
+    void deviceDisconnect() override;
+    void setFormEnabled(bool enabled) override;
+    // "PROTOCOL" and "USERPARAM".
+    QVector<zrk::cfg::BranchDecl> shownBranches() const override;
+    zrk::cfg::Values shownValues(int branch) const override;
+    void showValues(int branch, const zrk::cfg::Values& values) override;
 
     QString getStrFormat() const;
     void setStrFormat(const QString& mask);
@@ -442,17 +262,19 @@ private slots:
     void slot_positionToggled(int pos, bool on);
 
 private:
-    void addTab(ZRK_Form_Config_Set_Orba3_Tab* tab);
+    ZRK_Form_Config_Set_Orba3_Tab* addTab(zrk::fieldset::TabId id, int deviceType = 0);
     void applyGeneration(int index);
     void setStrFormatQuiet(const QString& mask);
 
     Ui::ZRK_Designer_Form_Config_Set_Orba3* ui;
     QString m_tabTitle;
-    int m_tabIndex = -1;
     int m_curSize = 0;
     bool m_excessSize = false;
     bool m_useDefState2 = false;
     bool m_bulk = false; // many boxes change at once: count once at the end
+    bool m_useReserv = true; // the main tab shows the backup battery's voltage
+    bool m_rs485Temp = true; // the serial tab's sensors report temperature
+    bool m_rs485Freq = true; // and frequency
     QString m_defMask;
     QList<ZRK_Form_Config_Set_Orba3_Tab*> m_tabs;
     ZRK_Form_Config_Set_Orba3_Tab_Main* m_tabMain = nullptr;

@@ -39,11 +39,6 @@ bool flagAt(const QString& flags, int i)
     return i < flags.size() && flags.at(i) == QLatin1Char('1');
 }
 
-QString key(const QString& group, const QString& k)
-{
-    return group + QLatin1Char('/') + k;
-}
-
 } // namespace
 
 ZRK_Form_Config_Track::ZRK_Form_Config_Track(QWidget* parent)
@@ -52,15 +47,15 @@ ZRK_Form_Config_Track::ZRK_Form_Config_Track(QWidget* parent)
 }
 
 ZRK_Form_Config_Track::ZRK_Form_Config_Track(const ZRK_Track_Caps& caps, QWidget* parent)
-    : QWidget(parent)
+    : ZRK_Form_Config_Page(parent)
     , m_caps(caps)
     , ui(new Ui::ZRK_Designer_Form_Config_Track)
     , m_trackDecl(zrk::cfg::trackBranch(caps))
     , m_locatorDecl(zrk::cfg::locatorBranch(caps))
 {
     ui->setupUi(this);
-    bindTrack();
-    bindLocator();
+    m_trackBind = bindBranch(m_trackDecl);
+    m_locatorBind = bindBranch(m_locatorDecl);
     applyCaps();
     translateForm();
     initForm();
@@ -73,259 +68,145 @@ ZRK_Form_Config_Track::~ZRK_Form_Config_Track()
 
 // ---- binding the form to the declared keys -------------------------------------------------------
 
-void ZRK_Form_Config_Track::bind(
-    QHash<QString, Binding>& map, const char* group, const char* k, Binding binding)
+QVector<ZRK_Config_Binding> ZRK_Form_Config_Track::bindBranch(const BranchDecl& branch)
 {
-    map.insert(key(QLatin1String(group), QLatin1String(k)), std::move(binding));
-}
-
-namespace {
-
-template <class Box> auto checkGet(Box* b)
-{
-    return [b] { return bit(b->isChecked()); };
-}
-template <class Box> auto checkSet(Box* b)
-{
-    return [b](const QString& v) { b->setChecked(v.toInt() != 0); };
-}
-auto spinGet(QSpinBox* s)
-{
-    return [s] { return QString::number(s->value()); };
-}
-auto spinSet(QSpinBox* s)
-{
-    return [s](const QString& v) { s->setValue(v.toInt()); };
-}
-
-} // namespace
-
-QVector<ZRK_Form_Config_Track::Binding> ZRK_Form_Config_Track::alignBindings(
-    const BranchDecl& branch, QHash<QString, Binding>& map)
-{
-    QVector<Binding> out;
+    QVector<ZRK_Config_Binding> out;
     for (const KeyDecl& d : branch.keys) {
-        Binding b = map.value(key(d.group, d.key));
+        ZRK_Config_Binding b(this, d);
+        if (!b.isValid())
+            qWarning("track page: no widget for %s/%s", qPrintable(d.group), qPrintable(d.key));
         // Plain spin boxes take their range from the declaration.
-        if (auto* spin = qobject_cast<QSpinBox*>(b.widget);
-            spin && d.type == zrk::cfg::KeyType::Integer && !d.zeroMeansOff)
+        if (auto* spin = qobject_cast<QSpinBox*>(b.widget());
+            spin && !b.byRule() && d.type == zrk::cfg::KeyType::Integer && !d.zeroMeansOff)
             spin->setRange(d.min, d.max);
-        Q_ASSERT_X(b.get && b.set, "bindings", qPrintable(key(d.group, d.key)));
         out << b;
     }
     return out;
 }
 
-void ZRK_Form_Config_Track::bindTrack()
+// ---- the rules behind some keys (see the declarations' widgets) ---------------------------------
+
+int ZRK_Form_Config_Track::getAngleMode() const
 {
-    QHash<QString, Binding> m;
-    auto check = [&m, this](const char* g, const char* k, QAbstractButton* b) {
-        bind(m, g, k, { checkGet(b), checkSet(b), b });
-    };
-    auto spin = [&m, this](const char* g, const char* k, QSpinBox* s) {
-        bind(m, g, k, { spinGet(s), spinSet(s), s });
-    };
-
-    check("POINTS", "useMoveSens", ui->Always_checkBox_StartStop);
-    check("POINTS", "useMaxSpeed", ui->Always_checkBox_MaxSpeed);
-    spin("POINTS", "maxSpeed", ui->Always_spinBox_MaxSpeed);
-    bind(m, "POINTS", "angleMode",
-        { [this] {
-             if (ui->Additional_checkBox_Corner->isChecked())
-                 return QStringLiteral("1");
-             return ui->Additional_checkBox_Direction->isChecked() ? QStringLiteral("2")
-                                                                   : QStringLiteral("0");
-         },
-            [this](const QString& v) {
-                const int mode = v.toInt();
-                ui->Additional_checkBox_Corner->setChecked(mode == 1);
-                ui->Additional_checkBox_Direction->setChecked(mode == 2);
-            },
-            ui->Additional_checkBox_Corner });
-    spin("POINTS", "angle", ui->Additional_spinBox_Corner);
-    check("POINTS", "useDist", ui->Additional_checkBox_Distance);
-    spin("POINTS", "dist", ui->Additional_spinBox_Distance);
-    check("POINTS", "useTimer", ui->Additional_checkBox_Timer);
-    spin("POINTS", "moveTimer", ui->Additional_spinBox_Timer);
-    bind(m, "POINTS", "moveTimerSens",
-        { [this] { return getTmrFlags(); }, [this](const QString& v) { setTmrFlags(v); },
-            ui->groupBox_TmrFlags });
-    spin("POINTS", "stopTimer", ui->Additional_spinBox_StopTimer);
-
-    check("LIMPOINT", "blockDist", ui->checkBox_BlockDist);
-    spin("LIMPOINT", "dist", ui->spinBox_BlockDist);
-    check("LIMPOINT", "blockTimer", ui->checkBox_BlockTimer);
-    spin("LIMPOINT", "timer", ui->spinBox_BlockTimer);
-
-    check("COORDFLT", "use", ui->checkBox_CoordFlt_Use);
-    spin("COORDFLT", "minSats", ui->spinBox_MinSats);
-    bind(m, "COORDFLT", "maxHDOP",
-        { [this] { return getFloatToStr(float(ui->doubleSpinBox_MaxHdop->value()), 1); },
-            [this](const QString& v) { ui->doubleSpinBox_MaxHdop->setValue(v.toDouble()); },
-            ui->doubleSpinBox_MaxHdop });
-    spin("COORDFLT", "maxSpeed", ui->spinBox_FltMaxSpeed);
-    spin("COORDFLT", "maxAccel", ui->spinBox_MaxAccel);
-    spin("COORDFLT", "maxDist", ui->spinBox_MaxDist);
-    spin("COORDFLT", "maxFilterCnt", ui->spinBox_MaxFilterCnt);
-    // The window is opened wide before "minAlt" is set, so that a file's pair is taken as it
-    // stands wherever the boxes were; the two slots then keep the gap.
-    bind(m, "COORDFLT", "minAlt",
-        { spinGet(ui->spinBox_MinAlt),
-            [this](const QString& v) {
-                ui->spinBox_MaxAlt->setMinimum(kAltitudeMin);
-                ui->spinBox_MinAlt->setMaximum(kAltitudeMax);
-                ui->spinBox_MinAlt->setValue(v.toInt());
-                slot_valueChanged_spinBox_MinAlt(ui->spinBox_MinAlt->value());
-            },
-            ui->spinBox_MinAlt });
-    bind(m, "COORDFLT", "maxAlt",
-        { spinGet(ui->spinBox_MaxAlt),
-            [this](const QString& v) {
-                ui->spinBox_MaxAlt->setValue(v.toInt());
-                slot_valueChanged_spinBox_MaxAlt(ui->spinBox_MaxAlt->value());
-            },
-            ui->spinBox_MaxAlt });
-    bind(m, "COORDFLT", "deltaNTP",
-        { spinGet(ui->spinBox_DeltaNtp),
-            [this](const QString& v) {
-                setCounter(ui->checkBox_DeltaNtp, ui->spinBox_DeltaNtp, v.toInt(), kDeltaNtpOn);
-            },
-            ui->spinBox_DeltaNtp });
-
-    bind(m, "COORDAVER", "mode",
-        { [this] {
-             if (ui->Coord_Stop_radioButton_NotAverage->isChecked())
-                 return QStringLiteral("0");
-             // Mode 2 is never written: anything but "none" and "fixed" is averaging.
-             return ui->Coord_Stop_radioButton_Fixed->isChecked() ? QStringLiteral("3") : QStringLiteral("1");
-         },
-            [this](const QString& v) {
-                switch (v.toInt()) {
-                case 0:
-                    ui->Coord_Stop_radioButton_NotAverage->setChecked(true);
-                    break;
-                case 1:
-                    ui->Coord_Stop_radioButton_Average->setChecked(true);
-                    break;
-                case 3:
-                    ui->Coord_Stop_radioButton_Fixed->setChecked(true);
-                    break;
-                default: // unknown modes leave the choice as it was
-                    break;
-                }
-                enableSensorAverageForMode();
-            },
-            ui->Coord_groupBox_Stop });
-    bind(m, "COORDAVER", "sensors",
-        { [this] { return getSensorAverage(); }, [this](const QString& v) { setSensorAverage(v); },
-            ui->groupBox_SensorAverage });
-
-    bind(m, "MOVESENS", "mode",
-        { [this] { return QString::number(getParkingMode()); },
-            [this](const QString& v) { setParkingMode(v.toInt()); }, ui->groupBox_Parking });
-    spin("MOVESENS", "stopTimer", ui->spinBox_ParkingStopTimer);
-
-    bind(m, "GNSS", "mode",
-        { [this] { return getGnssMode(); }, [this](const QString& v) { setGnssMode(v); },
-            ui->groupBox_GnssSystems });
-    check("GNSS", "useAGPS", ui->checkBox_Agps);
-    check("GNSS", "useEPO", ui->checkBox_Epo);
-    spin("GNSS", "angle", ui->spinBox_Angle);
-    bind(m, "GNSS", "datum",
-        { [this] { return QString::number(getGnssCoord()); },
-            [this](const QString& v) { setGnssCoord(v.toInt()); }, ui->groupBox_Datum });
-    bind(m, "GNSS", "receiver",
-        { [this] { return QString::number(std::max(0, ui->comboBox_Receiver->currentIndex())); },
-            [this](const QString& v) { ui->comboBox_Receiver->setCurrentIndex(v.toInt()); },
-            ui->comboBox_Receiver });
-    bind(m, "GNSS", "coldRstTimer",
-        { spinGet(ui->spinBox_ColdRstTimer),
-            [this](const QString& v) {
-                setCounter(ui->checkBox_ColdRstTimer, ui->spinBox_ColdRstTimer, v.toInt(), kColdRstOn);
-            },
-            ui->spinBox_ColdRstTimer });
-    m_trackBind = alignBindings(m_trackDecl, m);
+    if (ui->Additional_checkBox_Corner->isChecked())
+        return 1;
+    return ui->Additional_checkBox_Direction->isChecked() ? 2 : 0;
 }
 
-void ZRK_Form_Config_Track::bindLocator()
+void ZRK_Form_Config_Track::setAngleMode(int mode)
 {
-    QHash<QString, Binding> m;
-    auto check = [&m, this](const char* g, const char* k, QAbstractButton* b) {
-        bind(m, g, k, { checkGet(b), checkSet(b), b });
-    };
-    auto spin = [&m, this](const char* g, const char* k, QSpinBox* s) {
-        bind(m, g, k, { spinGet(s), spinSet(s), s });
-    };
-    auto alternative
-        = [&m, this](const char* g, ZRK_Widget_AltNav_Source* source, ZRK_Widget_AltNav_Period* period) {
-              bind(m, g, "source",
-                  { [source] { return source->getSource(); },
-                      [source](const QString& v) { source->setSource(v); }, source });
-              bind(m, g, "moveTimer",
-                  { [period] { return QString::number(period->getMoveTimer()); },
-                      [period](const QString& v) { period->setMoveTimer(v.toInt()); }, period });
-              bind(m, g, "moveSens",
-                  { [period] { return period->getMoveSens(); },
-                      [period](const QString& v) { period->setMoveSens(v); }, period });
-              bind(m, g, "stopTimer",
-                  { [period] { return QString::number(period->getStopTimer()); },
-                      [period](const QString& v) { period->setStopTimer(v.toInt()); }, period });
-          };
+    ui->Additional_checkBox_Corner->setChecked(mode == 1);
+    ui->Additional_checkBox_Direction->setChecked(mode == 2);
+}
 
-    check("TLM", "use", ui->checkBox_Tlm_Use);
-    alternative("TLM", ui->widget_Tlm_Source, ui->widget_Tlm_Period);
+int ZRK_Form_Config_Track::getMinAlt() const
+{
+    return ui->spinBox_MinAlt->value();
+}
 
-    check("GLOBAL", "use", ui->checkBox_Loc_Use);
-    bind(m, "GLOBAL", "key",
-        { [this] { return ui->lineEdit_Loc_Key->text(); },
-            [this](const QString& v) { ui->lineEdit_Loc_Key->setText(v); }, ui->lineEdit_Loc_Key });
-    bind(m, "GLOBAL", "condition",
-        { [this] {
-             return QString::number(getLocConditionCode4Name(ui->comboBox_Loc_Condition->currentText()));
-         },
-            [this](const QString& v) {
-                ui->comboBox_Loc_Condition->setCurrentText(getLocConditionName4Code(v.toInt()));
-            },
-            ui->comboBox_Loc_Condition });
-    bind(m, "GLOBAL", "addTlm",
-        { [this] { return QString::number(std::max(0, ui->comboBox_Loc_AddTlm->currentIndex())); },
-            [this](const QString& v) { ui->comboBox_Loc_AddTlm->setCurrentIndex(v.toInt()); },
-            ui->comboBox_Loc_AddTlm });
-    alternative("GLOBAL", ui->widget_Loc_Source, ui->widget_Loc_Period);
+// The window is opened wide before "minAlt" is set, so that a file's pair is taken as it stands
+// wherever the boxes were; the two slots then keep the gap.
+void ZRK_Form_Config_Track::setMinAlt(int metres)
+{
+    ui->spinBox_MaxAlt->setMinimum(kAltitudeMin);
+    ui->spinBox_MinAlt->setMaximum(kAltitudeMax);
+    ui->spinBox_MinAlt->setValue(metres);
+    slot_valueChanged_spinBox_MinAlt(ui->spinBox_MinAlt->value());
+}
 
-    bind(m, "COORDFILT", "use",
-        { checkGet(ui->groupBox_CoordFlt_Use), checkSet(ui->groupBox_CoordFlt_Use),
-            ui->groupBox_CoordFlt_Use });
-    spin("COORDFILT", "speed", ui->spinBox_CoordFlt_Speed);
-    bind(m, "COORDFILT", "rejCnt",
-        { spinGet(ui->spinBox_CoordFlt_RejCnt),
-            [this](const QString& v) {
-                setCounter(ui->checkBox_CoordFlt_RejCnt, ui->spinBox_CoordFlt_RejCnt, v.toInt(), kRejCntOn);
-            },
-            ui->spinBox_CoordFlt_RejCnt });
-    check("COORDFILT", "bbWrite", ui->checkBox_CoordFlt_BbWrite);
-    check("COORDFILT", "recheckWiFi", ui->checkBox_CoordFlt_RecheckWiFi);
-    check("COORDFILT", "recheckGNSS", ui->checkBox_CoordFlt_RecheckGnss);
+int ZRK_Form_Config_Track::getMaxAlt() const
+{
+    return ui->spinBox_MaxAlt->value();
+}
 
-    bind(m, "APFILT", "use",
-        { checkGet(ui->groupBox_ApFLT_Use), checkSet(ui->groupBox_ApFLT_Use), ui->groupBox_ApFLT_Use });
-    spin("APFILT", "rxLvl", ui->spinBox_ApFlt_RxLvl);
+void ZRK_Form_Config_Track::setMaxAlt(int metres)
+{
+    ui->spinBox_MaxAlt->setValue(metres);
+    slot_valueChanged_spinBox_MaxAlt(ui->spinBox_MaxAlt->value());
+}
 
-    for (int i = 0; i < ZRK_Form_Config_Track_Locator_BList::kRows; ++i) {
-        const QByteArray k = "bm" + QByteArray::number(i + 1);
-        bind(m, "BLIST", k.constData(),
-            { [this, i] { return m_blackList ? m_blackList->getRow(i) : QString(); },
-                [this, i](const QString& v) {
-                    if (m_blackList)
-                        m_blackList->setRow(i, v);
-                },
-                ui->pushButton_BlackList });
+int ZRK_Form_Config_Track::getDeltaNtp() const
+{
+    return ui->spinBox_DeltaNtp->value();
+}
+
+void ZRK_Form_Config_Track::setDeltaNtp(int seconds)
+{
+    setCounter(ui->checkBox_DeltaNtp, ui->spinBox_DeltaNtp, seconds, kDeltaNtpOn);
+}
+
+int ZRK_Form_Config_Track::getColdRstTimer() const
+{
+    return ui->spinBox_ColdRstTimer->value();
+}
+
+void ZRK_Form_Config_Track::setColdRstTimer(int value)
+{
+    setCounter(ui->checkBox_ColdRstTimer, ui->spinBox_ColdRstTimer, value, kColdRstOn);
+}
+
+int ZRK_Form_Config_Track::getRejCnt() const
+{
+    return ui->spinBox_CoordFlt_RejCnt->value();
+}
+
+void ZRK_Form_Config_Track::setRejCnt(int count)
+{
+    setCounter(ui->checkBox_CoordFlt_RejCnt, ui->spinBox_CoordFlt_RejCnt, count, kRejCntOn);
+}
+
+int ZRK_Form_Config_Track::getAverageMode() const
+{
+    if (ui->Coord_Stop_radioButton_NotAverage->isChecked())
+        return 0;
+    // Mode 2 is never written: anything but "none" and "fixed" is averaging.
+    return ui->Coord_Stop_radioButton_Fixed->isChecked() ? 3 : 1;
+}
+
+void ZRK_Form_Config_Track::setAverageMode(int mode)
+{
+    switch (mode) {
+    case 0:
+        ui->Coord_Stop_radioButton_NotAverage->setChecked(true);
+        break;
+    case 1:
+        ui->Coord_Stop_radioButton_Average->setChecked(true);
+        break;
+    case 3:
+        ui->Coord_Stop_radioButton_Fixed->setChecked(true);
+        break;
+    default: // unknown modes leave the choice as it was
+        break;
     }
-    m_locatorBind = alignBindings(m_locatorDecl, m);
+    enableSensorAverageForMode();
+}
+
+int ZRK_Form_Config_Track::getLocCondition() const
+{
+    return getLocConditionCode4Name(ui->comboBox_Loc_Condition->currentText());
+}
+
+void ZRK_Form_Config_Track::setLocCondition(int code)
+{
+    ui->comboBox_Loc_Condition->setCurrentText(getLocConditionName4Code(code));
+}
+
+QStringList ZRK_Form_Config_Track::getBlackList() const
+{
+    QStringList rows;
+    for (int i = 0; m_blackList && i < ZRK_Form_Config_Track_Locator_BList::kRows; ++i)
+        rows << m_blackList->getRow(i);
+    return rows;
+}
+
+void ZRK_Form_Config_Track::setBlackList(const QStringList& rows)
+{
+    for (int i = 0; m_blackList && i < ZRK_Form_Config_Track_Locator_BList::kRows; ++i)
+        m_blackList->setRow(i, rows.value(i));
 }
 
 void ZRK_Form_Config_Track::applyValues(
-    const BranchDecl& branch, const QVector<Binding>& bindings, const Values& values, bool reset)
+    const BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings, const Values& values, bool reset)
 {
     for (int i = 0; i < branch.keys.size() && i < values.size(); ++i) {
         if (reset && branch.keys[i].keptOnReset)
@@ -334,11 +215,12 @@ void ZRK_Form_Config_Track::applyValues(
     }
 }
 
-Values ZRK_Form_Config_Track::collect(const BranchDecl& branch, const QVector<Binding>& bindings) const
+Values ZRK_Form_Config_Track::collect(
+    const BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings) const
 {
     Values values;
     values.reserve(branch.keys.size());
-    for (const Binding& b : bindings)
+    for (const ZRK_Config_Binding& b : bindings)
         values << b.get();
     return values;
 }
@@ -351,6 +233,20 @@ Values ZRK_Form_Config_Track::trackValues() const
 Values ZRK_Form_Config_Track::locatorValues() const
 {
     return collect(m_locatorDecl, m_locatorBind);
+}
+
+Values ZRK_Form_Config_Track::shownValues(int branch) const
+{
+    return branch == 0 ? trackValues() : locatorValues();
+}
+
+void ZRK_Form_Config_Track::showValues(int branch, const Values& values)
+{
+    if (branch == 0)
+        applyValues(m_trackDecl, m_trackBind, values, false);
+    else
+        applyValues(m_locatorDecl, m_locatorBind, values, false);
+    runDependentSlots();
 }
 
 // ---- the contract --------------------------------------------------------------------------------
@@ -427,18 +323,17 @@ void ZRK_Form_Config_Track::translateForm()
 // Every bound number box tells its range, straight from the declaration.
 void ZRK_Form_Config_Track::setRangeTips()
 {
-    auto tips = [](const BranchDecl& branch, const QVector<Binding>& bindings) {
+    auto tips = [](const BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings) {
         for (int i = 0; i < branch.keys.size(); ++i) {
             const KeyDecl& d = branch.keys[i];
-            QWidget* w = bindings[i].widget;
+            QWidget* w = bindings[i].widget();
             if (!w || !(qobject_cast<QSpinBox*>(w) || qobject_cast<QDoubleSpinBox*>(w)))
                 continue;
             QString tip;
             if (d.type == zrk::cfg::KeyType::Decimal)
                 tip = qtTrId("cfgt3_100").arg(d.min / 10.0, 0, 'f', 1).arg(d.max / 10.0, 0, 'f', 1);
-            else if (d.zeroMeansOff || d.key == QLatin1String("deltaNTP") || d.key == QLatin1String("rejCnt")
-                || d.key == QLatin1String("coldRstTimer"))
-                tip = qtTrId("cfgt3_102").arg(1).arg(d.max);
+            else if (d.zeroMeansOff)
+                tip = qtTrId("cfgt3_102").arg(d.min).arg(d.max);
             else
                 tip = qtTrId("cfgt3_100").arg(d.min).arg(d.max);
             w->setToolTip(zrk::cfg::declaredKeyLabel(d) + QLatin1Char('\n') + tip);

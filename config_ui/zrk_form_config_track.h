@@ -2,9 +2,10 @@
 
 #include "config_model/config_keys.h"
 #include "config_model/zrk_track_caps.h"
+#include "config_ui/zrk_config_binding.h"
+#include "config_ui/zrk_form_config_page.h"
 
-#include <QHash>
-#include <QWidget>
+#include <QStringList>
 
 #include <functional>
 
@@ -20,9 +21,24 @@ class ZRK_Designer_Form_Config_Track;
 // The track page: when points are laid down, their density, the coordinate filter, averaging
 // while stopped, parking, the satellite receiver ("TRACK") and alternative positioning
 // ("LOCATOR"). Widgets are bound to the declared keys; the rules below are the special ones.
-class ZRK_Form_Config_Track : public QWidget
+class ZRK_Form_Config_Track : public ZRK_Form_Config_Page
 {
     Q_OBJECT
+    // The keys whose widgets follow a rule of the page (see the declarations' "widget").
+    Q_PROPERTY(int angleMode READ getAngleMode WRITE setAngleMode)
+    Q_PROPERTY(QString tmrFlags READ getTmrFlags WRITE setTmrFlags)
+    Q_PROPERTY(int minAlt READ getMinAlt WRITE setMinAlt)
+    Q_PROPERTY(int maxAlt READ getMaxAlt WRITE setMaxAlt)
+    Q_PROPERTY(int deltaNtp READ getDeltaNtp WRITE setDeltaNtp)
+    Q_PROPERTY(int coldRstTimer READ getColdRstTimer WRITE setColdRstTimer)
+    Q_PROPERTY(int rejCnt READ getRejCnt WRITE setRejCnt)
+    Q_PROPERTY(int averageMode READ getAverageMode WRITE setAverageMode)
+    Q_PROPERTY(QString sensorAverage READ getSensorAverage WRITE setSensorAverage)
+    Q_PROPERTY(int parkingMode READ getParkingMode WRITE setParkingMode)
+    Q_PROPERTY(QString gnssMode READ getGnssMode WRITE setGnssMode)
+    Q_PROPERTY(int gnssCoord READ getGnssCoord WRITE setGnssCoord)
+    Q_PROPERTY(int locCondition READ getLocCondition WRITE setLocCondition)
+    Q_PROPERTY(QStringList blackList READ getBlackList WRITE setBlackList)
 
 public:
     explicit ZRK_Form_Config_Track(QWidget* parent = nullptr);
@@ -30,18 +46,20 @@ public:
     explicit ZRK_Form_Config_Track(const ZRK_Track_Caps& caps, QWidget* parent = nullptr);
     ~ZRK_Form_Config_Track() override;
 
-    void applyCaps();
-    void translateForm();
-    void initForm();
-    QString getTabTitle() const { return m_tabTitle; }
-    void setDefaultParam();
-    void readFormParam(CXMLWorkData* root);
-    void writeFormParam(CXMLWorkData* root);
-    void deviceConnect();
-    void deviceDisconnect();
-    void setFormEnabled(bool enabled);
-    void setTabIndex(int index) { m_tabIndex = index; }
-    int getTabIndex() const { return m_tabIndex; }
+    void applyCaps() override;
+    void translateForm() override;
+    void initForm() override;
+    QString getTabTitle() const override { return m_tabTitle; }
+    void setDefaultParam() override;
+    void readFormParam(CXMLWorkData* root) override;
+    void writeFormParam(CXMLWorkData* root) override;
+    void deviceConnect() override;
+    void deviceDisconnect() override;
+    void setFormEnabled(bool enabled) override;
+    // "TRACK" and "LOCATOR".
+    QVector<zrk::cfg::BranchDecl> shownBranches() const override { return { m_trackDecl, m_locatorDecl }; }
+    zrk::cfg::Values shownValues(int branch) const override;
+    void showValues(int branch, const zrk::cfg::Values& values) override;
 
     const ZRK_Track_Caps& caps() const { return m_caps; }
 
@@ -58,6 +76,24 @@ public:
     int getLocConditionCode4Name(const QString& text) const;
     QString getLocConditionName4Code(int code) const;
     QRadioButton* gnssButton(int index) const;
+    int getAngleMode() const;
+    void setAngleMode(int mode);
+    int getMinAlt() const;
+    void setMinAlt(int metres);
+    int getMaxAlt() const;
+    void setMaxAlt(int metres);
+    int getDeltaNtp() const;
+    void setDeltaNtp(int seconds);
+    int getColdRstTimer() const;
+    void setColdRstTimer(int value);
+    int getRejCnt() const;
+    void setRejCnt(int count);
+    int getAverageMode() const;
+    void setAverageMode(int mode);
+    int getLocCondition() const;
+    void setLocCondition(int code);
+    QStringList getBlackList() const;
+    void setBlackList(const QStringList& rows);
     static QString getFloatToStr(float value, int decimals);
     // Enables the density-limit group while any point rule (angle, direction, distance, timer) is on.
     void setRestrictionEnabled();
@@ -99,34 +135,23 @@ private slots:
     void slot_pressed_pushButton_BlackList();
 
 private:
-    // How one declared key meets the form: a getter and setter over the key's text value, and
-    // the widget that shows it (for its tooltip).
-    struct Binding
-    {
-        std::function<QString()> get;
-        std::function<void(const QString&)> set;
-        QWidget* widget = nullptr;
-    };
-    void bind(QHash<QString, Binding>& map, const char* group, const char* key, Binding binding);
-    QVector<Binding> alignBindings(const zrk::cfg::BranchDecl& branch, QHash<QString, Binding>& map);
+    QVector<ZRK_Config_Binding> bindBranch(const zrk::cfg::BranchDecl& branch);
     void setCounter(QAbstractButton* box, QSpinBox* spin, int value, int onValue);
     void applyCounter(QSpinBox* spin, bool on, int onValue);
     void enableSensorAverageForMode();
     void setRangeTips();
-    void bindTrack();
-    void bindLocator();
-    void applyValues(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings,
+    void applyValues(const zrk::cfg::BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings,
         const zrk::cfg::Values& values, bool reset);
-    zrk::cfg::Values collect(const zrk::cfg::BranchDecl& branch, const QVector<Binding>& bindings) const;
+    zrk::cfg::Values collect(
+        const zrk::cfg::BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings) const;
     void runDependentSlots();
 
     ZRK_Track_Caps m_caps;
     Ui::ZRK_Designer_Form_Config_Track* ui;
     zrk::cfg::BranchDecl m_trackDecl;
     zrk::cfg::BranchDecl m_locatorDecl;
-    QVector<Binding> m_trackBind;
-    QVector<Binding> m_locatorBind;
+    QVector<ZRK_Config_Binding> m_trackBind;
+    QVector<ZRK_Config_Binding> m_locatorBind;
     ZRK_Form_Config_Track_Locator_BList* m_blackList = nullptr;
     QString m_tabTitle;
-    int m_tabIndex = -1;
 };

@@ -11,6 +11,9 @@ class ZRK_Designer_Widget_AltNav_Period;
 class ZRK_Widget_AltNav_Period : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int moveTimer READ getMoveTimer WRITE setMoveTimer)
+    Q_PROPERTY(QString moveSens READ getMoveSens WRITE setMoveSens)
+    Q_PROPERTY(int stopTimer READ getStopTimer WRITE setStopTimer)
 
 public:
     explicit ZRK_Widget_AltNav_Period(QWidget* parent = nullptr);

@@ -11,6 +11,7 @@ class ZRK_Designer_Widget_AltNav_Source;
 class ZRK_Widget_AltNav_Source : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString source READ getSource WRITE setSource)
 
 public:
     explicit ZRK_Widget_AltNav_Source(QWidget* parent = nullptr);

@@ -2,6 +2,7 @@
 
 #include "config_model/app_settings.h"
 #include "config_model/config_document.h"
+#include "config_model/config_keys.h"
 #include "config_model/orba_fieldset.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_workdata.h"
@@ -13,11 +14,14 @@
 
 #include "ui_zrk_widget_config.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -26,15 +30,10 @@
 
 namespace {
 
-// The pause after the last edit before the configuration is compared with the saved one.
-constexpr int kEditPauseMs = 300;
 // Temporary file names of a write to the terminal: full editor and light editor.
 constexpr char kFullTempPattern[] = "/zrk_K7140_%1.xml";
 constexpr char kLightTempPattern[] = "/zrk_%1_%2.xml";
 constexpr char kTempDateFormat[] = "d-MM-yy-H-m";
-// The dated copies of configurations read from the terminal.
-constexpr char kReadCopyPattern[] = "zrk_K7140_read_%1%2.xml";
-constexpr char kReadCopyDateFormat[] = "yyyy-MM-dd_HH-mm-ss";
 constexpr char kDeviceTitle[] = "Device";
 constexpr char kNewTitle[] = "New";
 
@@ -74,6 +73,18 @@ constexpr char kNewTitle[] = "New";
     QT_TRID_NOOP("wcfg_017"),
     //% "Переключить полный и простой редактор"
     QT_TRID_NOOP("wcfg_019"),
+    //% "Отменить"
+    QT_TRID_NOOP("wcfg_040"),
+    //% "Отменить последнее изменение (Ctrl+Z)"
+    QT_TRID_NOOP("wcfg_041"),
+    //% "Повторить"
+    QT_TRID_NOOP("wcfg_042"),
+    //% "Повторить отменённое изменение (Ctrl+Shift+Z)"
+    QT_TRID_NOOP("wcfg_043"),
+    //% "Обзор перед записью"
+    QT_TRID_NOOP("wcfg_044"),
+    //% "Перед записью в терминал показывать, какие настройки в нём изменятся"
+    QT_TRID_NOOP("wcfg_045"),
 };
 
 void sendToHost(int msg, unsigned long w, unsigned long l)
@@ -91,8 +102,8 @@ ZRK_Widget_Config::ZRK_Widget_Config(QWidget* parent)
     ui->setupUi(this);
     setObjectName(QStringLiteral("ZRK_Widget_Config"));
     setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
-    m_full = new ZRK_Widget_Config_Full(ui->stackedWidget_Editors);
-    m_light = new ZRK_Widget_Config_Light(ui->stackedWidget_Editors);
+    m_full = new ZRK_Widget_Config_Full(&m_editing, ui->stackedWidget_Editors);
+    m_light = new ZRK_Widget_Config_Light(&m_editing, ui->stackedWidget_Editors);
     ui->stackedWidget_Editors->addWidget(m_full);
     ui->stackedWidget_Editors->addWidget(m_light);
     ui->stackedWidget_Editors->setCurrentWidget(m_full);
@@ -114,6 +125,19 @@ ZRK_Widget_Config::ZRK_Widget_Config(QWidget* parent)
         if (ok)
             showDifferences(differences, against);
     });
+    compare->addAction(QString(), this, [this] {
+        const QVector<zrk::ReadCopy> copies = readHistory();
+        if (copies.isEmpty()) {
+            //% "В папке данных XML нет сохранённых копий конфигураций, прочитанных из терминала."
+            showMessage(qtTrId("wcfg_046"));
+            return;
+        }
+        const QString path = chooseReadCopy(copies);
+        bool ok = false;
+        const auto differences = compareWithFile(path, &ok);
+        if (ok)
+            showDifferences(differences, QFileInfo(path).fileName());
+    });
     ui->pushButton_Compare->setMenu(compare);
 
     connect(ui->pushButton_New, &QPushButton::pressed, this, &ZRK_Widget_Config::slot_pressed_New);
@@ -124,15 +148,29 @@ ZRK_Widget_Config::ZRK_Widget_Config(QWidget* parent)
     connect(ui->pushButton_Load, &QPushButton::pressed, this, &ZRK_Widget_Config::slot_pressed_Load);
     connect(ui->pushButton_Defaults, &QPushButton::pressed, this, &ZRK_Widget_Config::slot_pressed_Defaults);
     connect(ui->pushButton_Editor, &QPushButton::pressed, this, &ZRK_Widget_Config::slot_pressed_Editor);
-    connect(m_full, &ZRK_Widget_Config_Full::contentEdited, this, &ZRK_Widget_Config::slot_contentEdited);
-    connect(m_light, &ZRK_Widget_Config_Light::contentEdited, this, &ZRK_Widget_Config::slot_contentEdited);
-    m_editPause.setSingleShot(true);
-    m_editPause.setInterval(kEditPauseMs);
-    connect(&m_editPause, &QTimer::timeout, this, &ZRK_Widget_Config::updateModified);
+    connect(ui->pushButton_Undo, &QPushButton::clicked, this, &ZRK_Widget_Config::undo);
+    connect(ui->pushButton_Redo, &QPushButton::clicked, this, &ZRK_Widget_Config::redo);
+    ui->checkBox_ReviewBeforeWrite->setChecked(reviewBeforeWrite());
+    connect(ui->checkBox_ReviewBeforeWrite, &QCheckBox::toggled, this,
+        &ZRK_Widget_Config::slot_toggled_ReviewBeforeWrite);
+    // Ctrl+Z and Ctrl+Shift+Z anywhere in the window (Ctrl+Y too, where that is the habit).
+    auto* undoAction = new QAction(this);
+    undoAction->setShortcut(QKeySequence::Undo);
+    connect(undoAction, &QAction::triggered, this, &ZRK_Widget_Config::undo);
+    auto* redoAction = new QAction(this);
+    redoAction->setShortcuts({ QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence::Redo });
+    connect(redoAction, &QAction::triggered, this, &ZRK_Widget_Config::redo);
+    addActions({ undoAction, redoAction });
+    QUndoStack& stack = m_editing.undoStack();
+    ui->pushButton_Undo->setEnabled(false);
+    ui->pushButton_Redo->setEnabled(false);
+    connect(&stack, &QUndoStack::canUndoChanged, ui->pushButton_Undo, &QWidget::setEnabled);
+    connect(&stack, &QUndoStack::canRedoChanged, ui->pushButton_Redo, &QWidget::setEnabled);
+    connect(
+        &m_editing.session(), &zrk::ConfigSession::modifiedChanged, this, &ZRK_Widget_Config::updateTitle);
 
     resize(960, 680);
     translateForm();
-    m_savedXml = currentXml();
     updateButtons();
 }
 
@@ -174,6 +212,8 @@ void ZRK_Widget_Config::translateForm()
     actions.at(0)->setText(qtTrId("wcfg_020"));
     //% "С последней прочитанной из терминала"
     actions.at(1)->setText(qtTrId("wcfg_021"));
+    //% "С копией из истории чтений..."
+    actions.at(2)->setText(qtTrId("wcfg_047"));
     m_full->translateForm();
     m_light->translateForm();
     updateTitle();
@@ -190,7 +230,7 @@ void ZRK_Widget_Config::updateTitle()
     //% "Конфигурация"
     const QString base
         = m_titleName.isEmpty() ? qtTrId("wcfg_001") : deviceType() + QStringLiteral(": ") + m_titleName;
-    setWindowTitle(m_modified ? base + QLatin1Char('*') : base);
+    setWindowTitle(isModified() ? base + QLatin1Char('*') : base);
 }
 
 // ---- opening ---------------------------------------------------------------------------------
@@ -216,20 +256,21 @@ QString ZRK_Widget_Config::loadErrorText(const QString& path, const QString& rea
     return qtTrId("wcfg_026").arg(QDir::toNativeSeparators(path), why);
 }
 
-bool ZRK_Widget_Config::loadConfiguration(const QString& path, szConfigParam& configParam)
+bool ZRK_Widget_Config::loadConfiguration(const QString& path, zrk::ConfigSource source)
 {
-    // Loaded once first, so that a file that does not load changes nothing.
-    zrk::ConfigLoadResult loaded = zrk::loadConfigFile(path);
-    if (!loaded.doc) {
-        showMessage(loadErrorText(path, loaded.error));
-        return false;
-    }
-    // One parse for both editors: the light editor takes a copy of the tree as it was read, since
-    // reading the pages creates the nodes a file lacks.
-    m_light->adoptDocument(zrk::copyDocument(loaded.doc->root()));
-    m_full->initDefaultParam();
-    m_full->readDocument(loaded.doc.get(), &configParam);
-    return true;
+    applyHeader();
+    zrk::ConfigSession& session = m_editing.session();
+    QString error;
+    //% "Открытие конфигурации"
+    const bool ok = m_editing.documentStep(qtTrId("wcfg_048"), [&] {
+        if (!session.loadFile(path, source, &error))
+            return false;
+        session.markSaved();
+        return true;
+    });
+    if (!ok)
+        showMessage(loadErrorText(path, error));
+    return ok;
 }
 
 void ZRK_Widget_Config::openConfig(szConfigFile* file, szConfigParam& configParam)
@@ -239,26 +280,35 @@ void ZRK_Widget_Config::openConfig(szConfigFile* file, szConfigParam& configPara
     const QString path
         = QString::fromLocal8Bit(file->path, static_cast<int>(strnlen(file->path, sizeof file->path)));
     if (path.isEmpty()) {
-        m_full->initDefaultParam();
-        m_light->setDocument(m_full->renderXml());
-        m_filePath.clear();
-        setTitleName(QLatin1String(kNewTitle));
-    } else if (loadConfiguration(path, configParam)) {
-        if (file->source == 1) {
-            m_filePath = path;
-            setTitleName(QFileInfo(path).fileName());
-        } else {
-            // What the terminal had is kept before anything can be written over it.
-            keepReadCopy(path);
-            m_filePath.clear();
-            setTitleName(QLatin1String(kDeviceTitle));
+        newConfig();
+    } else if (file->source == 1) {
+        if (!loadConfiguration(path, zrk::ConfigSource::File)) {
+            show();
+            raise();
+            return;
         }
+        setTitleName(QFileInfo(path).fileName());
+    } else {
+        if (!loadConfiguration(path, zrk::ConfigSource::Terminal)) {
+            // The message is out; the editing goes on as it was, unsaved edits and editor included.
+            show();
+            raise();
+            return;
+        }
+        // What the terminal had is kept before anything can be written over it.
+        keepReadCopy(path);
+        QFile read(path);
+        if (read.open(QIODevice::ReadOnly))
+            m_editing.session().setLastRead(read.readAll(), terminalId());
+        setTitleName(QLatin1String(kDeviceTitle));
     }
+    // A configuration read from a file tells the telemetry view its protocol generation.
+    if (!path.isEmpty())
+        m_full->fillConfigParam(configParam);
     if (file->mode == 1)
         showWidgetConfigFull();
     else
         showWidgetConfigLight();
-    markSaved();
     show();
     raise();
     // The device object reports the opening to the host (2370) once this returns.
@@ -270,127 +320,156 @@ void ZRK_Widget_Config::keepReadCopy(const QString& path)
         = lpGlobalDevice ? lpGlobalDevice->getPathXML() : appDataDirectory() + QStringLiteral("/Data/XML/");
     if (!QDir().mkpath(dir))
         return;
-    const QString stamp = QDateTime::currentDateTime().toString(QLatin1String(kReadCopyDateFormat));
-    QString copy = QDir(dir).filePath(QString::fromLatin1(kReadCopyPattern).arg(stamp, QString()));
+    const QDateTime now = QDateTime::currentDateTime();
+    QString copy = QDir(dir).filePath(zrk::readCopyName(now));
     for (int n = 2; QFileInfo::exists(copy); ++n)
-        copy = QDir(dir).filePath(
-            QString::fromLatin1(kReadCopyPattern).arg(stamp, QStringLiteral("_%1").arg(n)));
+        copy = QDir(dir).filePath(zrk::readCopyName(now, n));
     if (QFile::copy(path, copy))
         m_lastReadCopy = copy;
 }
 
+QVector<zrk::ReadCopy> ZRK_Widget_Config::readHistory() const
+{
+    return zrk::listReadCopies(
+        lpGlobalDevice ? lpGlobalDevice->getPathXML() : appDataDirectory() + QStringLiteral("/Data/XML/"));
+}
+
 bool ZRK_Widget_Config::openFile(const QString& path)
 {
-    szConfigParam param {};
-    if (!loadConfiguration(path, param))
+    if (!loadConfiguration(path, zrk::ConfigSource::File))
         return false;
-    m_filePath = path;
     setTitleName(QFileInfo(path).fileName());
-    markSaved();
     return true;
 }
 
 void ZRK_Widget_Config::newConfig()
 {
-    m_full->initDefaultParam();
-    m_light->setDocument(m_full->renderXml());
-    m_filePath.clear();
+    applyHeader();
+    zrk::ConfigSession& session = m_editing.session();
+    //% "Новая конфигурация"
+    m_editing.documentStep(qtTrId("wcfg_049"), [&session] {
+        session.newDocument();
+        session.markSaved();
+        return true;
+    });
     setTitleName(QLatin1String(kNewTitle));
-    markSaved();
 }
 
 void ZRK_Widget_Config::resetToDefaults()
 {
     // The pages' settings only: what the terminal had beyond them stays.
-    if (isFullEditorShown()) {
-        m_full->initDefaultParam(true);
-    } else {
+    if (!isFullEditorShown()) {
         m_light->setDefaultValues();
+        return;
     }
-    updateModified();
+    zrk::ConfigSession& session = m_editing.session();
+    //% "Значения по умолчанию"
+    m_editing.documentStep(qtTrId("wcfg_050"), [&session] {
+        session.resetToDefaults();
+        return true;
+    });
+}
+
+void ZRK_Widget_Config::undo()
+{
+    m_editing.undoStack().undo();
+}
+
+void ZRK_Widget_Config::redo()
+{
+    m_editing.undoStack().redo();
 }
 
 // ---- saving ----------------------------------------------------------------------------------
 
+void ZRK_Widget_Config::applyHeader()
+{
+    QString model = QString::fromLatin1(zrk::cfg::kDefaultModel);
+    QString vendor = QString::fromLatin1(zrk::cfg::kDefaultVendor);
+    QString version = QString::fromLatin1(zrk::cfg::kVersionText);
+    if (lpGlobalDevice) {
+        szLibraryInfo info {};
+        lpGlobalDevice->getModuleInfo(&info);
+        model = lpGlobalDevice->getDeviceType();
+        vendor = lpGlobalDevice->getDeviceVendor();
+        version = QString::asprintf("%d.%d.%d", info.hostValues[0], info.hostValues[1], info.hostValues[2]);
+    }
+    m_editing.session().setHeader(model, version, vendor);
+}
+
 QByteArray ZRK_Widget_Config::currentXml()
 {
-    return isFullEditorShown() ? m_full->renderXml() : m_light->renderDocument();
+    applyHeader();
+    return m_editing.session().render();
 }
 
 bool ZRK_Widget_Config::openFileTitles(zrk::DeviceTitles* titles, QStringList* userParamTypes)
 {
-    const zrk::ConfigLoadResult loaded = zrk::loadConfigBytes(currentXml());
-    if (!loaded.doc)
-        return false;
-    *titles = zrk::deviceTitles(loaded.doc->root());
-    CXMLWorkData root(loaded.doc.get(), "DEVICE");
-    *userParamTypes = zrk::fieldset::userParamTypes(&root);
-    return true;
+    return m_editing.session().telemetryTitles(titles, userParamTypes);
 }
 
 bool ZRK_Widget_Config::saveFile(const QString& path)
 {
-    const QByteArray text = currentXml();
+    applyHeader();
     QString error;
-    if (!zrk::writeFileWhole(path, text, &error)) {
+    if (!m_editing.session().saveFile(path, &error)) {
         //% "Не удалось записать файл «%1»:\n%2.\n\nПрежний файл не изменён."
         showMessage(qtTrId("wcfg_027").arg(QDir::toNativeSeparators(path), error));
         return false;
     }
-    m_filePath = path;
-    m_titleName = QFileInfo(path).fileName();
-    m_savedXml = text;
-    m_modified = false;
-    updateTitle();
+    setTitleName(QFileInfo(path).fileName());
     return true;
-}
-
-void ZRK_Widget_Config::markSaved()
-{
-    m_editPause.stop();
-    m_savedXml = currentXml();
-    m_modified = false;
-    updateTitle();
 }
 
 void ZRK_Widget_Config::updateModified()
 {
-    m_editPause.stop();
-    const bool modified = currentXml() != m_savedXml;
-    if (modified == m_modified)
-        return;
-    m_modified = modified;
     updateTitle();
 }
 
-void ZRK_Widget_Config::slot_contentEdited()
+QString ZRK_Widget_Config::terminalId() const
 {
-    m_editPause.start();
+    return lpGlobalDevice ? lpGlobalDevice->getDeviceImei() : QString();
+}
+
+QVector<zrk::ConfigDifference> ZRK_Widget_Config::pendingWrite() const
+{
+    const_cast<ZRK_Widget_Config*>(this)->applyHeader();
+    return m_editing.session().pendingWrite(terminalId());
 }
 
 void ZRK_Widget_Config::saveConfigToDevice()
 {
     if (!m_connected)
         return;
+    if (reviewBeforeWrite()) {
+        const bool fromTerminal = m_editing.session().hasLastReadFrom(terminalId());
+        //% "конфигурация, прочитанная из этого терминала"
+        const QString read = qtTrId("wcfg_051");
+        //% "значения по умолчанию (из этого терминала конфигурация ещё не читалась)"
+        const QString defaults = qtTrId("wcfg_052");
+        if (!confirmWrite(pendingWrite(), fromTerminal ? read : defaults))
+            return;
+    }
     const QString stamp = QDateTime::currentDateTime().toString(QLatin1String(kTempDateFormat));
     QString path;
-    QString error;
-    bool ok = false;
     if (isFullEditorShown()) {
         QDir().mkpath(appDataDirectory());
         path = appDataDirectory() + QString::fromLatin1(kFullTempPattern).arg(stamp);
-        ui->pushButton_Load->setEnabled(false);
-        ok = m_full->SaveFileXml(path, &error);
-        ui->pushButton_Load->setEnabled(m_connected);
     } else {
         path = QDir::currentPath() + QString::fromLatin1(kLightTempPattern).arg(deviceType(), stamp);
-        ok = m_light->saveConfigLight(path, &error);
     }
+    const QByteArray text = currentXml();
+    QString error;
+    ui->pushButton_Load->setEnabled(false);
+    const bool ok = zrk::writeFileWhole(path, text, &error);
+    ui->pushButton_Load->setEnabled(m_connected);
     if (!ok) {
         showMessage(qtTrId("wcfg_027").arg(QDir::toNativeSeparators(path), error));
         return;
     }
     sendToHost(ZRK_MSG_WRITE_FILE_TO_DEVICE, reinterpret_cast<unsigned long>(&path), 0);
+    // What the terminal now holds is what the next review compares with.
+    m_editing.session().setLastRead(text, terminalId());
 }
 
 void ZRK_Widget_Config::readConfigFromDevice()
@@ -413,10 +492,10 @@ QVector<zrk::ConfigDifference> ZRK_Widget_Config::compareWithFile(const QString&
         showMessage(loadErrorText(path, other.error));
         return {};
     }
-    zrk::ConfigLoadResult mine = zrk::loadConfigBytes(currentXml());
+    applyHeader();
     if (ok)
-        *ok = mine.doc != nullptr;
-    return zrk::diffConfigs(mine.doc ? mine.doc->root() : nullptr, other.doc->root());
+        *ok = true;
+    return m_editing.session().differencesTo(other.doc->root());
 }
 
 QVector<zrk::ConfigDifference> ZRK_Widget_Config::compareWithLastRead(bool* ok)
@@ -452,33 +531,15 @@ void ZRK_Widget_Config::showWidgetConfigLight()
     ui->pushButton_Editor->setText(qtTrId("wcfg_029"));
 }
 
+// Both editors show the one configuration: switching moves nothing.
 void ZRK_Widget_Config::changeConfigWidgetToFull()
 {
-    if (isFullEditorShown())
-        return;
-    updateModified();
-    const bool wasModified = m_modified;
-    zrk::ConfigLoadResult doc = zrk::loadConfigBytes(m_light->renderDocument());
-    if (doc.doc) {
-        m_full->initDefaultParam();
-        m_full->readDocument(doc.doc.get());
-    }
     showWidgetConfigFull();
-    // The two editors write the same settings in different layouts: edits stay edits.
-    m_savedXml = wasModified ? QByteArray() : currentXml();
-    updateModified();
 }
 
 void ZRK_Widget_Config::changeConfigWidgetToLight()
 {
-    if (!isFullEditorShown())
-        return;
-    updateModified();
-    const bool wasModified = m_modified;
-    m_light->setDocument(m_full->renderXml());
     showWidgetConfigLight();
-    m_savedXml = wasModified ? QByteArray() : currentXml();
-    updateModified();
 }
 
 // ---- pages -----------------------------------------------------------------------------------
@@ -494,7 +555,7 @@ void ZRK_Widget_Config::openConfigPage(quint32 page)
 
 void ZRK_Widget_Config::getFileConfigure(QString& name)
 {
-    name = m_filePath;
+    name = currentFile();
 }
 
 // ---- closing ---------------------------------------------------------------------------------
@@ -530,14 +591,14 @@ QString ZRK_Widget_Config::chooseFileToOpen()
 {
     //% "Файлы конфигурации (*.xml)"
     return QFileDialog::getOpenFileName(
-        this, QString(), QFileInfo(m_filePath).absolutePath(), qtTrId("wcfg_035"));
+        this, QString(), QFileInfo(currentFile()).absolutePath(), qtTrId("wcfg_035"));
 }
 
 QString ZRK_Widget_Config::chooseFileToSave()
 {
-    const QString proposal = m_filePath.isEmpty()
+    const QString proposal = currentFile().isEmpty()
         ? QDir(appDataDirectory()).filePath(QStringLiteral("zrk_K7140.xml"))
-        : m_filePath;
+        : currentFile();
     return QFileDialog::getSaveFileName(this, QString(), proposal, qtTrId("wcfg_035"));
 }
 
@@ -549,12 +610,37 @@ void ZRK_Widget_Config::showDifferences(
     dialog.exec();
 }
 
+bool ZRK_Widget_Config::confirmWrite(
+    const QVector<zrk::ConfigDifference>& differences, const QString& against)
+{
+    ZRK_Dialog_Config_Compare dialog(this);
+    dialog.setReview(differences, against);
+    const bool write = dialog.exec() == QDialog::Accepted;
+    if (!dialog.reviewAgain()) {
+        setReviewBeforeWrite(false);
+        ui->checkBox_ReviewBeforeWrite->setChecked(false);
+    }
+    return write;
+}
+
+QString ZRK_Widget_Config::chooseReadCopy(const QVector<zrk::ReadCopy>& copies)
+{
+    QStringList items;
+    for (const zrk::ReadCopy& c : copies)
+        items << QLocale().toString(c.when, QLocale::LongFormat) + QStringLiteral("  —  ")
+                + QFileInfo(c.path).fileName();
+    bool ok = false;
+    //% "История чтений"
+    const QString chosen = QInputDialog::getItem(this, qtTrId("wcfg_053"),
+        //% "Конфигурация, прочитанная из терминала:"
+        qtTrId("wcfg_054"), items, 0, false, &ok);
+    const int i = items.indexOf(chosen);
+    return ok && i >= 0 ? copies[i].path : QString();
+}
+
 bool ZRK_Widget_Config::confirmClose()
 {
-    if (!isVisible())
-        return true;
-    updateModified();
-    if (!m_modified)
+    if (!isVisible() || !isModified())
         return true;
     switch (askUnsavedChanges()) {
     case UnsavedAnswer::Discard:
@@ -564,7 +650,7 @@ bool ZRK_Widget_Config::confirmClose()
     case UnsavedAnswer::Save:
         break;
     }
-    const QString path = m_filePath.isEmpty() ? chooseFileToSave() : m_filePath;
+    const QString path = currentFile().isEmpty() ? chooseFileToSave() : currentFile();
     return !path.isEmpty() && saveFile(path);
 }
 
@@ -618,7 +704,7 @@ void ZRK_Widget_Config::slot_pressed_Open()
 
 void ZRK_Widget_Config::slot_pressed_Save()
 {
-    const QString path = m_filePath.isEmpty() ? chooseFileToSave() : m_filePath;
+    const QString path = currentFile().isEmpty() ? chooseFileToSave() : currentFile();
     if (!path.isEmpty())
         saveFile(path);
 }
@@ -645,6 +731,11 @@ void ZRK_Widget_Config::slot_pressed_Load()
 void ZRK_Widget_Config::slot_pressed_Defaults()
 {
     resetToDefaults();
+}
+
+void ZRK_Widget_Config::slot_toggled_ReviewBeforeWrite(bool on)
+{
+    setReviewBeforeWrite(on);
 }
 
 void ZRK_Widget_Config::slot_pressed_Editor()

@@ -4,10 +4,11 @@
 
 #include "config_model/config_diff.h"
 #include "config_model/config_document.h"
+#include "config_model/config_session.h"
+#include "config_ui/zrk_config_editing.h"
 
 #include <QByteArray>
 #include <QDialog>
-#include <QTimer>
 
 class ZRK_Widget_Config_Full;
 class ZRK_Widget_Config_Light;
@@ -19,10 +20,11 @@ class ZRK_Designer_Widget_Config;
 // deleted while the library is loaded. The device object routes the host's configuration
 // messages to the operations below (virtual, so that a test can watch the routing).
 //
-// It shows the full editor (a tab per page) or the light editor, opens a configuration from a
-// file, from the terminal or as a new one, saves it, hands it to the host for the terminal, keeps
-// a dated copy of everything read from the terminal, compares, and asks before unsaved changes
-// are dropped.
+// It holds the open configuration (zrk::ConfigSession) with its undo history, and shows it in the
+// full editor (a tab per page) or the light editor, both views of the same configuration. It opens
+// a configuration from a file, from the terminal or as a new one, saves it, shows what a write
+// will change on the terminal before handing it to the host, keeps a dated copy of everything
+// read from the terminal, compares, and asks before unsaved changes are dropped.
 class ZRK_Widget_Config : public QDialog
 {
     Q_OBJECT
@@ -86,30 +88,40 @@ public:
     void changeConfigWidgetToLight();
     bool isFullEditorShown() const;
 
-    // What the buttons do, without dialogs.
+    // What the buttons do, without dialogs; each is one undoable step.
     void newConfig();
-    // Opens a file into the editor showing; false (with a message) when it does not load.
+    // Opens a file; false (with a message) when it does not load, and nothing changes.
     bool openFile(const QString& path);
-    // Saves the editor's configuration; false (with a message) when the file cannot be written.
+    // Saves the configuration; false (with a message) when the file cannot be written.
     bool saveFile(const QString& path);
     void resetToDefaults();
+    void undo();
+    void redo();
     QVector<zrk::ConfigDifference> compareWithFile(const QString& path, bool* ok = nullptr);
     // Against the copy kept of the configuration last read from the terminal.
     QVector<zrk::ConfigDifference> compareWithLastRead(bool* ok = nullptr);
+    // The dated copies of configurations read from terminals, newest first.
+    QVector<zrk::ReadCopy> readHistory() const;
+    // What writing to the connected terminal would change there: from the configuration last read
+    // from it (or a new configuration's defaults when none was), to the open one.
+    QVector<zrk::ConfigDifference> pendingWrite() const;
 
-    // The configuration as the editor showing would save it.
+    // The configuration as it is saved.
     QByteArray currentXml();
-    // For the header of a saved telemetry file, from the configuration open in the window: the
-    // names of the inputs, outputs and temperature sensors and the user-parameter types (1-, 2-,
-    // 4-, 8-byte). False, with nothing set, when no configuration is open.
+    // For the header of a saved telemetry file, from the configuration open in the window (shown
+    // or not): the names of the inputs, outputs and temperature sensors and the user-parameter
+    // types (1-, 2-, 4-, 8-byte). False, with nothing set, before a configuration was opened.
     bool openFileTitles(zrk::DeviceTitles* titles, QStringList* userParamTypes);
-    // Compares with what was last opened or saved now, without waiting for the pause after edits.
+    // Brings the title in line with the unsaved mark (kept for callers; the mark follows every edit).
     void updateModified();
-    bool isModified() const { return m_modified; }
-    QString currentFile() const { return m_filePath; }
+    bool isModified() const { return m_editing.session().isModified(); }
+    QString currentFile() const { return m_editing.session().filePath(); }
     QString lastReadCopy() const { return m_lastReadCopy; }
     ZRK_Widget_Config_Full* widgetFull() const { return m_full; }
     ZRK_Widget_Config_Light* widgetLight() const { return m_light; }
+    zrk::ConfigSession& session() { return m_editing.session(); }
+    const zrk::ConfigSession& session() const { return m_editing.session(); }
+    QUndoStack& undoStack() { return m_editing.undoStack(); }
 
     enum class UnsavedAnswer
     {
@@ -125,6 +137,10 @@ protected:
     virtual QString chooseFileToOpen();
     virtual QString chooseFileToSave();
     virtual void showDifferences(const QVector<zrk::ConfigDifference>& differences, const QString& against);
+    // Shows what the write will change on the terminal; true to write.
+    virtual bool confirmWrite(const QVector<zrk::ConfigDifference>& differences, const QString& against);
+    // One of the dated copies, or "" when the user chose none.
+    virtual QString chooseReadCopy(const QVector<zrk::ReadCopy>& copies);
 
     void closeEvent(QCloseEvent* event) override;
     void reject() override;
@@ -138,30 +154,28 @@ private slots:
     void slot_pressed_Load();
     void slot_pressed_Defaults();
     void slot_pressed_Editor();
-    void slot_contentEdited();
+    void slot_toggled_ReviewBeforeWrite(bool on);
 
 private:
-    // Reads a file into both editors' documents; false with a message, everything kept as it was.
-    bool loadConfiguration(const QString& path, szConfigParam& configParam);
+    // Takes a configuration as one undoable step; false with a message, everything kept as it was.
+    bool loadConfiguration(const QString& path, zrk::ConfigSource source);
     void keepReadCopy(const QString& path);
-    void markSaved();
+    void applyHeader();
     void setTitleName(const QString& name);
     void updateTitle();
     void updateButtons();
     // Asks about unsaved changes; false when the window must stay open.
     bool confirmClose();
     QString deviceType() const;
+    QString terminalId() const;
     QString loadErrorText(const QString& path, const QString& reason) const;
 
     Ui::ZRK_Designer_Widget_Config* ui;
+    ZRK_Config_Editing m_editing;
     ZRK_Widget_Config_Full* m_full = nullptr;
     ZRK_Widget_Config_Light* m_light = nullptr;
     bool m_connected = false;
-    QString m_filePath; // the file the configuration came from or was saved to; empty otherwise
     QString m_titleName; // what follows the device type in the title; empty before the first open
     QString m_lastReadCopy; // the dated copy of the configuration last read from the terminal
-    QByteArray m_savedXml; // the configuration as last opened or saved, to tell edits
-    bool m_modified = false;
     bool m_closeConfirmed = false;
-    QTimer m_editPause;
 };

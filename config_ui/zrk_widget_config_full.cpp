@@ -2,9 +2,12 @@
 
 #include "config_model/config_document.h"
 #include "config_model/config_keys.h"
+#include "config_model/config_session.h"
+#include "config_model/orba_fieldset.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
 #include "config_model/xml_workdata.h"
+#include "config_ui/zrk_config_editing.h"
 #include "config_ui/zrk_form_config_ainf.h"
 #include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_other.h"
@@ -29,9 +32,6 @@
 
 namespace {
 
-constexpr char kProtocolPath[] = "PROTOCOL/ORBA";
-constexpr char kFormatKey[] = "format";
-
 // Page values of 2383 that a page passes on to its own sub-tabs.
 constexpr quint32 kFieldSetTabFirst = 201;
 constexpr quint32 kFieldSetTabLast = 210;
@@ -52,11 +52,12 @@ int ZRK_Widget_Config_Full::pageNumberOf(quint32 value)
     return static_cast<int>(value);
 }
 
-template <typename P>
-ZRK_Widget_Config_Full::Page& ZRK_Widget_Config_Full::addPage(P* page, int order, int number)
+ZRK_Widget_Config_Full::Page& ZRK_Widget_Config_Full::addPage(
+    ZRK_Form_Config_Page* page, int order, int number)
 {
     Page p;
     p.widget = page;
+    p.form = page;
     p.order = order;
     p.number = number;
     p.title = [page] { return page->getTabTitle(); };
@@ -69,7 +70,8 @@ ZRK_Widget_Config_Full::Page& ZRK_Widget_Config_Full::addPage(P* page, int order
     p.setEnabled = [page](bool on) { page->setFormEnabled(on); };
     p.setTabIndex = [page](int index) { page->setTabIndex(index); };
     const int index = insertPage(p);
-    watchForEdits(page);
+    if (!page->shownBranches().isEmpty())
+        watchForEdits(page, [this, page] { takeEdits(page); });
     return m_pages[index];
 }
 
@@ -98,12 +100,12 @@ ZRK_Form_Config_Ainf* ZRK_Widget_Config_Full::ensureGeoPage()
     else
         m_geo->deviceDisconnect();
     m_tabs->setTabText(m_tabs->indexOf(m_geoHolder), m_geo->getTabTitle());
-    watchForEdits(m_geo);
     return m_geo;
 }
 
-ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(QWidget* parent)
+ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(ZRK_Config_Editing* editing, QWidget* parent)
     : QWidget(parent)
+    , m_editing(editing)
     , m_tabs(new QTabWidget(this))
 {
     setObjectName(QStringLiteral("ZRK_Widget_Config_Full"));
@@ -178,36 +180,121 @@ ZRK_Widget_Config_Full::ZRK_Widget_Config_Full(QWidget* parent)
 
     m_other = new ZRK_Form_Config_Other(m_tabs);
     addPage(m_other, OrderKept, PageNone);
-    connect(m_other, &ZRK_Form_Config_Other::keptValueEdited, this, &ZRK_Widget_Config_Full::contentEdited);
-    m_other->setOwnedTopNodes(ownedTopNodes());
+    m_other->setEditing(m_editing);
+
+    zrk::ConfigSession& session = m_editing->session();
+    connect(
+        &session, &zrk::ConfigSession::documentReplaced, this, &ZRK_Widget_Config_Full::showConfiguration);
+    connect(&session, &zrk::ConfigSession::valueChanged, this, &ZRK_Widget_Config_Full::slot_valueChanged);
 }
 
 ZRK_Widget_Config_Full::~ZRK_Widget_Config_Full() = default;
 
-void ZRK_Widget_Config_Full::watchForEdits(QWidget* page)
+void ZRK_Widget_Config_Full::watchForEdits(QWidget* page, const std::function<void()>& edited)
 {
-    // Any change of any input marks the configuration for a fresh comparison with the saved one;
-    // the window decides whether it really differs, so pages need nothing of their own.
-    auto edited = [this] {
+    // Any change of any input is compared with the configuration; pages need nothing of their own.
+    auto onEdit = [this, edited] {
         if (!m_filling)
-            emit contentEdited();
+            edited();
     };
     for (QAbstractButton* b : page->findChildren<QAbstractButton*>())
-        connect(b, &QAbstractButton::toggled, this, edited);
+        connect(b, &QAbstractButton::toggled, this, onEdit);
     for (QSpinBox* s : page->findChildren<QSpinBox*>())
-        connect(s, qOverload<int>(&QSpinBox::valueChanged), this, edited);
+        connect(s, qOverload<int>(&QSpinBox::valueChanged), this, onEdit);
     for (QDoubleSpinBox* s : page->findChildren<QDoubleSpinBox*>())
-        connect(s, qOverload<double>(&QDoubleSpinBox::valueChanged), this, edited);
+        connect(s, qOverload<double>(&QDoubleSpinBox::valueChanged), this, onEdit);
     for (QLineEdit* e : page->findChildren<QLineEdit*>())
-        connect(e, &QLineEdit::textEdited, this, edited);
+        connect(e, &QLineEdit::textEdited, this, onEdit);
     for (QComboBox* c : page->findChildren<QComboBox*>())
-        connect(c, qOverload<int>(&QComboBox::currentIndexChanged), this, edited);
+        connect(c, qOverload<int>(&QComboBox::currentIndexChanged), this, onEdit);
     for (QPlainTextEdit* e : page->findChildren<QPlainTextEdit*>())
-        connect(e, &QPlainTextEdit::textChanged, this, edited);
+        connect(e, &QPlainTextEdit::textChanged, this, onEdit);
     for (QAbstractItemView* v : page->findChildren<QAbstractItemView*>()) {
         if (v->model())
-            connect(v->model(), &QAbstractItemModel::dataChanged, this, edited);
+            connect(v->model(), &QAbstractItemModel::dataChanged, this, onEdit);
     }
+}
+
+namespace {
+
+QString nodeOf(const zrk::cfg::BranchDecl& branch, const zrk::cfg::KeyDecl& key)
+{
+    return key.group.isEmpty() ? branch.top : branch.top + QLatin1Char('/') + key.group;
+}
+
+} // namespace
+
+void ZRK_Widget_Config_Full::takeEdits(ZRK_Form_Config_Page* page)
+{
+    const zrk::ConfigSession& session = m_editing->session();
+    QVector<ZRK_Config_Editing::Change> changes;
+    const QVector<zrk::cfg::BranchDecl> branches = page->shownBranches();
+    for (int b = 0; b < branches.size(); ++b) {
+        const zrk::cfg::BranchDecl& decl = branches[b];
+        if (decl.keys.isEmpty())
+            continue;
+        const zrk::cfg::Values shown = page->shownValues(b);
+        const zrk::cfg::Values stored = session.branchValues(decl);
+        for (int i = 0; i < decl.keys.size() && i < shown.size(); ++i) {
+            if (shown[i] != stored.value(i))
+                changes.append({ nodeOf(decl, decl.keys[i]), decl.keys[i].key, shown[i] });
+        }
+    }
+    m_editing->setValues(changes);
+}
+
+void ZRK_Widget_Config_Full::showBranch(ZRK_Form_Config_Page* page, int branch)
+{
+    const QScopedValueRollback<bool> filling(m_filling, true);
+    const zrk::cfg::BranchDecl decl = page->shownBranches().value(branch);
+    page->showValues(branch, m_editing->session().branchValues(decl));
+}
+
+void ZRK_Widget_Config_Full::showConfiguration()
+{
+    zrk::ConfigSession& session = m_editing->session();
+    for (const Page& p : qAsConst(m_pages)) {
+        if (!p.form)
+            continue;
+        const QVector<zrk::cfg::BranchDecl> branches = p.form->shownBranches();
+        for (int b = 0; b < branches.size(); ++b) {
+            const zrk::cfg::BranchDecl& decl = branches[b];
+            if (decl.keys.isEmpty())
+                continue;
+            // A page already showing these values (the same configuration again) is left alone.
+            const zrk::cfg::Values stored = session.branchValues(decl);
+            if (p.form->shownValues(b) == stored)
+                continue;
+            showBranch(p.form, b);
+            const zrk::cfg::Values shown = p.form->shownValues(b);
+            for (int i = 0; i < decl.keys.size() && i < shown.size(); ++i) {
+                if (shown[i] != stored.value(i))
+                    session.absorbValue(nodeOf(decl, decl.keys[i]), decl.keys[i].key, shown[i]);
+            }
+        }
+    }
+    m_other->refresh();
+}
+
+void ZRK_Widget_Config_Full::slot_valueChanged(const QString& node, const QString& key)
+{
+    const QString top = node.section(QLatin1Char('/'), 0, 0);
+    for (const Page& p : qAsConst(m_pages)) {
+        if (!p.form)
+            continue;
+        const QVector<zrk::cfg::BranchDecl> branches = p.form->shownBranches();
+        for (int b = 0; b < branches.size(); ++b) {
+            if (branches[b].top == top && !branches[b].keys.isEmpty()) {
+                // A page already showing the value (the user's own edit) is left alone.
+                const int i = branches[b].indexOf(node.section(QLatin1Char('/'), 1), key);
+                if (i >= 0 && p.form->shownValues(b).value(i) == m_editing->session().value(node, key))
+                    return;
+                showBranch(p.form, b);
+                return;
+            }
+        }
+    }
+    m_other->showValue(node, key);
 }
 
 void ZRK_Widget_Config_Full::translateForm()
@@ -238,116 +325,24 @@ void ZRK_Widget_Config_Full::setFormEnabled(bool enabled)
         p.setEnabled(enabled);
 }
 
-void ZRK_Widget_Config_Full::initDefaultParam(bool keepOther)
+void ZRK_Widget_Config_Full::initDefaultParam()
 {
     const QScopedValueRollback<bool> filling(m_filling, true);
-    for (const Page& p : m_pages) {
-        if (!(keepOther && p.widget == m_other))
-            p.setDefault();
-    }
+    for (const Page& p : qAsConst(m_pages))
+        p.setDefault();
 }
 
-bool ZRK_Widget_Config_Full::OpenFileXml(const QString& path, szConfigParam& configParam, QString* error)
+void ZRK_Widget_Config_Full::fillConfigParam(szConfigParam& configParam) const
 {
-    zrk::ConfigLoadResult loaded = zrk::loadConfigFile(path);
-    if (!loaded.doc) {
-        if (error)
-            *error = loaded.error;
-        return false;
-    }
-    readDocument(loaded.doc.get(), &configParam);
-    return true;
-}
-
-bool ZRK_Widget_Config_Full::OpenFileXml(const QString& path, QString* error)
-{
-    szConfigParam unused {};
-    return OpenFileXml(path, unused, error);
-}
-
-void ZRK_Widget_Config_Full::readDocument(CSerialize* doc, szConfigParam* configParam)
-{
-    if (!doc || !doc->root())
-        return;
-    if (configParam) {
-        // The protocol generation is what the telemetry view needs to know of the configuration.
-        const QByteArray format = zrk::keyValue(
-            zrk::childAt(doc->root(), QLatin1String(kProtocolPath)), QLatin1String(kFormatKey))
-                                      .toLocal8Bit()
-                                      .left(ZRK_CONFIG_PARAM_SIZE - 1);
-        std::memset(configParam->text, 0, sizeof configParam->text);
-        std::memcpy(configParam->text, format.constData(), static_cast<size_t>(format.size()));
-    }
-    // Values set by reading are no edits.
-    const QScopedValueRollback<bool> filling(m_filling, true);
-    // The unowned branches are taken before any page creates its missing nodes.
-    CXMLWorkData root(doc, zrk::cfg::kRootNode);
-    m_other->readFormParam(&root);
-    for (const Page& p : m_pages) {
-        if (p.widget != m_other)
-            p.read(&root);
-    }
-    m_fieldSet->readUserParam(&root);
-}
-
-void ZRK_Widget_Config_Full::writeHeader(CXMLWorkData* root)
-{
-    QString model = QString::fromLatin1(zrk::cfg::kDefaultModel);
-    QString vendor = QString::fromLatin1(zrk::cfg::kDefaultVendor);
-    QString version = QString::fromLatin1(zrk::cfg::kVersionText);
-    if (lpGlobalDevice) {
-        szLibraryInfo info {};
-        lpGlobalDevice->getModuleInfo(&info);
-        model = lpGlobalDevice->getDeviceType();
-        vendor = lpGlobalDevice->getDeviceVendor();
-        version = QString::asprintf("%d.%d.%d", info.hostValues[0], info.hostValues[1], info.hostValues[2]);
-    }
-    root->writeString(zrk::cfg::kHeaderModel, model);
-    root->writeString(zrk::cfg::kHeaderVersion, version);
-    root->writeString(zrk::cfg::kHeaderCreator, zrk::cfg::kCreatorText);
-    root->writeString(zrk::cfg::kHeaderVendor, vendor);
-}
-
-void ZRK_Widget_Config_Full::writePages(CXMLWorkData* root)
-{
-    for (const Page& p : m_pages) {
-        if (p.widget != m_other)
-            p.write(root);
-    }
-    m_fieldSet->writeUserParam(root);
-}
-
-QByteArray ZRK_Widget_Config_Full::renderXml()
-{
-    CSerialize doc(0, nullptr);
-    doc.startSerialize();
-    {
-        CXMLWorkData root(&doc, zrk::cfg::kRootNode);
-        root.clearNode();
-        writeHeader(&root);
-        writePages(&root);
-        m_other->writeFormParam(&root);
-        root.writeParameters();
-    }
-    return doc.render();
-}
-
-bool ZRK_Widget_Config_Full::SaveFileXml(const QString& path, QString* error)
-{
-    return zrk::writeFileWhole(path, renderXml(), error);
-}
-
-QStringList ZRK_Widget_Config_Full::ownedTopNodes()
-{
-    if (m_owned.isEmpty()) {
-        // What the pages write, asked of the pages themselves: a page that writes a branch owns it.
-        CSerialize doc(0, nullptr);
-        doc.startSerialize();
-        CXMLWorkData root(&doc, zrk::cfg::kRootNode);
-        writePages(&root);
-        m_owned = zrk::topNodeNames(doc.root());
-    }
-    return m_owned;
+    // The protocol generation is what the telemetry view needs to know of the configuration.
+    const QByteArray format = m_editing->session()
+                                  .value(QLatin1String(zrk::fieldset::kProtocolNode) + QLatin1Char('/')
+                                          + QLatin1String(zrk::fieldset::kOrbaNode),
+                                      QLatin1String(zrk::fieldset::kFormatKey))
+                                  .toLocal8Bit()
+                                  .left(ZRK_CONFIG_PARAM_SIZE - 1);
+    std::memset(configParam.text, 0, sizeof configParam.text);
+    std::memcpy(configParam.text, format.constData(), static_cast<size_t>(format.size()));
 }
 
 bool ZRK_Widget_Config_Full::isSubTabValue(quint32 value)

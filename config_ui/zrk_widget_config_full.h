@@ -15,11 +15,13 @@ class QTabWidget;
 class ZRK_Form_Config_Ainf;
 class ZRK_Form_Config_Orba3;
 class ZRK_Form_Config_Other;
+class ZRK_Form_Config_Page;
 class ZRK_Form_Config_Track;
+class ZRK_Config_Editing;
 
-// The full editor: a tab per configuration page. Pages keep the common contract by name only, so
-// each is registered once with addPage(), which binds its operations; everything else (reset,
-// reading, writing in the fixed order, the page table of message 2383) walks that list.
+// The full editor: a tab per configuration page, each a view of the open configuration. Pages are
+// registered once with addPage(); showing the configuration, turning what the user changed into
+// undoable edits, translating, connecting and the page table of message 2383 walk that list.
 class ZRK_Widget_Config_Full : public QWidget
 {
     Q_OBJECT
@@ -59,7 +61,7 @@ public:
         PageAccel = 9,
     };
 
-    explicit ZRK_Widget_Config_Full(QWidget* parent = nullptr);
+    explicit ZRK_Widget_Config_Full(ZRK_Config_Editing* editing, QWidget* parent = nullptr);
     ~ZRK_Widget_Config_Full() override;
 
     void translateForm();
@@ -67,18 +69,13 @@ public:
     void deviceDisconnect();
     void setFormEnabled(bool enabled);
 
-    // Every page at its defaults; keepOther leaves the branches no page owns as they are.
-    void initDefaultParam(bool keepOther = false);
-    // Reads a configuration file into the pages; fills configParam with the protocol generation.
-    // False with the parser's reason when the file does not load; the pages then keep their values.
-    bool OpenFileXml(const QString& path, szConfigParam& configParam, QString* error = nullptr);
-    bool OpenFileXml(const QString& path, QString* error = nullptr);
-    // Reads the pages from an open document (its "DEVICE" root); fills configParam when given.
-    void readDocument(CSerialize* doc, szConfigParam* configParam = nullptr);
-    // The configuration as SaveFileXml writes it.
-    QByteArray renderXml();
-    // Writes the configuration whole, or leaves the old file; false with the reason.
-    bool SaveFileXml(const QString& path, QString* error = nullptr);
+    // Every page at its contract's defaults (the configuration is not touched).
+    void initDefaultParam();
+    // Shows the whole configuration on every page; what a page cannot show as it is (a range, a
+    // rule of the page) is taken into the configuration as the page shows it, as part of it.
+    void showConfiguration();
+    // The protocol generation the telemetry view is told of, into configParam.
+    void fillConfigParam(szConfigParam& configParam) const;
 
     // Selects the page of a 2383 value and opens its sub-tab; false when this model has no such page.
     bool openPage(quint32 value);
@@ -88,9 +85,6 @@ public:
     QWidget* pageForValue(quint32 value) const;
     static int pageNumberOf(quint32 value);
     QTabWidget* tabWidget() const { return m_tabs; }
-
-    // The top-level branches the pages write (their own top nodes).
-    QStringList ownedTopNodes();
 
     ZRK_Form_Config_Orba3* fieldSetPage() const { return m_fieldSet; }
     // The geo-information page, built when its tab is first opened (it starts a web engine for its
@@ -107,14 +101,11 @@ public slots:
     // This model has no page that follows the speeding setting; kept for the track page's signal.
     void setSpeedingParam(bool on);
 
-signals:
-    // Something in a page changed (a widget's value, an edited kept value).
-    void contentEdited();
-
 private:
     struct Page
     {
         QWidget* widget = nullptr;
+        ZRK_Form_Config_Page* form = nullptr; // null for the geo page's holder
         int order = 0;
         int number = PageNone;
         std::function<QString()> title;
@@ -126,18 +117,19 @@ private:
     };
 
     // Binds a page's contract and puts it in the tab set; pages are kept in write order.
-    template <typename P> Page& addPage(P* page, int order, int number);
+    Page& addPage(ZRK_Form_Config_Page* page, int order, int number);
     // Puts a bound page in its place by write order; returns its index.
     int insertPage(const Page& page);
-    void watchForEdits(QWidget* page);
-    void writeHeader(CXMLWorkData* root);
-    // Every page's branch in the fixed order, then the field set's user parameters.
-    void writePages(CXMLWorkData* root);
+    void watchForEdits(QWidget* page, const std::function<void()>& edited);
+    // The user changed something on a page: its values that differ become one undoable edit.
+    void takeEdits(ZRK_Form_Config_Page* page);
+    void showBranch(ZRK_Form_Config_Page* page, int branch);
+    void slot_valueChanged(const QString& node, const QString& key);
 
+    ZRK_Config_Editing* m_editing = nullptr;
     QTabWidget* m_tabs = nullptr;
     QVector<Page> m_pages;
-    QStringList m_owned;
-    bool m_filling = false; // reading or resetting: widget changes are not the user's
+    bool m_filling = false; // showing the configuration: widget changes are not the user's
     ZRK_Form_Config_Orba3* m_fieldSet = nullptr;
     QWidget* m_geoHolder = nullptr;
     ZRK_Form_Config_Ainf* m_geo = nullptr;

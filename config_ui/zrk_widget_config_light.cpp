@@ -1,34 +1,17 @@
 #include "config_ui/zrk_widget_config_light.h"
 
 #include "config_model/config_document.h"
-#include "config_model/serialize.h"
-#include "config_model/xml_tag.h"
+#include "config_model/config_keys.h"
+#include "config_model/orba_fieldset.h"
+#include "config_ui/zrk_config_editing.h"
 
 #include "ui_zrk_widget_config_light.h"
 
+#include <QComboBox>
+#include <QScopedValueRollback>
 #include <QSpinBox>
 
 namespace {
-
-// The keys the light form edits: where they live and what a file without them means.
-struct LightKey
-{
-    const char* key; // also the form's value name
-    const char* top;
-    const char* group;
-    const char* readDefault;
-};
-
-constexpr LightKey kLightKeys[] = {
-    { "moveTimer", "TRACK", "POINTS", "60" },
-    { "dist", "TRACK", "POINTS", "500" },
-    { "angle", "TRACK", "POINTS", "5" },
-    { "stopTimer", "TRACK", "POINTS", "600" },
-    { "format", "PROTOCOL", "ORBA", "10" },
-};
-constexpr char kFormatKey[] = "format";
-// The protocol generations in the order of the combo box.
-constexpr const char* kFormats[] = { "10", "20", "30" };
 
 // The form's texts (the .ui carries their ids).
 [[maybe_unused]] const char* const kFormTexts[] = {
@@ -58,19 +41,47 @@ constexpr const char* kFormats[] = { "10", "20", "30" };
 
 } // namespace
 
-ZRK_Widget_Config_Light::ZRK_Widget_Config_Light(QWidget* parent)
+ZRK_Widget_Config_Light::ZRK_Widget_Config_Light(ZRK_Config_Editing* editing, QWidget* parent)
     : QWidget(parent)
     , ui(new Ui::ZRK_Designer_Widget_Config_Light)
+    , m_editing(editing)
 {
     ui->setupUi(this);
     for (int i = 0; i < 3; ++i)
         ui->comboBox_FlashFormat->addItem(QString());
     translateForm();
-    setDocument(QByteArray());
-    for (QSpinBox* box : findChildren<QSpinBox*>())
-        connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &ZRK_Widget_Config_Light::contentEdited);
-    connect(ui->comboBox_FlashFormat, qOverload<int>(&QComboBox::currentIndexChanged), this,
-        &ZRK_Widget_Config_Light::contentEdited);
+    const QVector<zrk::cfg::BranchDecl>& branches = zrk::cfg::declaredBranches();
+    for (int b = 0; b < branches.size(); ++b) {
+        for (int i = 0; i < branches[b].keys.size(); ++i) {
+            const zrk::cfg::KeyDecl& d = branches[b].keys[i];
+            QWidget* widget = d.lightWidget.isEmpty() ? nullptr : findChild<QWidget*>(d.lightWidget);
+            if (!widget)
+                continue;
+            const QString node
+                = d.group.isEmpty() ? branches[b].top : branches[b].top + QLatin1Char('/') + d.group;
+            m_shown.append({ node, d.key, b, i, widget });
+            const Shown shown = m_shown.last();
+            if (auto* box = qobject_cast<QSpinBox*>(widget)) {
+                box->setRange(d.min, d.max);
+                connect(
+                    box, qOverload<int>(&QSpinBox::valueChanged), this, [this, shown] { takeEdit(shown); });
+            } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+                connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), this,
+                    [this, shown] { takeEdit(shown); });
+            }
+        }
+    }
+    zrk::ConfigSession& session = m_editing->session();
+    connect(
+        &session, &zrk::ConfigSession::documentReplaced, this, &ZRK_Widget_Config_Light::showConfiguration);
+    connect(
+        &session, &zrk::ConfigSession::valueChanged, this, [this](const QString& node, const QString& key) {
+            for (const Shown& shown : qAsConst(m_shown)) {
+                if (shown.node == node && shown.key == key)
+                    showOne(shown);
+            }
+        });
+    showConfiguration();
 }
 
 ZRK_Widget_Config_Light::~ZRK_Widget_Config_Light()
@@ -89,125 +100,77 @@ void ZRK_Widget_Config_Light::translateForm()
     ui->comboBox_FlashFormat->setItemText(2, qtTrId("cfgl_014"));
 }
 
-bool ZRK_Widget_Config_Light::OpenFileXml(const QString& path, QString* error)
+void ZRK_Widget_Config_Light::showConfiguration()
 {
-    zrk::ConfigLoadResult loaded = zrk::loadConfigFile(path);
-    if (!loaded.doc) {
-        if (error)
-            *error = loaded.error;
-        return false;
-    }
-    m_doc = std::move(loaded.doc);
-    takeValuesFromDocument();
-    return true;
+    for (const Shown& shown : qAsConst(m_shown))
+        showOne(shown);
 }
 
-bool ZRK_Widget_Config_Light::setDocument(const QByteArray& text, QString* error)
+void ZRK_Widget_Config_Light::showOne(const Shown& shown)
 {
-    if (text.isEmpty()) {
-        // An empty document still has its root, so that saving always yields a configuration.
-        m_doc = std::make_unique<CSerialize>(0, nullptr);
-        m_doc->startSerialize();
-        m_doc->createNodeV2(nullptr, QStringLiteral("DEVICE"), 0);
-        takeValuesFromDocument();
-        return true;
-    }
-    zrk::ConfigLoadResult loaded = zrk::loadConfigBytes(text);
-    if (!loaded.doc) {
-        if (error)
-            *error = loaded.error;
-        return false;
-    }
-    m_doc = std::move(loaded.doc);
-    takeValuesFromDocument();
-    return true;
+    const QScopedValueRollback<bool> filling(m_filling, true);
+    const QString v = m_editing->session().value(shown.node, shown.key);
+    if (auto* box = qobject_cast<QSpinBox*>(shown.widget))
+        box->setValue(v.toInt());
+    else if (auto* combo = qobject_cast<QComboBox*>(shown.widget))
+        combo->setCurrentIndex(zrk::fieldset::generationIndex(v)); // the field-set page's reading
 }
 
-void ZRK_Widget_Config_Light::adoptDocument(std::unique_ptr<CSerialize> doc)
+QString ZRK_Widget_Config_Light::widgetValue(const Shown& shown) const
 {
-    if (!doc || !doc->root()) {
-        setDocument(QByteArray());
-        return;
+    if (auto* box = qobject_cast<QSpinBox*>(shown.widget))
+        return QString::number(box->value());
+    if (auto* combo = qobject_cast<QComboBox*>(shown.widget))
+        return zrk::fieldset::generationText(combo->currentIndex());
+    return QString();
+}
+
+void ZRK_Widget_Config_Light::takeEdit(const Shown& shown)
+{
+    if (!m_filling)
+        m_editing->setValue(shown.node, shown.key, widgetValue(shown));
+}
+
+const ZRK_Widget_Config_Light::Shown* ZRK_Widget_Config_Light::find(const QString& key) const
+{
+    for (const Shown& shown : m_shown) {
+        if (shown.key == key)
+            return &shown;
     }
-    m_doc = std::move(doc);
-    takeValuesFromDocument();
+    return nullptr;
 }
 
 QString ZRK_Widget_Config_Light::value(const QString& key) const
 {
-    if (key == QLatin1String(kFormatKey))
-        return QLatin1String(kFormats[qBound(0, ui->comboBox_FlashFormat->currentIndex(), 2)]);
-    const QSpinBox* box
-        = findChild<QSpinBox*>(QStringLiteral("spinBox_") + key.left(1).toUpper() + key.mid(1));
-    return box ? QString::number(box->value()) : QString();
+    const Shown* shown = find(key);
+    return shown ? widgetValue(*shown) : QString();
 }
 
 bool ZRK_Widget_Config_Light::setValue(const QString& key, const QString& value)
 {
-    if (key == QLatin1String(kFormatKey)) {
-        for (int i = 0; i < 3; ++i) {
-            if (value == QLatin1String(kFormats[i])) {
-                ui->comboBox_FlashFormat->setCurrentIndex(i);
-                return true;
-            }
-        }
-        // An unknown generation reads as the first one, as the field-set page does.
-        ui->comboBox_FlashFormat->setCurrentIndex(0);
+    const Shown* shown = find(key);
+    if (!shown)
         return false;
-    }
-    QSpinBox* box = findChild<QSpinBox*>(QStringLiteral("spinBox_") + key.left(1).toUpper() + key.mid(1));
-    if (!box)
-        return false;
-    box->setValue(value.toInt()); // the box clamps to its range
+    if (auto* box = qobject_cast<QSpinBox*>(shown->widget))
+        box->setValue(value.toInt()); // the box clamps to its range
+    else if (auto* combo = qobject_cast<QComboBox*>(shown->widget))
+        combo->setCurrentIndex(zrk::fieldset::generationIndex(value));
     return true;
 }
 
 void ZRK_Widget_Config_Light::setDefaultValues()
 {
-    // For these keys the reset values are the read defaults.
-    for (const LightKey& k : kLightKeys)
-        setValue(QLatin1String(k.key), QLatin1String(k.readDefault));
-}
-
-void ZRK_Widget_Config_Light::takeValuesFromDocument()
-{
-    const CXmlTagV2* root = m_doc ? m_doc->root() : nullptr;
-    for (const LightKey& k : kLightKeys) {
-        const CXmlTagV2* group
-            = zrk::childAt(root, QStringLiteral("%1/%2").arg(QLatin1String(k.top), QLatin1String(k.group)));
-        QString v = zrk::keyValue(group, QLatin1String(k.key));
-        if (v.isEmpty())
-            v = QLatin1String(k.readDefault);
-        setValue(QLatin1String(k.key), v);
+    QVector<ZRK_Config_Editing::Change> changes;
+    for (const Shown& shown : qAsConst(m_shown)) {
+        const zrk::cfg::KeyDecl& d = zrk::cfg::declaredBranches()[shown.branch].keys[shown.index];
+        changes.append({ shown.node, shown.key, d.resetValue });
     }
-}
-
-void ZRK_Widget_Config_Light::putValuesIntoDocument()
-{
-    if (!m_doc)
-        setDocument(QByteArray());
-    CXmlTagV2* root = m_doc->root();
-    for (const LightKey& k : kLightKeys) {
-        const QString top = QLatin1String(k.top);
-        CXmlTagV2* topTag = root->children.getTagFromName(top);
-        if (!topTag) {
-            topTag = zrk::ensureChild(root, top, CXmlTagV2::Ordinary);
-            zrk::setKeyValue(topTag, QStringLiteral("page"), top);
-        }
-        CXmlTagV2* group = zrk::ensureChild(topTag, QLatin1String(k.group), CXmlTagV2::Record);
-        zrk::setKeyValue(group, QLatin1String(k.key), value(QLatin1String(k.key)));
-    }
-}
-
-QByteArray ZRK_Widget_Config_Light::renderDocument()
-{
-    putValuesIntoDocument();
-    return m_doc->render();
+    m_editing->setValues(changes);
 }
 
 bool ZRK_Widget_Config_Light::saveConfigLight(const QString& path, QString* error)
 {
-    return zrk::writeFileWhole(path, renderDocument(), error);
+    return zrk::writeFileWhole(path, m_editing->session().render(), error);
 }
 
 void ZRK_Widget_Config_Light::setFormEnabled(bool enabled)

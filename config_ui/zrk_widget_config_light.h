@@ -1,58 +1,57 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
+#include <QVector>
 #include <QWidget>
 
-#include <memory>
-
-class CSerialize;
+class QWidget;
+class ZRK_Config_Editing;
 namespace Ui {
 class ZRK_Designer_Widget_Config_Light;
 }
 
 // The light editor: one form with the settings a technician changes most (point timer, distance,
-// turn angle, the period while stopped, protocol generation) over a whole configuration document.
-// Everything else in the document is written back as it was.
+// turn angle, the period while stopped, protocol generation), a second view of the configuration
+// the full editor shows. Which keys it shows, and by which widget, is declared with the keys.
 class ZRK_Widget_Config_Light : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ZRK_Widget_Config_Light(QWidget* parent = nullptr);
+    explicit ZRK_Widget_Config_Light(ZRK_Config_Editing* editing, QWidget* parent = nullptr);
     ~ZRK_Widget_Config_Light() override;
 
     void translateForm();
 
-    // Takes a whole configuration file; false with the parser's reason when it does not load, and
-    // the editor keeps what it had.
-    bool OpenFileXml(const QString& path, QString* error = nullptr);
-    // The same from the text of a configuration (the full editor hands its document over this way).
-    bool setDocument(const QByteArray& text, QString* error = nullptr);
-    // Takes an open document (null: an empty configuration).
-    void adoptDocument(std::unique_ptr<CSerialize> doc);
-    // The document with the form's values in it.
-    QByteArray renderDocument();
-    // Writes the whole configuration with the form's values; the old file stays when it fails.
-    bool saveConfigLight(const QString& path, QString* error = nullptr);
-
-    // The form's values in their text form, by key: "moveTimer", "dist", "angle", "stopTimer",
-    // "format".
+    // The form's values in their text form, by key ("moveTimer", "dist", "angle", "stopTimer",
+    // "format"); empty for a key the form does not show.
     QString value(const QString& key) const;
+    // As the user would set it; false for a key the form does not show.
     bool setValue(const QString& key, const QString& value);
-    // The form's values as a new configuration has them; the rest of the document stays.
+    // The form's keys as a new configuration has them, one undoable step; the rest stays.
     void setDefaultValues();
+    // The configuration as it is saved, written whole; the old file stays when it fails.
+    bool saveConfigLight(const QString& path, QString* error = nullptr);
 
     void setFormEnabled(bool enabled);
 
-signals:
-    // A value of the form changed.
-    void contentEdited();
-
 private:
-    void takeValuesFromDocument();
-    void putValuesIntoDocument();
+    struct Shown
+    {
+        QString node;
+        QString key;
+        int branch = 0;
+        int index = 0; // in the branch's declaration
+        QWidget* widget = nullptr;
+    };
+    void showConfiguration();
+    void showOne(const Shown& shown);
+    QString widgetValue(const Shown& shown) const;
+    void takeEdit(const Shown& shown);
+    const Shown* find(const QString& key) const;
 
     Ui::ZRK_Designer_Widget_Config_Light* ui;
-    std::unique_ptr<CSerialize> m_doc;
+    ZRK_Config_Editing* m_editing;
+    QVector<Shown> m_shown;
+    bool m_filling = false;
 };

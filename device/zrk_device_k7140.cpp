@@ -183,11 +183,13 @@ const ZRK_Device_Routes::Route ZRK_Device_Routes::kRoutes[] = {
         } },
     { ZRK_MSG_HOST_CLOSES_PLUGIN,
         [](ZRK_Device_K7140& d, unsigned long w, unsigned long) {
+            // Without a place for the answer the host still closes: both windows are asked.
             bool* result = R::at<bool>(w);
-            if (!result)
-                return;
-            if (ZRK_Widget_Config* c = R::config(d))
-                *result = c->closeWidgetConfig();
+            if (ZRK_Widget_Config* c = R::config(d)) {
+                const bool closed = c->closeWidgetConfig();
+                if (result)
+                    *result = closed;
+            }
             if (ZRK_Widget_Tmi_View* t = R::tmi(d))
                 t->closeForm();
         } },
@@ -582,6 +584,11 @@ QString ZRK_Device_K7140::getPathSound() const
 ZRK_Widget_Config* ZRK_Device_K7140::widgetConfig() const
 {
     return m_widgetConfig;
+}
+
+const zrk::ConfigSession* ZRK_Device_K7140::configSession() const
+{
+    return m_widgetConfig ? &m_widgetConfig->session() : nullptr;
 }
 
 ZRK_Widget_Tmi_View* ZRK_Device_K7140::widgetTmiView() const

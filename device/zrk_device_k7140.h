@@ -7,6 +7,9 @@
 #include <QString>
 
 class ZRK_Widget_Config;
+namespace zrk {
+class ConfigSession;
+}
 class ZRK_Widget_Tmi_View;
 class ZRK_Widget_Tmi_Page;
 class ZRK_Widget_Tmi_Table;
@@ -106,6 +109,9 @@ public:
     void initWidgetTmiTable();
     void initWidgetTest();
     ZRK_Widget_Config* widgetConfig() const;
+    // The configuration open in the configuration window, shown or not; null until the window
+    // exists (its telemetryTitles() answers false until something was opened).
+    const zrk::ConfigSession* configSession() const;
     ZRK_Widget_Tmi_View* widgetTmiView() const;
     ZRK_Widget_Tmi_Page* widgetTmiPage() const;
     ZRK_Widget_Tmi_Table* widgetTmiTable() const;

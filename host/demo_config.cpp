@@ -8,8 +8,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QHash>
 #include <QTabWidget>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -109,10 +111,32 @@ bool ZrkDemoSession::runConfigSteps()
         ok = grab(config, QStringLiteral("config_other_settings")) && ok;
     ok = runFieldSetSteps(config) && ok;
 
-    // Writing back: 2381, the plug-in saves and hands the file over with 2151; the simulated
-    // terminal's records take the new field set.
+    // Writing back: 2381, the plug-in first shows what will change on the terminal; once that is
+    // confirmed it saves and hands the file over with 2151; the simulated terminal's records take
+    // the new field set.
+    if (auto* review = config->findChild<QCheckBox*>(QStringLiteral("checkBox_ReviewBeforeWrite")))
+        review->setChecked(true);
+    bool reviewed = false;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [this, &poll, &reviewed, &ok] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || dialog->objectName() != QLatin1String("ZRK_Designer_Dialog_Config_Compare"))
+            return;
+        poll.stop();
+        dialog->resize(1180, 520);
+        settle(200);
+        ok = grab(dialog, QStringLiteral("config_review_before_write")) && ok;
+        reviewed = true;
+        dialog->accept(); // "write to terminal"
+    });
+    poll.start(100);
     const int writesBefore = terminal ? terminal->writesReceived() : 0;
     m_window.writeConfigurationToTerminal();
+    poll.stop();
+    if (!reviewed) {
+        std::fprintf(stderr, "zrk-host: no review came up before the write\n");
+        ok = false;
+    }
     ok = grab(&m_window, QStringLiteral("config_written_to_terminal")) && ok;
     if (terminal && terminal->writesReceived() != writesBefore + 1) {
         std::fprintf(stderr, "zrk-host: the configuration did not reach the terminal\n");

@@ -3925,6 +3925,110 @@ The old file is unchanged.</translation>
         <source>Размер скрытой части</source>
         <translation>Hidden part size</translation>
     </message>
+    <message id="cfgo_083">
+        <source>Типы пользовательских параметров (0 — без знака, 1 — со знаком, 2 — hex, 3 — float)</source>
+        <translation>User parameter types (0 unsigned, 1 signed, 2 hex, 3 float)</translation>
+    </message>
+    <message id="cfgo_084">
+        <source>Название пользовательского параметра %1</source>
+        <translation>User parameter name %1</translation>
+    </message>
+    <message id="cmpc_012">
+        <source>Запись в терминал: что изменится</source>
+        <translation>Write to the terminal: what will change</translation>
+    </message>
+    <message id="cmpc_013">
+        <source>Сравнение с: %1.
+В терминале ничего не изменится: записываемая конфигурация совпадает.</source>
+        <translation>Compared with: %1.
+Nothing changes on the terminal: the configuration to write is the same.</translation>
+    </message>
+    <message id="cmpc_014">
+        <source>Сравнение с: %1.
+В терминале изменится настроек: %2. Записать?</source>
+        <translation>Compared with: %1.
+Settings that change on the terminal: %2. Write?</translation>
+    </message>
+    <message id="cmpc_015">
+        <source>Сейчас в терминале</source>
+        <translation>Now on the terminal</translation>
+    </message>
+    <message id="cmpc_016">
+        <source>Будет записано</source>
+        <translation>To be written</translation>
+    </message>
+    <message id="cmpc_017">
+        <source>Записать в терминал</source>
+        <translation>Write to terminal</translation>
+    </message>
+    <message id="cmpc_018">
+        <source>Отмена</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="cmpc_019">
+        <source>Показывать этот обзор перед каждой записью</source>
+        <translation>Show this review before every write</translation>
+    </message>
+    <message id="wcfg_040">
+        <source>Отменить</source>
+        <translation>Undo</translation>
+    </message>
+    <message id="wcfg_041">
+        <source>Отменить последнее изменение (Ctrl+Z)</source>
+        <translation>Undo the last change (Ctrl+Z)</translation>
+    </message>
+    <message id="wcfg_042">
+        <source>Повторить</source>
+        <translation>Redo</translation>
+    </message>
+    <message id="wcfg_043">
+        <source>Повторить отменённое изменение (Ctrl+Shift+Z)</source>
+        <translation>Redo the undone change (Ctrl+Shift+Z)</translation>
+    </message>
+    <message id="wcfg_044">
+        <source>Обзор перед записью</source>
+        <translation>Review before writing</translation>
+    </message>
+    <message id="wcfg_045">
+        <source>Перед записью в терминал показывать, какие настройки в нём изменятся</source>
+        <translation>Before writing to the terminal, show which settings change on it</translation>
+    </message>
+    <message id="wcfg_046">
+        <source>В папке данных XML нет сохранённых копий конфигураций, прочитанных из терминала.</source>
+        <translation>The XML data folder holds no saved copies of configurations read from a terminal.</translation>
+    </message>
+    <message id="wcfg_047">
+        <source>С копией из истории чтений...</source>
+        <translation>With a copy from the read history...</translation>
+    </message>
+    <message id="wcfg_048">
+        <source>Открытие конфигурации</source>
+        <translation>Open configuration</translation>
+    </message>
+    <message id="wcfg_049">
+        <source>Новая конфигурация</source>
+        <translation>New configuration</translation>
+    </message>
+    <message id="wcfg_050">
+        <source>Значения по умолчанию</source>
+        <translation>Defaults</translation>
+    </message>
+    <message id="wcfg_051">
+        <source>конфигурация, прочитанная из этого терминала</source>
+        <translation>the configuration read from this terminal</translation>
+    </message>
+    <message id="wcfg_052">
+        <source>значения по умолчанию (из этого терминала конфигурация ещё не читалась)</source>
+        <translation>the defaults (no configuration was read from this terminal yet)</translation>
+    </message>
+    <message id="wcfg_053">
+        <source>История чтений</source>
+        <translation>Read history</translation>
+    </message>
+    <message id="wcfg_054">
+        <source>Конфигурация, прочитанная из терминала:</source>
+        <translation>Configuration read from the terminal:</translation>
+    </message>
     <message id="tmiw_119">
         <source>Данные NMEA</source>
         <translation>NMEA data</translation>

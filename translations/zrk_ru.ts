@@ -3925,6 +3925,110 @@
         <source>Размер скрытой части</source>
         <translation>Размер скрытой части</translation>
     </message>
+    <message id="cfgo_083">
+        <source>Типы пользовательских параметров (0 — без знака, 1 — со знаком, 2 — hex, 3 — float)</source>
+        <translation>Типы пользовательских параметров (0 — без знака, 1 — со знаком, 2 — hex, 3 — float)</translation>
+    </message>
+    <message id="cfgo_084">
+        <source>Название пользовательского параметра %1</source>
+        <translation>Название пользовательского параметра %1</translation>
+    </message>
+    <message id="cmpc_012">
+        <source>Запись в терминал: что изменится</source>
+        <translation>Запись в терминал: что изменится</translation>
+    </message>
+    <message id="cmpc_013">
+        <source>Сравнение с: %1.
+В терминале ничего не изменится: записываемая конфигурация совпадает.</source>
+        <translation>Сравнение с: %1.
+В терминале ничего не изменится: записываемая конфигурация совпадает.</translation>
+    </message>
+    <message id="cmpc_014">
+        <source>Сравнение с: %1.
+В терминале изменится настроек: %2. Записать?</source>
+        <translation>Сравнение с: %1.
+В терминале изменится настроек: %2. Записать?</translation>
+    </message>
+    <message id="cmpc_015">
+        <source>Сейчас в терминале</source>
+        <translation>Сейчас в терминале</translation>
+    </message>
+    <message id="cmpc_016">
+        <source>Будет записано</source>
+        <translation>Будет записано</translation>
+    </message>
+    <message id="cmpc_017">
+        <source>Записать в терминал</source>
+        <translation>Записать в терминал</translation>
+    </message>
+    <message id="cmpc_018">
+        <source>Отмена</source>
+        <translation>Отмена</translation>
+    </message>
+    <message id="cmpc_019">
+        <source>Показывать этот обзор перед каждой записью</source>
+        <translation>Показывать этот обзор перед каждой записью</translation>
+    </message>
+    <message id="wcfg_040">
+        <source>Отменить</source>
+        <translation>Отменить</translation>
+    </message>
+    <message id="wcfg_041">
+        <source>Отменить последнее изменение (Ctrl+Z)</source>
+        <translation>Отменить последнее изменение (Ctrl+Z)</translation>
+    </message>
+    <message id="wcfg_042">
+        <source>Повторить</source>
+        <translation>Повторить</translation>
+    </message>
+    <message id="wcfg_043">
+        <source>Повторить отменённое изменение (Ctrl+Shift+Z)</source>
+        <translation>Повторить отменённое изменение (Ctrl+Shift+Z)</translation>
+    </message>
+    <message id="wcfg_044">
+        <source>Обзор перед записью</source>
+        <translation>Обзор перед записью</translation>
+    </message>
+    <message id="wcfg_045">
+        <source>Перед записью в терминал показывать, какие настройки в нём изменятся</source>
+        <translation>Перед записью в терминал показывать, какие настройки в нём изменятся</translation>
+    </message>
+    <message id="wcfg_046">
+        <source>В папке данных XML нет сохранённых копий конфигураций, прочитанных из терминала.</source>
+        <translation>В папке данных XML нет сохранённых копий конфигураций, прочитанных из терминала.</translation>
+    </message>
+    <message id="wcfg_047">
+        <source>С копией из истории чтений...</source>
+        <translation>С копией из истории чтений...</translation>
+    </message>
+    <message id="wcfg_048">
+        <source>Открытие конфигурации</source>
+        <translation>Открытие конфигурации</translation>
+    </message>
+    <message id="wcfg_049">
+        <source>Новая конфигурация</source>
+        <translation>Новая конфигурация</translation>
+    </message>
+    <message id="wcfg_050">
+        <source>Значения по умолчанию</source>
+        <translation>Значения по умолчанию</translation>
+    </message>
+    <message id="wcfg_051">
+        <source>конфигурация, прочитанная из этого терминала</source>
+        <translation>конфигурация, прочитанная из этого терминала</translation>
+    </message>
+    <message id="wcfg_052">
+        <source>значения по умолчанию (из этого терминала конфигурация ещё не читалась)</source>
+        <translation>значения по умолчанию (из этого терминала конфигурация ещё не читалась)</translation>
+    </message>
+    <message id="wcfg_053">
+        <source>История чтений</source>
+        <translation>История чтений</translation>
+    </message>
+    <message id="wcfg_054">
+        <source>Конфигурация, прочитанная из терминала:</source>
+        <translation>Конфигурация, прочитанная из терминала:</translation>
+    </message>
     <message id="tmiw_119">
         <source>Данные NMEA</source>
         <translation>Данные NMEA</translation>

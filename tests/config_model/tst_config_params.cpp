@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <clocale>
 #include <cmath>
 #include <cstring>
 
@@ -24,6 +25,9 @@ class tst_ConfigParams : public QObject
 {
     Q_OBJECT
 private slots:
+    void commaLocaleIsInEffect();
+    void decimalsUsePoint_data();
+    void decimalsUsePoint();
     void typedReads_data();
     void typedReads();
     void readStringIntoBuffer_data();
@@ -35,6 +39,41 @@ private slots:
     void decodingPass();
     void tagListOwnsAndCopies();
 };
+
+// The second run of this test (tst_config_params_ru) must really have a comma-decimal locale.
+void tst_ConfigParams::commaLocaleIsInEffect()
+{
+    if (!qEnvironmentVariableIsSet("ZRK_COMMA_LOCALE"))
+        QSKIP("only the ru_RU.UTF-8 run checks its locale");
+    // Without an application object nothing has taken the locale from the environment yet.
+    std::setlocale(LC_ALL, "");
+    char text[16];
+    std::snprintf(text, sizeof text, "%.1f", 2.5);
+    QCOMPARE(QByteArray(text), QByteArray("2,5"));
+}
+
+// Whatever the desktop's locale, files read and write decimals with a point.
+void tst_ConfigParams::decimalsUsePoint_data()
+{
+    QTest::addColumn<float>("value");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("filter HDOP") << 2.5f << QByteArray("2.500000");
+    QTest::newRow("negative fraction") << -0.25f << QByteArray("-0.250000");
+    QTest::newRow("whole") << 10.0f << QByteArray("10.000000");
+}
+
+void tst_ConfigParams::decimalsUsePoint()
+{
+    QFETCH(float, value);
+    QFETCH(QByteArray, text);
+    CListParameters list;
+    list.writeFloat("v", value);
+    QCOMPARE(QByteArray(list.findParameter("v", 0)->value), text);
+    QCOMPARE(list.readFloat("v", 0), value);
+    // A comma is not a decimal separator in a file: the number ends before it.
+    storeOne(list, "comma", "2,5");
+    QCOMPARE(list.readDouble("comma", 0), 2.0);
+}
 
 void tst_ConfigParams::typedReads_data()
 {

@@ -2,6 +2,7 @@
 #include "../config_model/config_files.h"
 #include "config_model/config_keys.h"
 #include "config_model/xml_workdata.h"
+#include "config_ui/zrk_config_binding.h"
 #include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_track.h"
 #include "config_ui/zrk_form_config_track_locator_blist.h"
@@ -71,6 +72,26 @@ class tst_FormConfigTrack : public QObject
     Q_OBJECT
 private slots:
     void initTestCase() { zrk::installCatalogue(QStringLiteral("ru")); }
+    // Each declared key names a widget of the page, and a value set through it reads back.
+    void everyDeclaredKeyHasItsWidget()
+    {
+        ZRK_Form_Config_Track page;
+        for (const zrk::cfg::BranchDecl& branch : page.shownBranches()) {
+            for (const zrk::cfg::KeyDecl& d : branch.keys) {
+                const ZRK_Config_Binding b(&page, d);
+                QVERIFY2(b.isValid(), qPrintable(d.group + '/' + d.key + " -> " + d.widget));
+                b.set(d.readDefault);
+                if (d.group != "COORDAVER" || d.key != "mode")
+                    QCOMPARE(b.get(), zrk::cfg::normalizedValue(d, d.readDefault));
+            }
+        }
+        // A name the form does not have binds nothing.
+        zrk::cfg::KeyDecl missing;
+        missing.widget = QStringLiteral("spinBox_NoSuchBox");
+        QVERIFY(!ZRK_Config_Binding(&page, missing).isValid());
+        missing.widget = QStringLiteral("Additional_spinBox_Distance:noSuchRule");
+        QVERIFY(!ZRK_Config_Binding(&page, missing).isValid());
+    }
     void readWrite_data();
     void readWrite();
     void missingKeysYieldReadDefaults();

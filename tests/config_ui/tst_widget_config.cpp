@@ -4,8 +4,10 @@
 #include "config_model/app_settings.h"
 #include "config_model/config_diff.h"
 #include "config_model/config_document.h"
+#include "config_model/config_keys.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
+#include "config_ui/zrk_dialog_config_compare.h"
 #include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_other.h"
 #include "config_ui/zrk_form_config_track.h"
@@ -15,8 +17,12 @@
 #include "device/zrk_device_k7140.h"
 #include "translations/catalogue.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QUndoStack>
 #include <QtTest>
 
 #include <cstring>
@@ -58,8 +64,17 @@ public:
     int questions = 0;
     QStringList messages;
     QString saveAsPath;
+    bool writeAnswer = true;
+    QVector<QVector<zrk::ConfigDifference>> reviews; // what each review before a write showed
+    QStringList reviewedAgainst;
 
 protected:
+    bool confirmWrite(const QVector<zrk::ConfigDifference>& differences, const QString& against) override
+    {
+        reviews << differences;
+        reviewedAgainst << against;
+        return writeAnswer;
+    }
     UnsavedAnswer askUnsavedChanges() override { return ++questions, answer; }
     void showMessage(const QString& text) override { messages << text; }
     QString chooseFileToSave() override { return saveAsPath; }
@@ -83,7 +98,8 @@ szConfigFile configFile(int mode, int source, const QString& path)
 }
 
 const QString kTerminalFile = QStringLiteral(ZRK_SOURCE_DIR "/host/data/terminal_config.xml");
-const QStringList kUnowned { "TRANSFER", "CAN", "INPUTS", "OUTPUTS", "TEMPSENS", "PHONES", "SYSTEM", "GUARD" };
+const QStringList kUnowned { "TRANSFER", "CAN", "INPUTS", "OUTPUTS", "TEMPSENS", "PHONES", "SYSTEM",
+    "GUARD" };
 
 // One branch as the serializer writes it, to compare branches byte for byte.
 QByteArray renderBranch(const CXmlTagV2* root, const QString& name)
@@ -116,6 +132,7 @@ private:
     ZRK_Device_K7140* m_device = nullptr;
     WindowFactory m_factory;
     TestWindow* window() { return static_cast<TestWindow*>(m_device->widgetConfig()); }
+    ZRK_Widget_Config_Full* full() { return window()->widgetFull(); }
     void open(int mode, int source, const QString& path)
     {
         szConfigFile f = configFile(mode, source, path);
@@ -188,9 +205,11 @@ private slots:
     {
         open(1, 1, kTerminalFile);
         open(1, 1, QString());
-        ZRK_Widget_Config_Full defaults;
-        defaults.initDefaultParam();
-        QCOMPARE(window()->currentXml(), defaults.renderXml());
+        // The window's own "new" and save, against the file kept in the tests.
+        const QString saved = m_home.filePath(QStringLiteral("new.xml"));
+        QVERIFY(window()->saveFile(saved));
+        QCOMPARE(fileBytes(saved),
+            fileBytes(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
         // Nothing of the terminal's file survives a new configuration.
         QVERIFY(window()->widgetFull()->otherPage()->keptBranchNames().isEmpty());
         // The header as the window writes it.
@@ -332,19 +351,20 @@ private slots:
         QCOMPARE(window()->widgetFull()->otherPage()->keptBranchNames(), kUnowned);
         for (const QString& branch : kUnowned)
             QCOMPARE(renderBranch(after.doc->root(), branch), renderBranch(before.doc->root(), branch));
-        const QStringList order = zrk::topNodeNames(after.doc->root());
-        QCOMPARE(order.mid(order.size() - kUnowned.size()), kUnowned);
+        // Pages first, then what the terminal had beyond them, and the user parameters last.
+        QCOMPARE(zrk::topNodeNames(after.doc->root()),
+            QStringList({ "PROTOCOL", "TRACK", "LOCATOR" }) + kUnowned + QStringList { "USERPARAM" });
         // The root's own keys beyond the header stay too.
         QCOMPARE(zrk::keyValue(after.doc->root(), "imei"), QStringLiteral("861234567890123"));
         QCOMPARE(zrk::keyValue(after.doc->root(), "creator"), QStringLiteral("config"));
-        // The light editor keeps them as well, changing only its own keys.
+        // The light editor shows the same configuration: its save differs only by its own edit.
         open(0, 0, kTerminalFile);
         window()->widgetLight()->setValue("moveTimer", "120");
         const QString light = m_home.filePath(QStringLiteral("light.xml"));
         QVERIFY(window()->widgetLight()->saveConfigLight(light));
         const auto lightDoc = zrk::loadConfigFile(light);
         QVERIFY(lightDoc.doc);
-        const auto differences = zrk::diffConfigs(before.doc->root(), lightDoc.doc->root());
+        const auto differences = zrk::diffConfigs(after.doc->root(), lightDoc.doc->root());
         QCOMPARE(differences.size(), 1);
         QCOMPARE(differences[0].node + '/' + differences[0].key, QStringLiteral("TRACK/POINTS/moveTimer"));
         QCOMPARE(differences[0].right, QStringLiteral("120"));
@@ -385,6 +405,43 @@ private slots:
         QCOMPARE(window()->messages.size(), 2);
         QVERIFY(!QFileInfo::exists(dirAsFile));
         QCOMPARE(window()->windowTitle(), title);
+    }
+
+    // A file that does not open through the host leaves the editing as it was, unsaved mark included.
+    void failedOpenByHostChangesNothing_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("source");
+        QTest::newRow("full editor asked") << 1 << 1;
+        QTest::newRow("light editor asked") << 0 << 1;
+        QTest::newRow("from the terminal") << 0 << 0;
+    }
+    void failedOpenByHostChangesNothing()
+    {
+        QFETCH(int, mode);
+        QFETCH(int, source);
+        open(1, 1, kTerminalFile);
+        window()
+            ->widgetFull()
+            ->trackPage()
+            ->findChild<QSpinBox*>("Additional_spinBox_Distance")
+            ->setValue(250);
+        window()->updateModified();
+        const QByteArray editing = window()->currentXml();
+        const QString title = window()->windowTitle();
+        QVERIFY(title.endsWith('*'));
+        const QString lastRead = window()->lastReadCopy();
+        open(mode, source, m_home.filePath(QStringLiteral("no-such-file.xml")));
+        QCOMPARE(window()->messages.size(), 1);
+        QVERIFY(window()->isModified());
+        QCOMPARE(window()->windowTitle(), title);
+        QVERIFY(window()->isFullEditorShown());
+        QCOMPARE(window()->currentXml(), editing);
+        QCOMPARE(window()->lastReadCopy(), lastRead);
+        // Closing still asks about the edits.
+        window()->answer = TestWindow::UnsavedAnswer::Cancel;
+        QVERIFY(!window()->closeWidgetConfig());
+        QCOMPARE(window()->questions, 1);
     }
 
     void otherSettingsFilter_data()
@@ -435,6 +492,137 @@ private slots:
             750);
         QVERIFY(window()->isModified());
         QVERIFY(window()->widgetFull()->otherPage()->keptBranchNames().contains("PHONES"));
+    }
+
+    // Every kind of edit is one step that undo takes back to the very bytes, and redo brings again.
+    void undoEachKindOfEdit_data()
+    {
+        QTest::addColumn<QString>("kind");
+        for (const char* kind :
+            { "track number", "track box", "turn rule (two boxes)", "light editor", "kept value",
+                "record field", "generation", "user parameter name", "defaults", "new", "open another file" })
+            QTest::newRow(kind) << kind;
+    }
+    void undoEachKindOfEdit()
+    {
+        QFETCH(QString, kind);
+        open(1, 1, kTerminalFile);
+        window()->undoStack().clear();
+        const QByteArray before = window()->currentXml();
+        ZRK_Widget_Config_Full* full = window()->widgetFull();
+        auto* orba = full->fieldSetPage();
+        if (kind == "track number")
+            full->trackPage()->findChild<QSpinBox*>("Additional_spinBox_Distance")->setValue(777);
+        else if (kind == "track box")
+            full->trackPage()->findChild<QCheckBox*>("checkBox_BlockTimer")->toggle();
+        else if (kind == "turn rule (two boxes)")
+            full->trackPage()->findChild<QCheckBox*>("Additional_checkBox_Corner")->toggle();
+        else if (kind == "light editor")
+            window()->widgetLight()->setValue("angle", "45");
+        else if (kind == "kept value")
+            QVERIFY(full->otherPage()->setKeptValue("CAN/CAN1", "baud", "500"));
+        else if (kind == "record field")
+            orba->tabNavi()->box(10)->toggle();
+        else if (kind == "generation")
+            orba->flashFormat()->setCurrentIndex(0);
+        else if (kind == "user parameter name")
+            QTest::keyClicks(orba->tabUser()->nameEdit(230), "Brake");
+        else if (kind == "defaults")
+            window()->resetToDefaults();
+        else if (kind == "new")
+            window()->newConfig();
+        else
+            QVERIFY(
+                window()->openFile(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/track_page.xml")));
+        const QByteArray after = window()->currentXml();
+        QVERIFY(after != before);
+        QCOMPARE(window()->undoStack().count(), 1); // typing a name is one step too
+        window()->undo();
+        QCOMPARE(window()->currentXml(), before);
+        QVERIFY(!window()->isModified());
+        QVERIFY(!window()->windowTitle().endsWith('*'));
+        window()->redo();
+        QCOMPARE(window()->currentXml(), after);
+        // The pages show what was brought back: saving them again changes nothing.
+        window()->undo();
+        QCOMPARE(full->trackPage()->trackValues(),
+            window()->session().branchValues(zrk::cfg::trackBranch(full->trackPage()->caps())));
+    }
+
+    // "Write to the terminal" shows what will change there and writes only when confirmed.
+    void reviewBeforeWrite()
+    {
+        setConnected(true);
+        open(1, 0, kTerminalFile); // read from the terminal
+        window()->reviews.clear();
+        window()->reviewedAgainst.clear();
+        window()->writeAnswer = false;
+        gSent.clear();
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QCOMPARE(window()->reviews.size(), 1);
+        QVERIFY(gSent.isEmpty()); // refused: nothing written
+        // As read, a write changes only what this editor normalises.
+        const int normalised = window()->reviews[0].size();
+        full()->trackPage()->findChild<QSpinBox*>("Additional_spinBox_Distance")->setValue(250);
+        QVERIFY(full()->otherPage()->setKeptValue("GUARD/ALARM", "timer", "90"));
+        window()->writeAnswer = true;
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QCOMPARE(window()->reviews.size(), 2);
+        QCOMPARE(window()->reviews[1].size(), normalised + 2);
+        QStringList changed;
+        for (const zrk::ConfigDifference& d : window()->reviews[1])
+            changed << d.node + '/' + d.key + '=' + d.left + '>' + d.right;
+        QVERIFY2(changed.contains("TRACK/POINTS/dist=300>250"), qPrintable(changed.join(' ')));
+        QVERIFY2(changed.contains("GUARD/ALARM/timer=60>90"), qPrintable(changed.join(' ')));
+        QCOMPARE(sentIds(), QVector<int>({ ZRK_MSG_WRITE_FILE_TO_DEVICE }));
+        QFile::remove(gSent[0].path);
+        // The terminal now holds what was written: nothing differs.
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QVERIFY(window()->reviews[2].isEmpty());
+        QFile::remove(gSent[1].path);
+        // An experienced user turned the review off.
+        setReviewBeforeWrite(false);
+        gSent.clear();
+        m_device->ZRK_ReceiveMessage(m_device, ZRK_MSG_WRITE_CONFIG_TO_DEVICE, 0, 0);
+        QCOMPARE(window()->reviews.size(), 3);
+        QCOMPARE(sentIds(), QVector<int>({ ZRK_MSG_WRITE_FILE_TO_DEVICE }));
+        QFile::remove(gSent[0].path);
+        setReviewBeforeWrite(true);
+        setConnected(false);
+    }
+
+    // The review lists every difference once, says how many, and says so when there is none.
+    void reviewDialog()
+    {
+        ZRK_Dialog_Config_Compare dialog;
+        const QVector<zrk::ConfigDifference> two { { "TRACK/POINTS", "dist", "", "300", "250" },
+            { "GUARD/ALARM", "timer", "", "60", "90" } };
+        dialog.setReview(two, "x");
+        QCOMPARE(dialog.rowCount(), 2);
+        QVERIFY2(dialog.summary().contains(": 2."), qPrintable(dialog.summary()));
+        QVERIFY(dialog.reviewAgain());
+        dialog.findChild<QCheckBox*>("checkBox_ReviewAgain")->setChecked(false);
+        QVERIFY(!dialog.reviewAgain());
+        dialog.setReview({}, "x");
+        QCOMPARE(dialog.rowCount(), 0);
+        QVERIFY2(dialog.summary().contains("ничего не изменится"), qPrintable(dialog.summary()));
+    }
+
+    // The dated copies read from terminals are listed newest first and compare with the editor.
+    void historyOfReads()
+    {
+        open(1, 0, kTerminalFile);
+        open(1, 0, kTerminalFile);
+        const QVector<zrk::ReadCopy> copies = window()->readHistory();
+        QVERIFY(copies.size() >= 2);
+        QCOMPARE(copies[0].path, window()->lastReadCopy());
+        for (int i = 1; i < copies.size(); ++i)
+            QVERIFY(copies[i - 1].when >= copies[i].when);
+        full()->trackPage()->findChild<QSpinBox*>("Additional_spinBox_Distance")->setValue(250);
+        bool ok = false;
+        const auto differences = window()->compareWithFile(copies[1].path, &ok);
+        QVERIFY(ok);
+        QVERIFY(!differences.isEmpty());
     }
 
     // A read from the terminal is kept dated; comparing with it shows the key's label and values.

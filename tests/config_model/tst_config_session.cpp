@@ -1,0 +1,261 @@
+// The open configuration: read defaults pinned by a file kept in the tests, edits undone byte for
+// byte, the unsaved mark, a failed load that changes nothing, the review of a write, the saved
+// telemetry titles, and the dated copies read from terminals.
+#include "config_model/config_session.h"
+#include "config_model/xml_tag.h"
+
+#include <QtTest>
+
+namespace {
+
+const QString kTerminalFile = QStringLiteral(ZRK_SOURCE_DIR "/host/data/terminal_config.xml");
+
+QByteArray fileBytes(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+QStringList keysOf(const QVector<zrk::ConfigDifference>& differences)
+{
+    QStringList keys;
+    for (const zrk::ConfigDifference& d : differences)
+        keys << d.node + QLatin1Char('|') + d.key + QLatin1Char('|') + d.left + QLatin1Char('|') + d.right;
+    return keys;
+}
+
+} // namespace
+
+class tst_ConfigSession : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readDefaultsPinnedByGoldenFile_data();
+    void readDefaultsPinnedByGoldenFile();
+    void undoReturnsTheDocumentByteForByte_data();
+    void undoReturnsTheDocumentByteForByte();
+    void valueSetBackByHandIsNotAnEdit();
+    void failedLoadChangesNothing_data();
+    void failedLoadChangesNothing();
+    void snapshotsRestoreDocumentAndMark();
+    void reviewListsExactlyTheChangedKeys();
+    void telemetryTitles();
+    void readCopiesNewestFirst();
+};
+
+// What reading yields for a missing key, and what "new" sets, each against a file written once by
+// hand from the tables, not from the declarations.
+void tst_ConfigSession::readDefaultsPinnedByGoldenFile_data()
+{
+    QTest::addColumn<QByteArray>("input"); // empty: a new configuration
+    QTest::addColumn<QString>("golden");
+    QTest::newRow("empty root read") << QByteArray(
+        "<?xml version=\"1.0\" encoding=\"windows-1251\"?>\n<DEVICE/>\n")
+                                     << "empty_device_read.xml";
+    QTest::newRow("new configuration") << QByteArray() << "new_config.xml";
+}
+
+void tst_ConfigSession::readDefaultsPinnedByGoldenFile()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(QString, golden);
+    zrk::ConfigSession session;
+    if (input.isEmpty())
+        session.newDocument();
+    else
+        QVERIFY(session.loadBytes(input, zrk::ConfigSource::File, QString()));
+    const QByteArray expected = fileBytes(QStringLiteral(ZRK_TEST_DATA_DIR "/") + golden);
+    QVERIFY(!expected.isEmpty());
+    QCOMPARE(session.render(), expected);
+}
+
+void tst_ConfigSession::undoReturnsTheDocumentByteForByte_data()
+{
+    QTest::addColumn<QString>("node");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("page integer") << "TRACK/POINTS"
+                                  << "maxSpeed"
+                                  << "120";
+    QTest::newRow("page flags") << "TRACK/POINTS"
+                                << "moveTimerSens"
+                                << "1010";
+    QTest::newRow("page decimal") << "TRACK/COORDFLT"
+                                  << "maxHDOP"
+                                  << "1.5";
+    QTest::newRow("record mask") << "PROTOCOL/ORBA"
+                                 << "mask" << QString(255, QLatin1Char('1'));
+    QTest::newRow("user parameter name") << "USERPARAM/PARAM2"
+                                         << "name3"
+                                         << "Давление";
+    QTest::newRow("kept attribute") << "PHONES/PHONE2"
+                                    << "number"
+                                    << "+79990000000";
+    QTest::newRow("kept root key") << ""
+                                   << "imei"
+                                   << "000000000000000";
+    QTest::newRow("markup in a value") << "PHONES/PHONE1"
+                                       << "number"
+                                       << "<&\">";
+}
+
+void tst_ConfigSession::undoReturnsTheDocumentByteForByte()
+{
+    QFETCH(QString, node);
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    zrk::ConfigSession session;
+    QVERIFY(session.loadFile(kTerminalFile, zrk::ConfigSource::File));
+    session.markSaved();
+    const QByteArray before = session.render();
+    QSignalSpy changed(&session, &zrk::ConfigSession::valueChanged);
+    zrk::ConfigSession::Edit edit;
+    QVERIFY(session.setValue(node, key, value, &edit));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(session.value(node, key), value);
+    QVERIFY(session.isModified());
+    const QByteArray after = session.render();
+    QVERIFY(after != before);
+    session.undoEdit(edit);
+    QCOMPARE(session.render(), before);
+    QVERIFY(!session.isModified());
+    session.redoEdit(edit);
+    QCOMPARE(session.render(), after);
+    QVERIFY(session.isModified());
+    // The same text again is no edit; a key that is not there is not made up.
+    QVERIFY(!session.setValue(node, key, value));
+    QVERIFY(!session.setValue(node, key + QStringLiteral("X"), value));
+}
+
+void tst_ConfigSession::valueSetBackByHandIsNotAnEdit()
+{
+    zrk::ConfigSession session;
+    QVERIFY(session.loadFile(kTerminalFile, zrk::ConfigSource::File));
+    session.markSaved();
+    QSignalSpy mark(&session, &zrk::ConfigSession::modifiedChanged);
+    const QString old = session.value("TRACK/POINTS", "dist");
+    QVERIFY(session.setValue("TRACK/POINTS", "dist", "250"));
+    QVERIFY(session.setValue("TRACK/POINTS", "dist", "260"));
+    QVERIFY(session.setValue("TRACK/POINTS", "dist", old));
+    QVERIFY(!session.isModified());
+    QCOMPARE(mark.size(), 2); // on, then off again
+}
+
+void tst_ConfigSession::failedLoadChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("not well-formed") << QByteArray("<DEVICE><TRACK></DEVICE>");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("another root") << QByteArray("<AINF ver=\"3\"/>");
+}
+
+void tst_ConfigSession::failedLoadChangesNothing()
+{
+    QFETCH(QByteArray, text);
+    zrk::ConfigSession session;
+    QVERIFY(session.loadFile(kTerminalFile, zrk::ConfigSource::File));
+    session.markSaved();
+    QVERIFY(session.setValue("TRACK/POINTS", "dist", "250"));
+    const QByteArray editing = session.render();
+    const quint64 revision = session.revision();
+    QSignalSpy replaced(&session, &zrk::ConfigSession::documentReplaced);
+    QString error;
+    QVERIFY(!session.loadBytes(text, zrk::ConfigSource::Terminal, QString(), &error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!session.loadFile(QStringLiteral("/no/such/file.xml"), zrk::ConfigSource::File, &error));
+    QCOMPARE(session.render(), editing);
+    QCOMPARE(session.revision(), revision);
+    QVERIFY(session.isModified());
+    QCOMPARE(session.source(), zrk::ConfigSource::File);
+    QCOMPARE(session.filePath(), kTerminalFile);
+    QCOMPARE(replaced.size(), 0);
+}
+
+void tst_ConfigSession::snapshotsRestoreDocumentAndMark()
+{
+    zrk::ConfigSession session;
+    session.newDocument();
+    session.markSaved();
+    const auto fresh = session.snapshot();
+    const QByteArray freshText = session.render();
+    QVERIFY(session.loadFile(kTerminalFile, zrk::ConfigSource::File));
+    session.markSaved();
+    const auto loaded = session.snapshot();
+    session.restore(*fresh);
+    QCOMPARE(session.render(), freshText);
+    QVERIFY(!session.isModified()); // the mark as it was then: nothing changed since "new"
+    QCOMPARE(session.source(), zrk::ConfigSource::New);
+    session.restore(*loaded);
+    QVERIFY(!session.isModified());
+    QCOMPARE(session.keptBranchNames(),
+        QStringList({ "TRANSFER", "CAN", "INPUTS", "OUTPUTS", "TEMPSENS", "PHONES", "SYSTEM", "GUARD" }));
+    // Defaults keep the kept branches, before the user parameters.
+    session.resetToDefaults();
+    QCOMPARE(zrk::topNodeNames(session.root()).last(), QStringLiteral("USERPARAM"));
+    QCOMPARE(session.keptBranchNames().size(), 8);
+    QCOMPARE(session.value("TRACK/POINTS", "dist"), QStringLiteral("500"));
+}
+
+void tst_ConfigSession::reviewListsExactlyTheChangedKeys()
+{
+    zrk::ConfigSession session;
+    QVERIFY(session.loadFile(kTerminalFile, zrk::ConfigSource::Terminal));
+    // What the terminal holds, as this configuration saves it.
+    session.setLastRead(session.render(), QStringLiteral("861234567890123"));
+    QVERIFY(session.pendingWrite(QStringLiteral("861234567890123")).isEmpty());
+    QVERIFY(session.setValue("TRACK/POINTS", "dist", "250"));
+    QVERIFY(session.setValue("PHONES/PHONE2", "number", "+79990000000"));
+    const auto pending = session.pendingWrite(QStringLiteral("861234567890123"));
+    QCOMPARE(keysOf(pending),
+        QStringList({ "TRACK/POINTS|dist|300|250", "PHONES/PHONE2|number|+79007654321|+79990000000" }));
+    for (const zrk::ConfigDifference& d : pending) {
+        if (d.key == QLatin1String("dist"))
+            QVERIFY(!d.label.isEmpty());
+    }
+    // Another terminal was never read: the write is reviewed against a new configuration.
+    const auto againstDefaults = session.pendingWrite(QStringLiteral("other"));
+    QVERIFY(keysOf(againstDefaults).contains(QStringLiteral("TRACK/POINTS|dist|500|250")));
+    QVERIFY(!session.hasLastReadFrom(QStringLiteral("other")));
+}
+
+void tst_ConfigSession::telemetryTitles()
+{
+    zrk::ConfigSession session;
+    zrk::DeviceTitles titles;
+    QStringList types { "untouched" };
+    QVERIFY(!session.telemetryTitles(&titles, &types));
+    QCOMPARE(types, QStringList { "untouched" });
+    QVERIFY(session.loadFile(kTerminalFile, zrk::ConfigSource::Terminal));
+    QVERIFY(session.setValue("USERPARAM/PARAM4", "type", "301000000000000"));
+    QVERIFY(session.telemetryTitles(&titles, &types));
+    QCOMPARE(titles.inputs.size(), zrk::DeviceTitles::kInputs);
+    QCOMPARE(titles.outputs.size(), zrk::DeviceTitles::kOutputs);
+    QCOMPARE(titles.temperatures.size(), zrk::DeviceTitles::kTemperatures);
+    QVERIFY(!titles.inputs.first().isEmpty());
+    QCOMPARE(types.size(), 4);
+    QCOMPARE(types[2], QStringLiteral("301000000000000"));
+    QCOMPARE(types[0], QString(16, QLatin1Char('0')));
+}
+
+void tst_ConfigSession::readCopiesNewestFirst()
+{
+    QTemporaryDir dir;
+    const QDateTime t(QDate(2026, 3, 1), QTime(10, 20, 30));
+    const QStringList names { zrk::readCopyName(t), zrk::readCopyName(t.addSecs(-3600)),
+        zrk::readCopyName(t, 2), zrk::readCopyName(t.addDays(1)),
+        QStringLiteral("zrk_K7140_read_garbage.xml"),
+        QStringLiteral("zrk_K7140_read_2026-13-01_00-00-00.xml"), QStringLiteral("other.xml") };
+    for (const QString& name : names) {
+        QFile f(dir.filePath(name));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+    }
+    QStringList listed;
+    for (const zrk::ReadCopy& c : zrk::listReadCopies(dir.path()))
+        listed << QFileInfo(c.path).fileName();
+    QCOMPARE(listed, QStringList({ names[3], names[2], names[0], names[1] }));
+    QCOMPARE(names[0], QStringLiteral("zrk_K7140_read_2026-03-01_10-20-30.xml"));
+}
+
+QTEST_GUILESS_MAIN(tst_ConfigSession)
+#include "tst_config_session.moc"
