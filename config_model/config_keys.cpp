@@ -6,6 +6,8 @@
 #include "config_model/xml_workdata.h"
 #include "config_model/zrk_track_caps.h"
 
+#include <QHash>
+#include <QPair>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -443,25 +445,53 @@ const BranchDecl* declaredBranch(const QString& top)
     return nullptr;
 }
 
+namespace {
+
+// What findDeclaredKey walks: each branch (the user parameters last) with its keys by record node
+// and key; of rows naming the same pair the first counts, as a walk of the rows in order finds it.
+struct BranchKeys
+{
+    const BranchDecl* branch = nullptr;
+    QHash<QPair<QString, QString>, const KeyDecl*> keys;
+};
+
+const QVector<BranchKeys>& branchKeys()
+{
+    static const BranchDecl user = userParamBranch();
+    static const QVector<BranchKeys> index = [] {
+        QVector<const BranchDecl*> branches;
+        for (const BranchDecl& b : declaredBranches())
+            branches << &b;
+        branches << &user;
+        QVector<BranchKeys> list;
+        for (const BranchDecl* b : qAsConst(branches)) {
+            BranchKeys k;
+            k.branch = b;
+            for (const KeyDecl& d : b->keys) {
+                if (!k.keys.contains({ d.group, d.key }))
+                    k.keys.insert({ d.group, d.key }, &d);
+            }
+            list << k;
+        }
+        return list;
+    }();
+    return index;
+}
+
+} // namespace
+
 const KeyDecl* findDeclaredKey(const QString& node, const QString& key)
 {
     const int slash = node.indexOf(QLatin1Char('/'));
     const QString top = slash < 0 ? QString() : node.left(slash);
     const QString group = slash < 0 ? node : node.mid(slash + 1);
-    static const BranchDecl user = userParamBranch();
-    QVector<const BranchDecl*> branches;
-    for (const BranchDecl& b : declaredBranches())
-        branches << &b;
-    branches << &user;
-    for (const BranchDecl* branch : branches) {
-        const BranchDecl& b = *branch;
-        if (!top.isEmpty() && b.top != top)
+    for (const BranchKeys& b : branchKeys()) {
+        if (!top.isEmpty() && b.branch->top != top)
             continue;
         // A key on the top node itself is named by the top node alone.
-        const QString g = (slash < 0 && group == b.top) ? QString() : group;
-        const int i = b.indexOf(g, key);
-        if (i >= 0)
-            return &b.keys[i];
+        const QString g = (slash < 0 && group == b.branch->top) ? QString() : group;
+        if (const KeyDecl* d = b.keys.value({ g, key }))
+            return d;
     }
     return nullptr;
 }
@@ -474,8 +504,11 @@ QString declaredKeyLabel(const KeyDecl& decl)
     if (!label.contains(QLatin1String("%1")))
         return label;
     // Numbered rows ("bm7") carry their number in the label.
-    static const QRegularExpression trailingNumber(QStringLiteral("(\\d+)$"));
-    return label.arg(trailingNumber.match(decl.key).captured(1));
+    int digits = decl.key.size();
+    while (digits > 0 && decl.key.at(digits - 1) >= QLatin1Char('0')
+        && decl.key.at(digits - 1) <= QLatin1Char('9'))
+        --digits;
+    return label.arg(decl.key.mid(digits));
 }
 
 QString normalizedValue(const KeyDecl& decl, const QString& value)
