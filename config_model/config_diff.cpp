@@ -34,7 +34,17 @@ QVector<Key> keysOf(const CXmlTagV2* tag)
         if (isLeaf(c))
             keys.append({ c->name, c->value });
     }
-    std::stable_sort(keys.begin(), keys.end(), [](const Key& x, const Key& y) { return x.first < y.first; });
+    // An element has a handful of keys, often in order already: sorting in place by insertion
+    // (stable, as the rule of the last entry needs) beats a merge sort's buffer.
+    auto byName = [](const Key& x, const Key& y) { return x.first < y.first; };
+    if (keys.size() > 32) {
+        std::stable_sort(keys.begin(), keys.end(), byName);
+    } else {
+        for (int i = 1; i < keys.size(); ++i) {
+            for (int j = i; j > 0 && byName(keys[j], keys[j - 1]); --j)
+                std::swap(keys[j], keys[j - 1]);
+        }
+    }
     // Keep the last of each run of one name.
     int out = 0;
     for (int i = 0; i < keys.size(); ++i) {

@@ -501,7 +501,7 @@ QString declaredKeyLabel(const KeyDecl& decl)
     if (!decl.labelId)
         return decl.key;
     const QString label = qtTrId(decl.labelId);
-    if (!label.contains(QLatin1String("%1")))
+    if (!label.contains(QLatin1Char('%')) || !label.contains(QLatin1String("%1")))
         return label;
     // Numbered rows ("bm7") carry their number in the label.
     int digits = decl.key.size();
@@ -544,45 +544,59 @@ void writeWholeValue(CXMLWorkData* node, const QString& key, const QString& valu
         entry->value = value;
 }
 
-Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
+Values readBranch(const CXmlTagV2* root, const BranchDecl& branch)
 {
     Values values;
     values.reserve(branch.keys.size());
-    std::unique_ptr<CXMLWorkData> top(
-        root ? root->createNode(branch.top.toLatin1().constData(), NodeFindOrCreate) : nullptr);
-    QString openGroup;
-    std::unique_ptr<CXMLWorkData> node;
+    const CXmlTagV2* top = root ? root->children.getTagFromName(branch.top) : nullptr;
+    const CXmlTagV2* node = nullptr;
+    const QString* openGroup = nullptr;
     for (const KeyDecl& d : branch.keys) {
-        if (!node || d.group != openGroup) {
-            openGroup = d.group;
-            if (d.group.isEmpty())
-                node.reset();
-            else
-                node.reset(top ? top->createNode(d.group.toLatin1().constData(), NodeFindOrCreate) : nullptr);
+        if (!openGroup || d.group != *openGroup) {
+            openGroup = &d.group;
+            node = d.group.isEmpty() || !top ? top : top->children.getTagFromName(d.group);
         }
-        const CXMLWorkData* from = d.group.isEmpty() ? top.get() : node.get();
-        if (!from) {
-            values << d.readDefault;
-            continue;
-        }
-        const QByteArray key = d.key.toLatin1();
+        const CTagParameters from(node);
         switch (d.type) {
         case T::Integer:
-            values << QString::number(from->readInteger(key.constData(), d.readDefault.toInt()));
+            values << QString::number(from.readInteger(d.key, d.readDefault.toInt()));
             break;
         case T::Bool:
-            values << (from->readBool(key.constData(), d.readDefault != kIntZero) ? kIntOne : kIntZero);
+            values << (from.readBool(d.key, d.readDefault != kIntZero) ? kIntOne : kIntZero);
             break;
         case T::Decimal:
-            values << oneDecimal(double(from->readFloat(key.constData(), d.readDefault.toFloat())));
+            values << oneDecimal(double(from.readFloat(d.key, d.readDefault.toFloat())));
             break;
         case T::Text:
-        case T::Flags:
-            values << readWholeValue(from, d.key, d.readDefault);
+        case T::Flags: {
+            // Read whole from the element's own attribute: the list would cut it.
+            const CXmlTagV2* entry = node ? node->values.getTagFromName(d.key) : nullptr;
+            values << (entry ? entry->value : d.readDefault);
             break;
+        }
         }
     }
     return values;
+}
+
+Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
+{
+    std::unique_ptr<CXMLWorkData> top(
+        root ? root->createNode(branch.top.toLatin1().constData(), NodeFindOrCreate) : nullptr);
+    if (!top) {
+        Values values;
+        for (const KeyDecl& d : branch.keys)
+            values << d.readDefault;
+        return values;
+    }
+    // Every page's reading makes the branch's missing nodes; the values are then read from the tree.
+    QString openGroup;
+    for (const KeyDecl& d : branch.keys) {
+        if (!d.group.isEmpty() && d.group != openGroup)
+            delete top->createNode(d.group.toLatin1().constData(), NodeFindOrCreate);
+        openGroup = d.group;
+    }
+    return readBranch(root->tag(), branch);
 }
 
 void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& values)

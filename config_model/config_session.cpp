@@ -3,7 +3,6 @@
 #include "config_model/orba_fieldset.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
-#include "config_model/xml_workdata.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -93,11 +92,18 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
         appendBranch(target, userBranch, userParamValues(fieldset::defaultUserParams()));
         return out;
     }
-    // What no page owns is moved over as it is (the source is thrown away after); the header is
-    // the session's own.
+    // Values are read straight from the source tree; what no page owns is then moved over as it
+    // is (the source is thrown away after). The header is the session's own.
+    const CXmlTagV2* source = from->root();
+    for (const cfg::BranchDecl& b : cfg::declaredBranches()) {
+        cfg::Values values = cfg::readBranch(source, b);
+        for (int i = 0; i < values.size(); ++i)
+            values[i] = cfg::normalizedValue(b.keys[i], values[i]);
+        appendBranch(target, b, values);
+    }
+    const fieldset::UserParams user = fieldset::readUserParams(source);
     const QStringList owned = ConfigSession::ownedTopNodes();
     const QStringList& header = configHeaderKeys();
-    CXmlTagV2* source = from->root();
     QVector<CXmlTagV2*> keptKeys, keptBranches;
     for (CXmlTagV2* attr : source->values) {
         if (!header.contains(attr->name))
@@ -107,27 +113,17 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
         if (!owned.contains(child->name))
             keptBranches << child;
     }
-    // Reading creates the pages' missing nodes in the source; the kept ones are taken first.
-    for (CXmlTagV2* attr : keptKeys)
-        source->values.deleteTag(attr);
-    for (CXmlTagV2* child : keptBranches)
-        source->children.deleteTag(child);
-    CXMLWorkData src(from, cfg::kRootNode);
-    for (const cfg::BranchDecl& b : cfg::declaredBranches()) {
-        cfg::Values values = cfg::readBranch(&src, b);
-        for (int i = 0; i < values.size(); ++i)
-            values[i] = cfg::normalizedValue(b.keys[i], values[i]);
-        appendBranch(target, b, values);
-    }
     for (CXmlTagV2* attr : keptKeys) {
+        from->root()->values.deleteTag(attr);
         attr->parent = target;
         target->values.addTag(attr);
     }
     for (CXmlTagV2* child : keptBranches) {
+        from->root()->children.deleteTag(child);
         child->parent = target;
         target->children.addTag(child);
     }
-    appendBranch(target, userBranch, userParamValues(fieldset::readUserParams(&src)));
+    appendBranch(target, userBranch, userParamValues(user));
     return out;
 }
 
@@ -470,9 +466,7 @@ bool ConfigSession::telemetryTitles(DeviceTitles* titles, QStringList* userParam
     if (titles)
         *titles = deviceTitles(root());
     if (userParamTypes) {
-        // The branch is always there, so reading it creates nothing.
-        CXMLWorkData rootNode(m_doc.get(), const_cast<CXmlTagV2*>(root()));
-        *userParamTypes = fieldset::userParamTypes(&rootNode);
+        *userParamTypes = fieldset::userParamTypes(fieldset::readUserParams(root()));
     }
     return true;
 }

@@ -1,6 +1,7 @@
 #include "config_model/xml_workdata.h"
 
 #include "config_model/serialize.h"
+#include "config_model/xml_tag.h"
 
 #include <QStringList>
 
@@ -101,6 +102,54 @@ void zrk_Clear_Node(coreSzNode* node)
     if (!node || !node->serializer)
         return;
     node->serializer->clearSZV2(node->tag);
+}
+
+// ---- CTagParameters ------------------------------------------------------------------------
+
+bool CTagParameters::entry(const QString& name, COneParameter& out) const
+{
+    if (!m_tag)
+        return false;
+    const CXmlTagV2* e = m_tag->values.getTagFromName(name);
+    if (!e)
+        e = m_tag->children.getTagFromName(name);
+    if (!e)
+        return false;
+    out.setValue(e->value.toLocal8Bit().constData());
+    return true;
+}
+
+int CTagParameters::readInteger(const QString& name, int def) const
+{
+    COneParameter p;
+    if (entry(name, p))
+        p.asInt(def);
+    return def;
+}
+
+bool CTagParameters::readBool(const QString& name, bool def) const
+{
+    COneParameter p;
+    if (entry(name, p))
+        p.asBool(def);
+    return def;
+}
+
+float CTagParameters::readFloat(const QString& name, float def) const
+{
+    COneParameter p;
+    if (entry(name, p))
+        p.asFloat(def);
+    return def;
+}
+
+QString CTagParameters::readString(const QString& name, const QString& def) const
+{
+    QString out = def;
+    COneParameter p;
+    if (entry(name, p))
+        p.asQString(out);
+    return out;
 }
 
 // ---- CXMLWorkData --------------------------------------------------------------------------

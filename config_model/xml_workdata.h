@@ -18,6 +18,28 @@ void zrk_Get_Data(coreSzNode* node, coreSzArrayItem* data);
 void zrk_Write_Data(coreSzNode* node, coreSzArrayItem* data);
 void zrk_Clear_Node(coreSzNode* node);
 
+// Typed reads of one element's parameters straight from the tree, giving what a CXMLWorkData bound
+// to the element reads (the first entry of the name, its attributes before its child elements, the
+// value as a parameter record keeps it) without copying every entry into a list first.
+class CTagParameters
+{
+public:
+    explicit CTagParameters(const CXmlTagV2* tag)
+        : m_tag(tag)
+    {
+    }
+    int readInteger(const QString& name, int def) const;
+    bool readBool(const QString& name, bool def) const;
+    float readFloat(const QString& name, float def) const;
+    QString readString(const QString& name, const QString& def = QString()) const;
+
+private:
+    // The record the list would hold for that name; false when there is none.
+    bool entry(const QString& name, COneParameter& out) const;
+
+    const CXmlTagV2* m_tag;
+};
+
 // A short-lived handle on one element of an open document, with a snapshot of its parameters.
 // It owns only that list: the element belongs to the tree, the serializer to whoever opened it.
 class CXMLWorkData
