@@ -372,7 +372,9 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
     return b;
 }
 
-BranchDecl protocolBranch(bool useState2, bool useReserv)
+namespace {
+
+BranchDecl makeProtocolBranch(bool useState2, bool useReserv)
 {
     namespace fs = fieldset;
     BranchDecl b;
@@ -396,7 +398,7 @@ BranchDecl protocolBranch(bool useState2, bool useReserv)
     return b;
 }
 
-BranchDecl userParamBranch()
+BranchDecl makeUserParamBranch()
 {
     namespace fs = fieldset;
     BranchDecl b;
@@ -418,6 +420,23 @@ BranchDecl userParamBranch()
         }
     }
     return b;
+}
+
+} // namespace
+
+// Pages ask for their branches whenever they compare what they show; the rows are made once.
+BranchDecl protocolBranch(bool useState2, bool useReserv)
+{
+    static const BranchDecl made[2][2]
+        = { { makeProtocolBranch(false, false), makeProtocolBranch(false, true) },
+              { makeProtocolBranch(true, false), makeProtocolBranch(true, true) } };
+    return made[useState2 ? 1 : 0][useReserv ? 1 : 0];
+}
+
+BranchDecl userParamBranch()
+{
+    static const BranchDecl made = makeUserParamBranch();
+    return made;
 }
 
 const QVector<BranchDecl>& declaredBranches()
