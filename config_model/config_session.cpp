@@ -156,7 +156,8 @@ KeyPlace placeOf(const CXmlTagV2* tag, const QString& key)
 class ConfigSession::Snapshot
 {
 public:
-    std::unique_ptr<CSerialize> doc;
+    std::shared_ptr<CSerialize> doc; // shared with the session until either side writes: never written
+
     ConfigSource source = ConfigSource::None;
     QString path;
     quint64 state = 0;
@@ -204,7 +205,36 @@ void ConfigSession::setHeader(const QString& model, const QString& version, cons
     m_version = version;
     m_vendor = vendor;
     if (hasDocument())
-        writeHeader(m_doc->root());
+        updateHeader();
+}
+
+void ConfigSession::updateHeader()
+{
+    const QString values[] = { m_model, m_version, QLatin1String(cfg::kCreatorText), m_vendor };
+    const char* keys[] = { cfg::kHeaderModel, cfg::kHeaderVersion, cfg::kHeaderCreator, cfg::kHeaderVendor };
+    // As writeHeader leaves it: every attribute entry of each key holding its value.
+    for (int i = 0; i < 4; ++i) {
+        bool held = false;
+        for (const CXmlTagV2* attr : root()->values) {
+            if (attr->name != QLatin1String(keys[i]))
+                continue;
+            held = attr->value == values[i];
+            if (!held)
+                break;
+        }
+        if (!held) {
+            writeHeader(editableRoot());
+            return;
+        }
+    }
+}
+
+CXmlTagV2* ConfigSession::editableRoot()
+{
+    // A snapshot shares the document it was taken of; the first write after it works on a copy.
+    if (m_doc.use_count() > 1)
+        m_doc = copyDocument(m_doc->root());
+    return m_doc->root();
 }
 
 void ConfigSession::notifyModified(bool wasModified)
@@ -334,7 +364,7 @@ bool ConfigSession::hasValue(const QString& node, const QString& key) const
 
 void ConfigSession::storeValue(const QString& node, const QString& key, const QString& value)
 {
-    CXmlTagV2* tag = nodeAt(root(), node);
+    CXmlTagV2* tag = nodeAt(editableRoot(), node);
     const KeyPlace place = placeOf(tag, key);
     if (place.attribute)
         setKeyValue(tag, key, value); // every entry of the name, so none is left behind
@@ -412,7 +442,7 @@ cfg::Values ConfigSession::branchValues(const cfg::BranchDecl& branch) const
 std::shared_ptr<const ConfigSession::Snapshot> ConfigSession::snapshot() const
 {
     auto s = std::make_shared<Snapshot>();
-    s->doc = copyDocument(root());
+    s->doc = m_doc;
     s->source = m_source;
     s->path = m_path;
     s->state = m_state;
@@ -424,8 +454,8 @@ std::shared_ptr<const ConfigSession::Snapshot> ConfigSession::snapshot() const
 
 void ConfigSession::restore(const Snapshot& snapshot)
 {
-    m_doc = copyDocument(snapshot.doc->root());
-    writeHeader(m_doc->root());
+    m_doc = snapshot.doc;
+    updateHeader();
     const bool sourceChanged = snapshot.source != m_source || snapshot.path != m_path;
     m_source = snapshot.source;
     m_path = snapshot.path;

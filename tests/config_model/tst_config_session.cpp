@@ -191,11 +191,15 @@ void tst_ConfigSession::snapshotsRestoreDocumentAndMark()
     QVERIFY(session.loadFile(kTerminalFile, zrk::ConfigSource::File));
     session.markSaved();
     const auto loaded = session.snapshot();
+    const QByteArray loadedText = session.render();
+    // An edit after a snapshot leaves the snapshot as it was taken.
+    QVERIFY(session.setValue("TRACK/POINTS", "dist", "250"));
     session.restore(*fresh);
     QCOMPARE(session.render(), freshText);
     QVERIFY(!session.isModified()); // the mark as it was then: nothing changed since "new"
     QCOMPARE(session.source(), zrk::ConfigSource::New);
     session.restore(*loaded);
+    QCOMPARE(session.render(), loadedText);
     QVERIFY(!session.isModified());
     QCOMPARE(session.keptBranchNames(),
         QStringList({ "TRANSFER", "CAN", "INPUTS", "OUTPUTS", "TEMPSENS", "PHONES", "SYSTEM", "GUARD" }));
