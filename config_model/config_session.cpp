@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QRegularExpression>
+#include <QVarLengthArray>
 
 #include <algorithm>
 
@@ -421,18 +422,50 @@ void ConfigSession::absorbValue(const QString& node, const QString& key, const Q
 
 cfg::Values ConfigSession::branchValues(const cfg::BranchDecl& branch) const
 {
-    cfg::Values values;
-    values.reserve(branch.keys.size());
+    const int n = branch.keys.size();
+    cfg::Values values(n);
+    QVarLengthArray<bool, 128> found(n);
+    std::fill(found.begin(), found.end(), false);
     const CXmlTagV2* top = root()->children.getTagFromName(branch.top);
-    const CXmlTagV2* group = nullptr;
-    QString openGroup;
-    for (const cfg::KeyDecl& d : branch.keys) {
-        if (d.group != openGroup || !group) {
-            openGroup = d.group;
-            group = d.group.isEmpty() || !top ? top : top->children.getTagFromName(d.group);
+    for (int first = 0; first < n; ++first) {
+        if (found[first])
+            continue;
+        // One record node at a time: its keys (each declared once), then its attributes from the
+        // last, so that the last entry of a name counts. The session writes them in declaration
+        // order, so each attribute is most often the key before the one found last.
+        const QString& groupName = branch.keys[first].group;
+        QVarLengthArray<int, 64> keys;
+        for (int i = first; i < n; ++i) {
+            if (branch.keys[i].group == groupName)
+                keys.append(i);
         }
-        const KeyPlace place = placeOf(group, d.key);
-        values << (place.attribute ? place.attribute->value : d.readDefault);
+        const CXmlTagV2* node = groupName.isEmpty() || !top ? top : top->children.getTagFromName(groupName);
+        QVarLengthArray<const CXmlTagV2*, 64> attributes;
+        if (node) {
+            for (const CXmlTagV2* a : node->values)
+                attributes.append(a);
+        }
+        int guess = keys.size() - 1;
+        for (int a = attributes.size() - 1; a >= 0; --a) {
+            const QString& name = attributes[a]->name;
+            int at = guess >= 0 && branch.keys[keys[guess]].key == name ? guess : -1;
+            for (int k = 0; at < 0 && k < keys.size(); ++k) {
+                if (branch.keys[keys[k]].key == name)
+                    at = k;
+            }
+            if (at < 0)
+                continue;
+            guess = at - 1;
+            if (!found[keys[at]]) {
+                values[keys[at]] = attributes[a]->value;
+                found[keys[at]] = true;
+            }
+        }
+        for (int k : keys) {
+            if (!found[k])
+                values[k] = branch.keys[k].readDefault;
+            found[k] = true;
+        }
     }
     return values;
 }

@@ -42,6 +42,9 @@ private slots:
     void failedLoadChangesNothing();
     void snapshotsRestoreDocumentAndMark();
     void reviewListsExactlyTheChangedKeys();
+    void eachKeyDeclaredOncePerNode();
+    void branchValuesAreWhatReadingGives_data();
+    void branchValuesAreWhatReadingGives();
     void differencesWalkBothTrees_data();
     void differencesWalkBothTrees();
     void telemetryTitles();
@@ -230,6 +233,42 @@ void tst_ConfigSession::reviewListsExactlyTheChangedKeys()
     const auto againstDefaults = session.pendingWrite(QStringLiteral("other"));
     QVERIFY(keysOf(againstDefaults).contains(QStringLiteral("TRACK/POINTS|dist|500|250")));
     QVERIFY(!session.hasLastReadFrom(QStringLiteral("other")));
+}
+
+// Reading a branch matches each attribute with one declared row: no row may name the same record
+// node and key as another.
+void tst_ConfigSession::eachKeyDeclaredOncePerNode()
+{
+    QVector<zrk::cfg::BranchDecl> branches = zrk::cfg::declaredBranches();
+    branches << zrk::cfg::userParamBranch();
+    for (const zrk::cfg::BranchDecl& b : branches) {
+        QSet<QString> seen;
+        for (const zrk::cfg::KeyDecl& d : b.keys) {
+            const QString id = b.top + QLatin1Char('/') + d.group + QLatin1Char('/') + d.key;
+            QVERIFY2(!seen.contains(id), qPrintable(id));
+            seen.insert(id);
+        }
+    }
+}
+
+// What the pages are shown of the open document is what reading its branches gives.
+void tst_ConfigSession::branchValuesAreWhatReadingGives_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("terminal") << kTerminalFile;
+    QTest::newRow("odd values") << QStringLiteral(ZRK_TEST_DATA_DIR "/normalise_odd_in.xml");
+}
+
+void tst_ConfigSession::branchValuesAreWhatReadingGives()
+{
+    QFETCH(QString, file);
+    zrk::ConfigSession session;
+    QVERIFY(session.loadFile(file, zrk::ConfigSource::File));
+    QVERIFY(session.setValue("TRACK/POINTS", "dist", "250"));
+    QVector<zrk::cfg::BranchDecl> branches = zrk::cfg::declaredBranches();
+    branches << zrk::cfg::userParamBranch();
+    for (const zrk::cfg::BranchDecl& b : branches)
+        QCOMPARE(session.branchValues(b), zrk::cfg::readBranch(session.root(), b));
 }
 
 // Every case of the walk: keys sorted by name across both sides, the last entry of a name and a
