@@ -25,12 +25,34 @@ std::unique_ptr<CSerialize> emptyDocument()
     return doc;
 }
 
-// The document in its saved form, from what a file holds (null: a new configuration). Declared
-// keys missing from the file take their read defaults, values their declared form; the branches no
-// page owns follow as they were, then the user parameters.
-// A declared branch as writeBranch leaves it, built straight as elements: the top node with its
-// "page", then one record node a group with its keys in declaration order. Values pass the same
-// decoding a committed parameter list gives a new attribute.
+// Values as writeBranch writes them: integers in "%d" form, booleans "1" or "0"; missing ones at
+// the end take the key's reset value. Normalised values are in that form already.
+cfg::Values writtenForm(const cfg::BranchDecl& branch, const cfg::Values& values)
+{
+    cfg::Values out;
+    out.reserve(branch.keys.size());
+    for (int i = 0; i < branch.keys.size(); ++i) {
+        const cfg::KeyDecl& d = branch.keys[i];
+        const QString v = i < values.size() ? values[i] : d.resetValue;
+        switch (d.type) {
+        case cfg::KeyType::Integer:
+            out << QString::number(v.toInt());
+            break;
+        case cfg::KeyType::Bool:
+            out << (v.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0"));
+            break;
+        default:
+            out << v;
+            break;
+        }
+    }
+    return out;
+}
+
+// A declared branch as writeBranch leaves it, built straight as elements from values in their
+// written form (missing ones at the end take the reset value): the top node with its "page", then one record
+// node a group with its keys in declaration order. Values pass the same decoding a committed parameter list
+// gives a new attribute.
 void appendBranch(CXmlTagV2* root, const cfg::BranchDecl& branch, const cfg::Values& values)
 {
     auto attribute = [](CXmlTagV2* tag, const QString& name, const QString& value) {
@@ -38,33 +60,33 @@ void appendBranch(CXmlTagV2* root, const cfg::BranchDecl& branch, const cfg::Val
         attr->value = CXmlTagV2::decodeText(value);
         tag->values.addTag(attr);
     };
-    auto textOf = [&branch, &values](int i) {
-        const cfg::KeyDecl& d = branch.keys[i];
-        const QString v = i < values.size() ? values[i] : d.resetValue;
-        switch (d.type) {
-        case cfg::KeyType::Integer:
-            return QString::number(v.toInt());
-        case cfg::KeyType::Bool:
-            return v.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0");
-        default:
-            return v;
-        }
-    };
     auto* top = new CXmlTagV2(branch.top, QString(), root);
     root->children.addTag(top);
     attribute(top, QLatin1String(cfg::kPageKey), branch.top);
-    for (int i = 0; i < branch.keys.size(); ++i) {
-        if (branch.keys[i].group.isEmpty())
-            attribute(top, branch.keys[i].key, textOf(i));
-    }
+    QVarLengthArray<CXmlTagV2*, 16> nodes;
     for (const QString& group : branch.groups) {
         auto* node = new CXmlTagV2(group, QString(), top);
         node->type = CXmlTagV2::Record;
         top->children.addTag(node);
-        for (int i = 0; i < branch.keys.size(); ++i) {
-            if (branch.keys[i].group == group)
-                attribute(node, branch.keys[i].key, textOf(i));
+        nodes.append(node);
+    }
+    // A group's keys mostly follow one another: the group of the key before is tried first.
+    int last = 0;
+    for (int i = 0; i < branch.keys.size(); ++i) {
+        const cfg::KeyDecl& d = branch.keys[i];
+        CXmlTagV2* tag = nullptr;
+        if (d.group.isEmpty()) {
+            tag = top;
+        } else if (last < nodes.size() && branch.groups[last] == d.group) {
+            tag = nodes[last];
+        } else {
+            last = branch.groups.indexOf(d.group);
+            tag = last < 0 ? nullptr : nodes[last];
+            last = qMax(last, 0);
         }
+        // A key whose record node the branch does not list is not written.
+        if (tag)
+            attribute(tag, d.key, i < values.size() ? values[i] : d.resetValue);
     }
 }
 
@@ -89,7 +111,7 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
     CXmlTagV2* target = out->root();
     if (!from) {
         for (const cfg::BranchDecl& b : cfg::declaredBranches())
-            appendBranch(target, b, cfg::resetValues(b));
+            appendBranch(target, b, writtenForm(b, cfg::resetValues(b)));
         appendBranch(target, userBranch, userParamValues(fieldset::defaultUserParams()));
         return out;
     }
