@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cstdio>
 #include <memory>
 
 namespace zrk::cfg {
@@ -80,6 +81,16 @@ KeyDecl flags(const char* group, const char* key, int length, const QString& rea
     d.type = T::Flags;
     d.length = length;
     return d;
+}
+
+// The "%d" text of v, as QString::number gives it; text itself when it is that already.
+QString integerText(int v, const QString& text)
+{
+    char digits[16];
+    const int n = std::snprintf(digits, sizeof digits, "%d", v);
+    if (text == QLatin1String(digits, n))
+        return text;
+    return QString::fromLatin1(digits, n);
 }
 
 QString oneDecimal(double value)
@@ -536,8 +547,8 @@ QString normalizedValue(const KeyDecl& decl, const QString& value)
     case T::Integer: {
         const int v = value.toInt();
         if (decl.zeroMeansOff && v == 0)
-            return kIntZero;
-        return QString::number(std::clamp(v, decl.min, decl.max));
+            return integerText(0, value);
+        return integerText(std::clamp(v, decl.min, decl.max), value);
     }
     case T::Bool:
         return value.toInt() != 0 ? kIntOne : kIntZero;
@@ -577,9 +588,12 @@ Values readBranch(const CXmlTagV2* root, const BranchDecl& branch)
         }
         const CTagParameters from(node);
         switch (d.type) {
-        case T::Integer:
-            values << QString::number(from.readInteger(d.key, d.readDefault.toInt()));
+        case T::Integer: {
+            const CXmlTagV2* entry = from.entryOf(d.key);
+            values << integerText(
+                from.readInteger(d.key, d.readDefault.toInt()), entry ? entry->value : QString());
             break;
+        }
         case T::Bool:
             values << (from.readBool(d.key, d.readDefault != kIntZero) ? kIntOne : kIntZero);
             break;

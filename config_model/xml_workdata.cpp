@@ -108,15 +108,32 @@ void zrk_Clear_Node(coreSzNode* node)
 
 bool CTagParameters::entry(const QString& name, COneParameter& out) const
 {
-    if (!m_tag)
-        return false;
-    const CXmlTagV2* e = m_tag->values.getTagFromName(name);
-    if (!e)
-        e = m_tag->children.getTagFromName(name);
+    const CXmlTagV2* e = entryOf(name);
     if (!e)
         return false;
-    out.setValue(e->value.toLocal8Bit().constData());
+    // A short ASCII value, as nearly all are, has the same bytes in any local encoding.
+    const QString& v = e->value;
+    if (v.size() < kParamFieldSize) {
+        char ascii[kParamFieldSize];
+        int i = 0;
+        for (; i < v.size() && v.at(i).unicode() < 0x80; ++i)
+            ascii[i] = static_cast<char>(v.at(i).unicode());
+        if (i == v.size()) {
+            ascii[i] = '\0';
+            out.setValue(ascii);
+            return true;
+        }
+    }
+    out.setValue(v.toLocal8Bit().constData());
     return true;
+}
+
+const CXmlTagV2* CTagParameters::entryOf(const QString& name) const
+{
+    if (!m_tag)
+        return nullptr;
+    const CXmlTagV2* e = m_tag->values.getTagFromName(name);
+    return e ? e : m_tag->children.getTagFromName(name);
 }
 
 int CTagParameters::readInteger(const QString& name, int def) const

@@ -32,6 +32,8 @@ public:
     bool readBool(const QString& name, bool def) const;
     float readFloat(const QString& name, float def) const;
     QString readString(const QString& name, const QString& def = QString()) const;
+    // The entry those reads take the value of: an attribute or a child element; null when none.
+    const CXmlTagV2* entryOf(const QString& name) const;
 
 private:
     // The record the list would hold for that name; false when there is none.
