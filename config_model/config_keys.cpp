@@ -11,7 +11,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 
 namespace zrk::cfg {
@@ -86,11 +85,19 @@ KeyDecl flags(const char* group, const char* key, int length, const QString& rea
 // The "%d" text of v, as QString::number gives it; text itself when it is that already.
 QString integerText(int v, const QString& text)
 {
-    char digits[16];
-    const int n = std::snprintf(digits, sizeof digits, "%d", v);
-    if (text == QLatin1String(digits, n))
-        return text;
-    return QString::fromLatin1(digits, n);
+    char digits[12];
+    char* end = digits + sizeof digits;
+    char* at = end;
+    // Through unsigned, so that the most negative value has its digits too.
+    unsigned int u = v < 0 ? 0u - static_cast<unsigned int>(v) : static_cast<unsigned int>(v);
+    do {
+        *--at = static_cast<char>('0' + u % 10);
+        u /= 10;
+    } while (u != 0);
+    if (v < 0)
+        *--at = '-';
+    const QLatin1String written(at, static_cast<int>(end - at));
+    return text == written ? text : QString(written);
 }
 
 QString oneDecimal(double value)

@@ -43,6 +43,8 @@ private slots:
     void snapshotsRestoreDocumentAndMark();
     void reviewListsExactlyTheChangedKeys();
     void eachKeyDeclaredOncePerNode();
+    void integersInWrittenForm_data();
+    void integersInWrittenForm();
     void branchValuesAreWhatReadingGives_data();
     void branchValuesAreWhatReadingGives();
     void differencesWalkBothTrees_data();
@@ -233,6 +235,46 @@ void tst_ConfigSession::reviewListsExactlyTheChangedKeys()
     const auto againstDefaults = session.pendingWrite(QStringLiteral("other"));
     QVERIFY(keysOf(againstDefaults).contains(QStringLiteral("TRACK/POINTS|dist|500|250")));
     QVERIFY(!session.hasLastReadFrom(QStringLiteral("other")));
+}
+
+// An integer is written as "%d" of its value, clamped to its range; the text read is kept when it
+// is that already.
+void tst_ConfigSession::integersInWrittenForm_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("min");
+    QTest::addColumn<int>("max");
+    QTest::addColumn<bool>("zeroMeansOff");
+    QTest::addColumn<QString>("written");
+    const int lo = std::numeric_limits<int>::min();
+    const int hi = std::numeric_limits<int>::max();
+    QTest::newRow("plain") << "42" << lo << hi << false << "42";
+    QTest::newRow("leading zeros") << "007" << lo << hi << false << "7";
+    QTest::newRow("minus zero") << "-0" << lo << hi << false << "0";
+    QTest::newRow("plus sign") << "+5" << lo << hi << false << "5";
+    QTest::newRow("not a number") << "12abc" << lo << hi << false << "0";
+    QTest::newRow("empty") << "" << lo << hi << false << "0";
+    QTest::newRow("smallest") << "-2147483648" << lo << hi << false << "-2147483648";
+    QTest::newRow("largest") << "2147483647" << lo << hi << false << "2147483647";
+    QTest::newRow("below range") << "-7" << 1 << 10 << false << "1";
+    QTest::newRow("above range") << "99" << -10 << -5 << false << "-5";
+    QTest::newRow("zero switches off") << "0" << 5 << 10 << true << "0";
+    QTest::newRow("zero clamped") << "0" << 5 << 10 << false << "5";
+}
+
+void tst_ConfigSession::integersInWrittenForm()
+{
+    QFETCH(QString, text);
+    QFETCH(int, min);
+    QFETCH(int, max);
+    QFETCH(bool, zeroMeansOff);
+    QFETCH(QString, written);
+    zrk::cfg::KeyDecl d;
+    d.type = zrk::cfg::KeyType::Integer;
+    d.min = min;
+    d.max = max;
+    d.zeroMeansOff = zeroMeansOff;
+    QCOMPARE(zrk::cfg::normalizedValue(d, text), written);
 }
 
 // Reading a branch matches each attribute with one declared row: no row may name the same record
