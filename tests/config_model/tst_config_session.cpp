@@ -42,6 +42,8 @@ private slots:
     void failedLoadChangesNothing();
     void snapshotsRestoreDocumentAndMark();
     void reviewListsExactlyTheChangedKeys();
+    void nodesByPath_data();
+    void nodesByPath();
     void eachKeyDeclaredOncePerNode();
     void integersInWrittenForm_data();
     void integersInWrittenForm();
@@ -235,6 +237,47 @@ void tst_ConfigSession::reviewListsExactlyTheChangedKeys()
     const auto againstDefaults = session.pendingWrite(QStringLiteral("other"));
     QVERIFY(keysOf(againstDefaults).contains(QStringLiteral("TRACK/POINTS|dist|500|250")));
     QVERIFY(!session.hasLastReadFrom(QStringLiteral("other")));
+}
+
+// A node path: names separated by "/", empty steps skipped, "NAME[n]" the n-th of that name.
+void tst_ConfigSession::nodesByPath_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("found"); // the node's "id" key; "-" for none, "root" for the root
+    QTest::newRow("root") << ""
+                          << "root";
+    QTest::newRow("child") << "A"
+                           << "a";
+    QTest::newRow("grandchild") << "A/B"
+                                << "b";
+    QTest::newRow("empty steps") << "/A//B/"
+                                 << "b";
+    QTest::newRow("first of a name") << "Z"
+                                     << "z1";
+    QTest::newRow("numbered") << "Z[2]"
+                              << "z2";
+    QTest::newRow("past the last") << "Z[3]"
+                                   << "-";
+    QTest::newRow("number zero") << "Z[0]"
+                                 << "-";
+    QTest::newRow("too large a number") << "Z[99999999999]"
+                                        << "-";
+    QTest::newRow("not a number") << "Z[x]"
+                                  << "-";
+    QTest::newRow("missing step") << "A/X/B"
+                                  << "-";
+}
+
+void tst_ConfigSession::nodesByPath()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, found);
+    const QByteArray text
+        = "<DEVICE id=\"root\"><A id=\"a\"><B id=\"b\"/></A><Z id=\"z1\"/><Z id=\"z2\"/></DEVICE>";
+    CSerialize doc(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
+    QVERIFY(doc.startSerialize());
+    const CXmlTagV2* node = zrk::nodeAt(doc.root(), path);
+    QCOMPARE(node ? zrk::keyValue(node, QStringLiteral("id")) : QStringLiteral("-"), found);
 }
 
 // An integer is written as "%d" of its value, clamped to its range; the text read is kept when it
