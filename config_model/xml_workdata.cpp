@@ -114,13 +114,11 @@ bool CTagParameters::entry(const QString& name, COneParameter& out) const
     // A short ASCII value, as nearly all are, has the same bytes in any local encoding.
     const QString& v = e->value;
     if (v.size() < kParamFieldSize) {
-        char ascii[kParamFieldSize];
         int i = 0;
         for (; i < v.size() && v.at(i).unicode() < 0x80; ++i)
-            ascii[i] = static_cast<char>(v.at(i).unicode());
+            out.value[i] = static_cast<char>(v.at(i).unicode());
         if (i == v.size()) {
-            ascii[i] = '\0';
-            out.setValue(ascii);
+            out.value[i] = '\0';
             return true;
         }
     }

@@ -379,6 +379,8 @@ zrk::fieldset::UserParams ZRK_Form_Config_Set_Orba3_Tab::userParams() const
 {
     UserParams params;
     for (int g = 0; g < 4 && !m_names.isEmpty(); ++g) {
+        params.names[g].reserve(kUserCounts[g]);
+        params.types[g].reserve(kUserCounts[g]);
         for (int i = 0; i < kUserCounts[g]; ++i) {
             const int pos = kUserFirstPos[g] + i;
             params.names[g] << m_names.value(pos)->text();
@@ -747,6 +749,7 @@ zrk::cfg::Values ZRK_Form_Config_Set_Orba3::shownValues(int branch) const
     if (branch == 0)
         return { getTypeDFProtocol(), getStrFormat() };
     zrk::cfg::Values values;
+    values.reserve(4 + kUserCounts[0] + kUserCounts[1] + kUserCounts[2] + kUserCounts[3]);
     const UserParams params = m_tabUser ? m_tabUser->userParams() : defaultUserParams();
     for (int g = 0; g < 4; ++g) {
         values << params.types[g];
