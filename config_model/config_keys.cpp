@@ -597,8 +597,8 @@ Values readBranch(const CXmlTagV2* root, const BranchDecl& branch)
         switch (d.type) {
         case T::Integer: {
             const CXmlTagV2* entry = from.entryOf(d.key);
-            values << integerText(
-                from.readInteger(d.key, d.readDefault.toInt()), entry ? entry->value : QString());
+            const int v = CTagParameters::integerOf(entry, d.readDefault.toInt());
+            values << integerText(v, entry ? entry->value : QString());
             break;
         }
         case T::Bool:

@@ -57,7 +57,9 @@ void appendBranch(CXmlTagV2* root, const cfg::BranchDecl& branch, const cfg::Val
 {
     auto attribute = [](CXmlTagV2* tag, const QString& name, const QString& value) {
         auto* attr = new CXmlTagV2(name, QString(), tag);
-        attr->value = CXmlTagV2::decodeText(value);
+        // Only "&..." and "_33_" decode: a value without either is taken as it is.
+        const bool plain = !value.contains(QLatin1Char('&')) && !value.contains(QLatin1Char('_'));
+        attr->value = plain ? value : CXmlTagV2::decodeText(value);
         tag->values.addTag(attr);
     };
     auto* top = new CXmlTagV2(branch.top, QString(), root);

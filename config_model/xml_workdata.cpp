@@ -106,13 +106,12 @@ void zrk_Clear_Node(coreSzNode* node)
 
 // ---- CTagParameters ------------------------------------------------------------------------
 
-bool CTagParameters::entry(const QString& name, COneParameter& out) const
+bool CTagParameters::record(const CXmlTagV2* entry, COneParameter& out)
 {
-    const CXmlTagV2* e = entryOf(name);
-    if (!e)
+    if (!entry)
         return false;
     // A short ASCII value, as nearly all are, has the same bytes in any local encoding.
-    const QString& v = e->value;
+    const QString& v = entry->value;
     if (v.size() < kParamFieldSize) {
         int i = 0;
         for (; i < v.size() && v.at(i).unicode() < 0x80; ++i)
@@ -134,35 +133,35 @@ const CXmlTagV2* CTagParameters::entryOf(const QString& name) const
     return e ? e : m_tag->children.getTagFromName(name);
 }
 
-int CTagParameters::readInteger(const QString& name, int def) const
+int CTagParameters::integerOf(const CXmlTagV2* entry, int def)
 {
     COneParameter p;
-    if (entry(name, p))
+    if (record(entry, p))
         p.asInt(def);
     return def;
 }
 
-bool CTagParameters::readBool(const QString& name, bool def) const
+bool CTagParameters::boolOf(const CXmlTagV2* entry, bool def)
 {
     COneParameter p;
-    if (entry(name, p))
+    if (record(entry, p))
         p.asBool(def);
     return def;
 }
 
-float CTagParameters::readFloat(const QString& name, float def) const
+float CTagParameters::floatOf(const CXmlTagV2* entry, float def)
 {
     COneParameter p;
-    if (entry(name, p))
+    if (record(entry, p))
         p.asFloat(def);
     return def;
 }
 
-QString CTagParameters::readString(const QString& name, const QString& def) const
+QString CTagParameters::stringOf(const CXmlTagV2* entry, const QString& def)
 {
     QString out = def;
     COneParameter p;
-    if (entry(name, p))
+    if (record(entry, p))
         p.asQString(out);
     return out;
 }

@@ -28,16 +28,24 @@ public:
         : m_tag(tag)
     {
     }
-    int readInteger(const QString& name, int def) const;
-    bool readBool(const QString& name, bool def) const;
-    float readFloat(const QString& name, float def) const;
-    QString readString(const QString& name, const QString& def = QString()) const;
+    int readInteger(const QString& name, int def) const { return integerOf(entryOf(name), def); }
+    bool readBool(const QString& name, bool def) const { return boolOf(entryOf(name), def); }
+    float readFloat(const QString& name, float def) const { return floatOf(entryOf(name), def); }
+    QString readString(const QString& name, const QString& def = QString()) const
+    {
+        return stringOf(entryOf(name), def);
+    }
     // The entry those reads take the value of: an attribute or a child element; null when none.
     const CXmlTagV2* entryOf(const QString& name) const;
+    // The reads of one entry (null: the default).
+    static int integerOf(const CXmlTagV2* entry, int def);
+    static bool boolOf(const CXmlTagV2* entry, bool def);
+    static float floatOf(const CXmlTagV2* entry, float def);
+    static QString stringOf(const CXmlTagV2* entry, const QString& def);
 
 private:
-    // The record the list would hold for that name; false when there is none.
-    bool entry(const QString& name, COneParameter& out) const;
+    // The record the list would hold for the entry; false for none.
+    static bool record(const CXmlTagV2* entry, COneParameter& out);
 
     const CXmlTagV2* m_tag;
 };
