@@ -39,8 +39,8 @@ bool declaredBy(const QMetaProperty& property, const QMetaObject& owner)
 
 ZRK_Config_Binding::ZRK_Config_Binding(QWidget* form, const zrk::cfg::KeyDecl& decl)
 {
-    static const QRegularExpression spec(QStringLiteral("^(\\w+)(?:([.:])(\\w+)(?:\\[(\\d+)\\])?)?$"));
-    const QRegularExpressionMatch m = spec.match(decl.widget);
+    static const QRegularExpression pattern(QStringLiteral("^(\\w+)(?:([.:])(\\w+)(?:\\[(\\d+)\\])?)?$"));
+    const QRegularExpressionMatch m = pattern.match(decl.widget);
     if (!form || !m.hasMatch())
         return;
     m_widget = form->findChild<QWidget*>(m.captured(1));

@@ -25,6 +25,9 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QStyle>
+#include <QToolBar>
 
 #include <cstring>
 
@@ -162,6 +165,10 @@ ZRK_Widget_Config::ZRK_Widget_Config(QWidget* parent)
     connect(redoAction, &QAction::triggered, this, &ZRK_Widget_Config::redo);
     addActions({ undoAction, redoAction });
     QUndoStack& stack = m_editing.undoStack();
+    // The style's own arrows: a theme icon would be cached by the application beyond the plug-in's
+    // unloading.
+    ui->pushButton_Undo->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+    ui->pushButton_Redo->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     ui->pushButton_Undo->setEnabled(false);
     ui->pushButton_Redo->setEnabled(false);
     connect(&stack, &QUndoStack::canUndoChanged, ui->pushButton_Undo, &QWidget::setEnabled);
@@ -169,9 +176,32 @@ ZRK_Widget_Config::ZRK_Widget_Config(QWidget* parent)
     connect(
         &m_editing.session(), &zrk::ConfigSession::modifiedChanged, this, &ZRK_Widget_Config::updateTitle);
 
-    resize(960, 680);
+    moveButtonsToToolBar();
+    // Wide enough for the whole row of buttons where the screen allows it.
+    const QRect screen = this->screen() ? this->screen()->availableGeometry() : QRect(0, 0, 1280, 800);
+    resize(qBound(960, sizeHint().width(), screen.width() * 19 / 20), qMin(680, screen.height() * 9 / 10));
     translateForm();
     updateButtons();
+}
+
+void ZRK_Widget_Config::moveButtonsToToolBar()
+{
+    // The form lays the buttons out in a row; a tool bar keeps that row but lets a narrow screen
+    // (a 1280- or 1366-pixel laptop) show what does not fit behind its » button instead of making
+    // the whole window wider than the screen.
+    auto* bar = new QToolBar(this);
+    bar->setObjectName(QStringLiteral("toolBar_Buttons"));
+    while (QLayoutItem* item = ui->horizontalLayout_Buttons->takeAt(0)) {
+        if (QWidget* w = item->widget()) {
+            bar->addWidget(w);
+        } else if (item->spacerItem()) {
+            auto* stretch = new QWidget(bar);
+            stretch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+            bar->addWidget(stretch);
+        }
+        delete item;
+    }
+    ui->verticalLayout_Main->insertWidget(0, bar);
 }
 
 ZRK_Widget_Config::~ZRK_Widget_Config()
@@ -207,6 +237,12 @@ void ZRK_Widget_Config::updateButtons()
 void ZRK_Widget_Config::translateForm()
 {
     ui->retranslateUi(this);
+    // Undo and redo show their arrows only, as editors do; the name stays for the tooltip and
+    // screen readers.
+    for (QPushButton* b : { ui->pushButton_Undo, ui->pushButton_Redo }) {
+        b->setAccessibleName(b->text());
+        b->setText(QString());
+    }
     const QList<QAction*> actions = ui->pushButton_Compare->menu()->actions();
     //% "С файлом..."
     actions.at(0)->setText(qtTrId("wcfg_020"));

@@ -164,6 +164,7 @@ private:
     void setTitleName(const QString& name);
     void updateTitle();
     void updateButtons();
+    void moveButtonsToToolBar();
     // Asks about unsaved changes; false when the window must stay open.
     bool confirmClose();
     QString deviceType() const;

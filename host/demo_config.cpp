@@ -88,7 +88,7 @@ bool ZrkDemoSession::runConfigSteps()
         return false;
     }
     config->move(40, 40);
-    config->resize(1100, 760);
+    config->resize(1200, 760);
     bool ok = grab(config, QStringLiteral("config_new"));
 
     m_window.openConfigurationPage(kTrackPage);

@@ -82,39 +82,6 @@ private slots:
         QCOMPARE(t.format, format);
     }
 
-    // Each format is written as chosen: a .tmi reads back, CSV has its header, KML is KML.
-    void saveSessionFormats()
-    {
-        QTemporaryDir dir;
-        Session s;
-        appendRecord(s, numbered(4) + QByteArray(70, '\0'));
-        appendRecord(s, numbered(3), Origin::ByNumber);
-        zrk::tmi::Header header;
-        header.model = QStringLiteral("K-7140");
-        header.timezoneOffset = -18000;
-        QString error;
-        const QString base = dir.filePath(QStringLiteral("s"));
-        for (const char* filter : { "CSV (*.csv)", "KML (*.kml)", "T (*.tmi)" })
-            QVERIFY2(
-                zrk::tmi::saveSession(zrk::tmi::saveTarget(base, QLatin1String(filter)), s, header, &error),
-                qPrintable(error));
-        QFile csv(base + QStringLiteral(".csv")), kml(base + QStringLiteral(".kml"));
-        QVERIFY(csv.open(QIODevice::ReadOnly) && kml.open(QIODevice::ReadOnly));
-        QVERIFY(!csv.readLine().startsWith("<?xml"));
-        QVERIFY(kml.readAll().contains("<kml"));
-        const zrk::tmi::ReadResult back = zrk::tmi::read(base + QStringLiteral(".tmi"));
-        QVERIFY2(back.error.isEmpty(), qPrintable(back.error));
-        QCOMPARE(back.header.timezoneOffset, -18000);
-        QCOMPARE(back.records.size(), 2);
-        QCOMPARE(back.records[0].bytes, numbered(4) + QByteArray(70, '\0'));
-        QCOMPARE(back.records[0].fromHistory, false);
-        QCOMPARE(back.records[1].fromHistory, true);
-        // A folder that is not there: nothing written, a Russian reason naming the file.
-        QVERIFY(!zrk::tmi::saveSession(
-            { dir.filePath(QStringLiteral("no/x.tmi")), SaveFormat::Tmi }, s, header, &error));
-        QVERIFY(error.contains(QLatin1String("x.tmi")));
-    }
-
     // A record the host sent as extended is kept as received and saved as an extended record, so
     // that the file shows it as the view did.
     void extendedRecordSavedAsExtended()
@@ -221,42 +188,6 @@ private slots:
         const auto other
             = decoded(RecordBuilder().setNumber(orba::F_NumPage, 1).record(1), orba::Form::Orba1);
         QVERIFY(!orba::fieldNumber(*other, field, &v));
-    }
-
-    // The arguments of the commands whose payload is built here, read back as the host reads them.
-    void commandArguments()
-    {
-        struct Sent
-        {
-            int msg;
-            unsigned long w, l;
-            QByteArray bytes;
-            szQueryTaho taho;
-        } sent {};
-        const zrk::tmi::CommandSender send = [&sent](int msg, unsigned long w, unsigned long l) {
-            sent = { msg, w, l, {}, {} };
-            if (msg == ZRK_MSG_SET_PARAM_VALUE)
-                sent.bytes = *reinterpret_cast<QByteArray*>(w);
-            if (msg == ZRK_MSG_TACHO_FILE_REQUEST)
-                sent.taho = *reinterpret_cast<szQueryTaho*>(w);
-            return 0ul;
-        };
-        zrk::tmi::CommandInput in;
-        in.texts = QStringList { QStringLiteral("имя=Ёж") };
-        QVERIFY(zrk::tmi::sendCommand(*zrk::tmi::findCommand(QStringLiteral("SetParam")), in, send));
-        QCOMPARE(sent.bytes.toHex(), QByteArray("e8ecff3da8e6"));
-        in = {};
-        in.value = 2;
-        in.from = QDate(2024, 5, 1);
-        in.to = QDate(2024, 5, 7);
-        QVERIFY(zrk::tmi::sendCommand(*zrk::tmi::findCommand(QStringLiteral("TahoFileRequest")), in, send));
-        QCOMPARE(sent.taho.fileKind, 2);
-        QCOMPARE(sent.taho.fromUnix, Q_INT64_C(1714521600));
-        QCOMPARE(sent.taho.toUnix, Q_INT64_C(1715126399));
-        // A text command without its text sends nothing.
-        sent = {};
-        QVERIFY(!zrk::tmi::sendCommand(*zrk::tmi::findCommand(QStringLiteral("TahoFileRead")), {}, send));
-        QCOMPARE(sent.msg, 0);
     }
 
     void replyLines()
