@@ -4,8 +4,10 @@
 #include "config_model/xml_tag.h"
 
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QSaveFile>
+#include <QStringView>
+
+#include <algorithm>
 
 namespace zrk {
 
@@ -118,14 +120,29 @@ CXmlTagV2* childAt(const CXmlTagV2* tag, const QString& path)
 
 CXmlTagV2* nodeAt(const CXmlTagV2* tag, const QString& path)
 {
-    static const QRegularExpression numbered(QStringLiteral("^(.*)\\[(\\d+)\\]$"));
     CXmlTagV2* at = const_cast<CXmlTagV2*>(tag);
-    for (const QString& step : path.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+    const QStringView all(path);
+    for (int from = 0; from <= all.size();) {
+        int slash = all.indexOf(QLatin1Char('/'), from);
+        if (slash < 0)
+            slash = all.size();
+        QStringView name = all.mid(from, slash - from);
+        from = slash + 1;
+        if (name.isEmpty())
+            continue;
         if (!at)
             return nullptr;
-        const QRegularExpressionMatch m = numbered.match(step);
-        const QString name = m.hasMatch() ? m.captured(1) : step;
-        int wanted = m.hasMatch() ? m.captured(2).toInt() : 1;
+        // "NAME[n]": the n-th sibling of that name, counting from 1.
+        int wanted = 1;
+        const int open = name.lastIndexOf(QLatin1Char('['));
+        if (open >= 0 && name.size() - open > 2 && name.endsWith(QLatin1Char(']'))) {
+            const QStringView digits = name.mid(open + 1, name.size() - open - 2);
+            if (std::all_of(digits.begin(), digits.end(),
+                    [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); })) {
+                wanted = digits.toString().toInt();
+                name = name.left(open);
+            }
+        }
         CXmlTagV2* found = nullptr;
         for (CXmlTagV2* child : at->children) {
             if (child->name == name && --wanted == 0) {

@@ -6,6 +6,8 @@
 #include "config_model/xml_workdata.h"
 #include "config_model/zrk_track_caps.h"
 
+#include <QHash>
+#include <QPair>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -78,6 +80,24 @@ KeyDecl flags(const char* group, const char* key, int length, const QString& rea
     d.type = T::Flags;
     d.length = length;
     return d;
+}
+
+// The "%d" text of v, as QString::number gives it; text itself when it is that already.
+QString integerText(int v, const QString& text)
+{
+    char digits[12];
+    char* end = digits + sizeof digits;
+    char* at = end;
+    // Through unsigned, so that the most negative value has its digits too.
+    unsigned int u = v < 0 ? 0u - static_cast<unsigned int>(v) : static_cast<unsigned int>(v);
+    do {
+        *--at = static_cast<char>('0' + u % 10);
+        u /= 10;
+    } while (u != 0);
+    if (v < 0)
+        *--at = '-';
+    const QLatin1String written(at, static_cast<int>(end - at));
+    return text == written ? text : QString(written);
 }
 
 QString oneDecimal(double value)
@@ -370,7 +390,9 @@ BranchDecl locatorBranch(const ZRK_Track_Caps& caps)
     return b;
 }
 
-BranchDecl protocolBranch(bool useState2, bool useReserv)
+namespace {
+
+BranchDecl makeProtocolBranch(bool useState2, bool useReserv)
 {
     namespace fs = fieldset;
     BranchDecl b;
@@ -394,7 +416,7 @@ BranchDecl protocolBranch(bool useState2, bool useReserv)
     return b;
 }
 
-BranchDecl userParamBranch()
+BranchDecl makeUserParamBranch()
 {
     namespace fs = fieldset;
     BranchDecl b;
@@ -416,6 +438,23 @@ BranchDecl userParamBranch()
         }
     }
     return b;
+}
+
+} // namespace
+
+// Pages ask for their branches whenever they compare what they show; the rows are made once.
+BranchDecl protocolBranch(bool useState2, bool useReserv)
+{
+    static const BranchDecl made[2][2]
+        = { { makeProtocolBranch(false, false), makeProtocolBranch(false, true) },
+              { makeProtocolBranch(true, false), makeProtocolBranch(true, true) } };
+    return made[useState2 ? 1 : 0][useReserv ? 1 : 0];
+}
+
+BranchDecl userParamBranch()
+{
+    static const BranchDecl made = makeUserParamBranch();
+    return made;
 }
 
 const QVector<BranchDecl>& declaredBranches()
@@ -443,25 +482,53 @@ const BranchDecl* declaredBranch(const QString& top)
     return nullptr;
 }
 
+namespace {
+
+// What findDeclaredKey walks: each branch (the user parameters last) with its keys by record node
+// and key; of rows naming the same pair the first counts, as a walk of the rows in order finds it.
+struct BranchKeys
+{
+    const BranchDecl* branch = nullptr;
+    QHash<QPair<QString, QString>, const KeyDecl*> keys;
+};
+
+const QVector<BranchKeys>& branchKeys()
+{
+    static const BranchDecl user = userParamBranch();
+    static const QVector<BranchKeys> index = [] {
+        QVector<const BranchDecl*> branches;
+        for (const BranchDecl& b : declaredBranches())
+            branches << &b;
+        branches << &user;
+        QVector<BranchKeys> list;
+        for (const BranchDecl* b : qAsConst(branches)) {
+            BranchKeys k;
+            k.branch = b;
+            for (const KeyDecl& d : b->keys) {
+                if (!k.keys.contains({ d.group, d.key }))
+                    k.keys.insert({ d.group, d.key }, &d);
+            }
+            list << k;
+        }
+        return list;
+    }();
+    return index;
+}
+
+} // namespace
+
 const KeyDecl* findDeclaredKey(const QString& node, const QString& key)
 {
     const int slash = node.indexOf(QLatin1Char('/'));
     const QString top = slash < 0 ? QString() : node.left(slash);
     const QString group = slash < 0 ? node : node.mid(slash + 1);
-    static const BranchDecl user = userParamBranch();
-    QVector<const BranchDecl*> branches;
-    for (const BranchDecl& b : declaredBranches())
-        branches << &b;
-    branches << &user;
-    for (const BranchDecl* branch : branches) {
-        const BranchDecl& b = *branch;
-        if (!top.isEmpty() && b.top != top)
+    for (const BranchKeys& b : branchKeys()) {
+        if (!top.isEmpty() && b.branch->top != top)
             continue;
         // A key on the top node itself is named by the top node alone.
-        const QString g = (slash < 0 && group == b.top) ? QString() : group;
-        const int i = b.indexOf(g, key);
-        if (i >= 0)
-            return &b.keys[i];
+        const QString g = (slash < 0 && group == b.branch->top) ? QString() : group;
+        if (const KeyDecl* d = b.keys.value({ g, key }))
+            return d;
     }
     return nullptr;
 }
@@ -471,11 +538,14 @@ QString declaredKeyLabel(const KeyDecl& decl)
     if (!decl.labelId)
         return decl.key;
     const QString label = qtTrId(decl.labelId);
-    if (!label.contains(QLatin1String("%1")))
+    if (!label.contains(QLatin1Char('%')) || !label.contains(QLatin1String("%1")))
         return label;
     // Numbered rows ("bm7") carry their number in the label.
-    static const QRegularExpression trailingNumber(QStringLiteral("(\\d+)$"));
-    return label.arg(trailingNumber.match(decl.key).captured(1));
+    int digits = decl.key.size();
+    while (digits > 0 && decl.key.at(digits - 1) >= QLatin1Char('0')
+        && decl.key.at(digits - 1) <= QLatin1Char('9'))
+        --digits;
+    return label.arg(decl.key.mid(digits));
 }
 
 QString normalizedValue(const KeyDecl& decl, const QString& value)
@@ -484,8 +554,8 @@ QString normalizedValue(const KeyDecl& decl, const QString& value)
     case T::Integer: {
         const int v = value.toInt();
         if (decl.zeroMeansOff && v == 0)
-            return kIntZero;
-        return QString::number(std::clamp(v, decl.min, decl.max));
+            return integerText(0, value);
+        return integerText(std::clamp(v, decl.min, decl.max), value);
     }
     case T::Bool:
         return value.toInt() != 0 ? kIntOne : kIntZero;
@@ -511,45 +581,62 @@ void writeWholeValue(CXMLWorkData* node, const QString& key, const QString& valu
         entry->value = value;
 }
 
-Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
+Values readBranch(const CXmlTagV2* root, const BranchDecl& branch)
 {
     Values values;
     values.reserve(branch.keys.size());
-    std::unique_ptr<CXMLWorkData> top(
-        root ? root->createNode(branch.top.toLatin1().constData(), NodeFindOrCreate) : nullptr);
-    QString openGroup;
-    std::unique_ptr<CXMLWorkData> node;
+    const CXmlTagV2* top = root ? root->children.getTagFromName(branch.top) : nullptr;
+    const CXmlTagV2* node = nullptr;
+    const QString* openGroup = nullptr;
     for (const KeyDecl& d : branch.keys) {
-        if (!node || d.group != openGroup) {
-            openGroup = d.group;
-            if (d.group.isEmpty())
-                node.reset();
-            else
-                node.reset(top ? top->createNode(d.group.toLatin1().constData(), NodeFindOrCreate) : nullptr);
+        if (!openGroup || d.group != *openGroup) {
+            openGroup = &d.group;
+            node = d.group.isEmpty() || !top ? top : top->children.getTagFromName(d.group);
         }
-        const CXMLWorkData* from = d.group.isEmpty() ? top.get() : node.get();
-        if (!from) {
-            values << d.readDefault;
-            continue;
-        }
-        const QByteArray key = d.key.toLatin1();
+        const CTagParameters from(node);
         switch (d.type) {
-        case T::Integer:
-            values << QString::number(from->readInteger(key.constData(), d.readDefault.toInt()));
+        case T::Integer: {
+            const CXmlTagV2* entry = from.entryOf(d.key);
+            const int v = CTagParameters::integerOf(entry, d.readDefault.toInt());
+            values << integerText(v, entry ? entry->value : QString());
             break;
+        }
         case T::Bool:
-            values << (from->readBool(key.constData(), d.readDefault != kIntZero) ? kIntOne : kIntZero);
+            values << (from.readBool(d.key, d.readDefault != kIntZero) ? kIntOne : kIntZero);
             break;
         case T::Decimal:
-            values << oneDecimal(double(from->readFloat(key.constData(), d.readDefault.toFloat())));
+            values << oneDecimal(double(from.readFloat(d.key, d.readDefault.toFloat())));
             break;
         case T::Text:
-        case T::Flags:
-            values << readWholeValue(from, d.key, d.readDefault);
+        case T::Flags: {
+            // Read whole from the element's own attribute: the list would cut it.
+            const CXmlTagV2* entry = node ? node->values.getTagFromName(d.key) : nullptr;
+            values << (entry ? entry->value : d.readDefault);
             break;
+        }
         }
     }
     return values;
+}
+
+Values readBranch(CXMLWorkData* root, const BranchDecl& branch)
+{
+    std::unique_ptr<CXMLWorkData> top(
+        root ? root->createNode(branch.top.toLatin1().constData(), NodeFindOrCreate) : nullptr);
+    if (!top) {
+        Values values;
+        for (const KeyDecl& d : branch.keys)
+            values << d.readDefault;
+        return values;
+    }
+    // Every page's reading makes the branch's missing nodes; the values are then read from the tree.
+    QString openGroup;
+    for (const KeyDecl& d : branch.keys) {
+        if (!d.group.isEmpty() && d.group != openGroup)
+            delete top->createNode(d.group.toLatin1().constData(), NodeFindOrCreate);
+        openGroup = d.group;
+    }
+    return readBranch(root->tag(), branch);
 }
 
 void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& values)

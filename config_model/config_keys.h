@@ -5,6 +5,7 @@
 #include <QVector>
 
 class CXMLWorkData;
+class CXmlTagV2;
 struct ZRK_Track_Caps;
 
 // The configuration keys the editor's pages own, declared once as data. A page binds its widgets
@@ -100,6 +101,8 @@ void writeWholeValue(CXMLWorkData* node, const QString& key, const QString& valu
 // Reads the branch under root (creating missing nodes, as every page does); missing keys yield
 // their read default. A null root yields the read defaults.
 Values readBranch(CXMLWorkData* root, const BranchDecl& branch);
+// The same reading straight from a tree, making nothing: a missing node reads as an empty one.
+Values readBranch(const CXmlTagV2* root, const BranchDecl& branch);
 // Writes the branch: top node (mode 0) cleared, "page" = its name, then each record node created
 // with mode 3, cleared, written, committed and released. Nothing for a null root or an empty branch.
 void writeBranch(CXMLWorkData* root, const BranchDecl& branch, const Values& values);

@@ -3,10 +3,10 @@
 #include "config_model/orba_fieldset.h"
 #include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
-#include "config_model/xml_workdata.h"
 
 #include <QDir>
 #include <QRegularExpression>
+#include <QVarLengthArray>
 
 #include <algorithm>
 
@@ -25,46 +25,70 @@ std::unique_ptr<CSerialize> emptyDocument()
     return doc;
 }
 
-// The document in its saved form, from what a file holds (null: a new configuration). Declared
-// keys missing from the file take their read defaults, values their declared form; the branches no
-// page owns follow as they were, then the user parameters.
-// A declared branch as writeBranch leaves it, built straight as elements: the top node with its
-// "page", then one record node a group with its keys in declaration order. Values pass the same
-// decoding a committed parameter list gives a new attribute.
-void appendBranch(CXmlTagV2* root, const cfg::BranchDecl& branch, const cfg::Values& values)
+// Values as writeBranch writes them: integers in "%d" form, booleans "1" or "0"; missing ones at
+// the end take the key's reset value. Normalised values are in that form already.
+cfg::Values writtenForm(const cfg::BranchDecl& branch, const cfg::Values& values)
 {
-    auto attribute = [](CXmlTagV2* tag, const QString& name, const QString& value) {
-        auto* attr = new CXmlTagV2(name, QString(), tag);
-        attr->value = CXmlTagV2::decodeText(value);
-        tag->values.addTag(attr);
-    };
-    auto textOf = [&branch, &values](int i) {
+    cfg::Values out;
+    out.reserve(branch.keys.size());
+    for (int i = 0; i < branch.keys.size(); ++i) {
         const cfg::KeyDecl& d = branch.keys[i];
         const QString v = i < values.size() ? values[i] : d.resetValue;
         switch (d.type) {
         case cfg::KeyType::Integer:
-            return QString::number(v.toInt());
+            out << QString::number(v.toInt());
+            break;
         case cfg::KeyType::Bool:
-            return v.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0");
+            out << (v.toInt() != 0 ? QStringLiteral("1") : QStringLiteral("0"));
+            break;
         default:
-            return v;
+            out << v;
+            break;
         }
+    }
+    return out;
+}
+
+// A declared branch as writeBranch leaves it, built straight as elements from values in their
+// written form (missing ones at the end take the reset value): the top node with its "page", then one record
+// node a group with its keys in declaration order. Values pass the same decoding a committed parameter list
+// gives a new attribute.
+void appendBranch(CXmlTagV2* root, const cfg::BranchDecl& branch, const cfg::Values& values)
+{
+    auto attribute = [](CXmlTagV2* tag, const QString& name, const QString& value) {
+        auto* attr = new CXmlTagV2(name, QString(), tag);
+        // Only "&..." and "_33_" decode: a value without either is taken as it is.
+        const bool plain = !value.contains(QLatin1Char('&')) && !value.contains(QLatin1Char('_'));
+        attr->value = plain ? value : CXmlTagV2::decodeText(value);
+        tag->values.addTag(attr);
     };
     auto* top = new CXmlTagV2(branch.top, QString(), root);
     root->children.addTag(top);
     attribute(top, QLatin1String(cfg::kPageKey), branch.top);
-    for (int i = 0; i < branch.keys.size(); ++i) {
-        if (branch.keys[i].group.isEmpty())
-            attribute(top, branch.keys[i].key, textOf(i));
-    }
+    QVarLengthArray<CXmlTagV2*, 16> nodes;
     for (const QString& group : branch.groups) {
         auto* node = new CXmlTagV2(group, QString(), top);
         node->type = CXmlTagV2::Record;
         top->children.addTag(node);
-        for (int i = 0; i < branch.keys.size(); ++i) {
-            if (branch.keys[i].group == group)
-                attribute(node, branch.keys[i].key, textOf(i));
+        nodes.append(node);
+    }
+    // A group's keys mostly follow one another: the group of the key before is tried first.
+    int last = 0;
+    for (int i = 0; i < branch.keys.size(); ++i) {
+        const cfg::KeyDecl& d = branch.keys[i];
+        CXmlTagV2* tag = nullptr;
+        if (d.group.isEmpty()) {
+            tag = top;
+        } else if (last < nodes.size() && branch.groups[last] == d.group) {
+            tag = nodes[last];
+        } else {
+            last = branch.groups.indexOf(d.group);
+            tag = last < 0 ? nullptr : nodes[last];
+            last = qMax(last, 0);
         }
+        // A key whose record node the branch does not list is not written.
+        if (tag)
+            attribute(tag, d.key, i < values.size() ? values[i] : d.resetValue);
     }
 }
 
@@ -89,15 +113,22 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
     CXmlTagV2* target = out->root();
     if (!from) {
         for (const cfg::BranchDecl& b : cfg::declaredBranches())
-            appendBranch(target, b, cfg::resetValues(b));
+            appendBranch(target, b, writtenForm(b, cfg::resetValues(b)));
         appendBranch(target, userBranch, userParamValues(fieldset::defaultUserParams()));
         return out;
     }
-    // What no page owns is moved over as it is (the source is thrown away after); the header is
-    // the session's own.
+    // Values are read straight from the source tree; what no page owns is then moved over as it
+    // is (the source is thrown away after). The header is the session's own.
+    const CXmlTagV2* source = from->root();
+    for (const cfg::BranchDecl& b : cfg::declaredBranches()) {
+        cfg::Values values = cfg::readBranch(source, b);
+        for (int i = 0; i < values.size(); ++i)
+            values[i] = cfg::normalizedValue(b.keys[i], values[i]);
+        appendBranch(target, b, values);
+    }
+    const fieldset::UserParams user = fieldset::readUserParams(source);
     const QStringList owned = ConfigSession::ownedTopNodes();
     const QStringList& header = configHeaderKeys();
-    CXmlTagV2* source = from->root();
     QVector<CXmlTagV2*> keptKeys, keptBranches;
     for (CXmlTagV2* attr : source->values) {
         if (!header.contains(attr->name))
@@ -107,27 +138,17 @@ std::unique_ptr<CSerialize> normalizedDocument(CSerialize* from)
         if (!owned.contains(child->name))
             keptBranches << child;
     }
-    // Reading creates the pages' missing nodes in the source; the kept ones are taken first.
-    for (CXmlTagV2* attr : keptKeys)
-        source->values.deleteTag(attr);
-    for (CXmlTagV2* child : keptBranches)
-        source->children.deleteTag(child);
-    CXMLWorkData src(from, cfg::kRootNode);
-    for (const cfg::BranchDecl& b : cfg::declaredBranches()) {
-        cfg::Values values = cfg::readBranch(&src, b);
-        for (int i = 0; i < values.size(); ++i)
-            values[i] = cfg::normalizedValue(b.keys[i], values[i]);
-        appendBranch(target, b, values);
-    }
     for (CXmlTagV2* attr : keptKeys) {
+        from->root()->values.deleteTag(attr);
         attr->parent = target;
         target->values.addTag(attr);
     }
     for (CXmlTagV2* child : keptBranches) {
+        from->root()->children.deleteTag(child);
         child->parent = target;
         target->children.addTag(child);
     }
-    appendBranch(target, userBranch, userParamValues(fieldset::readUserParams(&src)));
+    appendBranch(target, userBranch, userParamValues(user));
     return out;
 }
 
@@ -160,7 +181,8 @@ KeyPlace placeOf(const CXmlTagV2* tag, const QString& key)
 class ConfigSession::Snapshot
 {
 public:
-    std::unique_ptr<CSerialize> doc;
+    std::shared_ptr<CSerialize> doc; // shared with the session until either side writes: never written
+
     ConfigSource source = ConfigSource::None;
     QString path;
     quint64 state = 0;
@@ -208,7 +230,36 @@ void ConfigSession::setHeader(const QString& model, const QString& version, cons
     m_version = version;
     m_vendor = vendor;
     if (hasDocument())
-        writeHeader(m_doc->root());
+        updateHeader();
+}
+
+void ConfigSession::updateHeader()
+{
+    const QString values[] = { m_model, m_version, QLatin1String(cfg::kCreatorText), m_vendor };
+    const char* keys[] = { cfg::kHeaderModel, cfg::kHeaderVersion, cfg::kHeaderCreator, cfg::kHeaderVendor };
+    // As writeHeader leaves it: every attribute entry of each key holding its value.
+    for (int i = 0; i < 4; ++i) {
+        bool held = false;
+        for (const CXmlTagV2* attr : root()->values) {
+            if (attr->name != QLatin1String(keys[i]))
+                continue;
+            held = attr->value == values[i];
+            if (!held)
+                break;
+        }
+        if (!held) {
+            writeHeader(editableRoot());
+            return;
+        }
+    }
+}
+
+CXmlTagV2* ConfigSession::editableRoot()
+{
+    // A snapshot shares the document it was taken of; the first write after it works on a copy.
+    if (m_doc.use_count() > 1)
+        m_doc = copyDocument(m_doc->root());
+    return m_doc->root();
 }
 
 void ConfigSession::notifyModified(bool wasModified)
@@ -338,7 +389,7 @@ bool ConfigSession::hasValue(const QString& node, const QString& key) const
 
 void ConfigSession::storeValue(const QString& node, const QString& key, const QString& value)
 {
-    CXmlTagV2* tag = nodeAt(root(), node);
+    CXmlTagV2* tag = nodeAt(editableRoot(), node);
     const KeyPlace place = placeOf(tag, key);
     if (place.attribute)
         setKeyValue(tag, key, value); // every entry of the name, so none is left behind
@@ -395,18 +446,50 @@ void ConfigSession::absorbValue(const QString& node, const QString& key, const Q
 
 cfg::Values ConfigSession::branchValues(const cfg::BranchDecl& branch) const
 {
-    cfg::Values values;
-    values.reserve(branch.keys.size());
+    const int n = branch.keys.size();
+    cfg::Values values(n);
+    QVarLengthArray<bool, 128> found(n);
+    std::fill(found.begin(), found.end(), false);
     const CXmlTagV2* top = root()->children.getTagFromName(branch.top);
-    const CXmlTagV2* group = nullptr;
-    QString openGroup;
-    for (const cfg::KeyDecl& d : branch.keys) {
-        if (d.group != openGroup || !group) {
-            openGroup = d.group;
-            group = d.group.isEmpty() || !top ? top : top->children.getTagFromName(d.group);
+    for (int first = 0; first < n; ++first) {
+        if (found[first])
+            continue;
+        // One record node at a time: its keys (each declared once), then its attributes from the
+        // last, so that the last entry of a name counts. The session writes them in declaration
+        // order, so each attribute is most often the key before the one found last.
+        const QString& groupName = branch.keys[first].group;
+        QVarLengthArray<int, 64> keys;
+        for (int i = first; i < n; ++i) {
+            if (branch.keys[i].group == groupName)
+                keys.append(i);
         }
-        const KeyPlace place = placeOf(group, d.key);
-        values << (place.attribute ? place.attribute->value : d.readDefault);
+        const CXmlTagV2* node = groupName.isEmpty() || !top ? top : top->children.getTagFromName(groupName);
+        QVarLengthArray<const CXmlTagV2*, 64> attributes;
+        if (node) {
+            for (const CXmlTagV2* a : node->values)
+                attributes.append(a);
+        }
+        int guess = keys.size() - 1;
+        for (int a = attributes.size() - 1; a >= 0; --a) {
+            const QString& name = attributes[a]->name;
+            int at = guess >= 0 && branch.keys[keys[guess]].key == name ? guess : -1;
+            for (int k = 0; at < 0 && k < keys.size(); ++k) {
+                if (branch.keys[keys[k]].key == name)
+                    at = k;
+            }
+            if (at < 0)
+                continue;
+            guess = at - 1;
+            if (!found[keys[at]]) {
+                values[keys[at]] = attributes[a]->value;
+                found[keys[at]] = true;
+            }
+        }
+        for (int k : keys) {
+            if (!found[k])
+                values[k] = branch.keys[k].readDefault;
+            found[k] = true;
+        }
     }
     return values;
 }
@@ -416,7 +499,7 @@ cfg::Values ConfigSession::branchValues(const cfg::BranchDecl& branch) const
 std::shared_ptr<const ConfigSession::Snapshot> ConfigSession::snapshot() const
 {
     auto s = std::make_shared<Snapshot>();
-    s->doc = copyDocument(root());
+    s->doc = m_doc;
     s->source = m_source;
     s->path = m_path;
     s->state = m_state;
@@ -428,8 +511,8 @@ std::shared_ptr<const ConfigSession::Snapshot> ConfigSession::snapshot() const
 
 void ConfigSession::restore(const Snapshot& snapshot)
 {
-    m_doc = copyDocument(snapshot.doc->root());
-    writeHeader(m_doc->root());
+    m_doc = snapshot.doc;
+    updateHeader();
     const bool sourceChanged = snapshot.source != m_source || snapshot.path != m_path;
     m_source = snapshot.source;
     m_path = snapshot.path;
@@ -470,9 +553,7 @@ bool ConfigSession::telemetryTitles(DeviceTitles* titles, QStringList* userParam
     if (titles)
         *titles = deviceTitles(root());
     if (userParamTypes) {
-        // The branch is always there, so reading it creates nothing.
-        CXMLWorkData rootNode(m_doc.get(), const_cast<CXmlTagV2*>(root()));
-        *userParamTypes = fieldset::userParamTypes(&rootNode);
+        *userParamTypes = fieldset::userParamTypes(fieldset::readUserParams(root()));
     }
     return true;
 }

@@ -50,8 +50,8 @@ public:
     bool hasDocument() const { return m_source != ConfigSource::None; }
     ConfigSource source() const { return m_source; }
     QString filePath() const { return m_path; } // the file opened or saved; empty otherwise
+    // Valid until the next change of the document.
     const CXmlTagV2* root() const;
-    CSerialize* document() const { return m_doc.get(); }
     quint64 revision() const { return m_revision; } // grows with every change, undo included
     // Differs from what was last opened or saved; an edit set back by hand counts as undone.
     bool isModified() const
@@ -104,6 +104,7 @@ public:
     static QStringList ownedTopNodes();
 
     // ---- whole-document steps (load, new, defaults), kept for undo -------------------------------
+    // A snapshot shares the document until the next edit, which then works on a copy.
     class Snapshot;
     std::shared_ptr<const Snapshot> snapshot() const;
     void restore(const Snapshot& snapshot);
@@ -133,11 +134,15 @@ signals:
 private:
     void replaceDocument(std::unique_ptr<CSerialize> doc, ConfigSource source, const QString& path);
     void writeHeader(CXmlTagV2* root) const;
+    // Writes the header into the document unless it already holds it.
+    void updateHeader();
+    // The document's root for a write: a document a snapshot still shares is copied first.
+    CXmlTagV2* editableRoot();
     void notifyModified(bool wasModified);
     void storeValue(const QString& node, const QString& key, const QString& value);
     void trackEdit(const QString& node, const QString& key, const QString& before, const QString& after);
 
-    std::unique_ptr<CSerialize> m_doc;
+    std::shared_ptr<CSerialize> m_doc;
     std::unique_ptr<CSerialize> m_lastRead;
     QString m_lastReadTerminal;
     ConfigSource m_source = ConfigSource::None;

@@ -186,27 +186,38 @@ UserParams defaultUserParams()
     return params;
 }
 
-UserParams readUserParams(CXMLWorkData* root)
+UserParams readUserParams(const CXmlTagV2* root)
 {
     UserParams params = defaultUserParams();
-    auto top = child(root, kUserNode, NodeFindOrCreate);
+    const CXmlTagV2* top = root ? root->children.getTagFromName(QLatin1String(kUserNode)) : nullptr;
     if (!top)
         return params;
     for (int g = 0; g < 4; ++g) {
-        auto node = child(top.get(), userGroupNode(g).toLatin1().constData(), NodeFindOrCreate);
+        const CXmlTagV2* node = top->children.getTagFromName(userGroupNode(g));
         if (!node)
             continue;
-        const QString types = node->readString(kUserTypeKey, QString());
+        const CTagParameters list(node);
+        const QString types = list.readString(QLatin1String(kUserTypeKey));
         for (int i = 0; i < kUserCounts[g]; ++i) {
             const int type = i < types.size() ? types.at(i).digitValue() : 0;
             // An unknown digit (or a float on a narrow parameter) reads as unsigned.
             if (type > 0 && type < userTypeCount(g))
                 params.types[g][i] = QChar(QLatin1Char('0').unicode() + type);
-            params.names[g][i]
-                = node->readString(QByteArray("name" + QByteArray::number(i + 1)).constData(), QString());
+            params.names[g][i] = list.readString(QStringLiteral("name%1").arg(i + 1));
         }
     }
     return params;
+}
+
+UserParams readUserParams(CXMLWorkData* root)
+{
+    // Every page's reading makes the branch's missing nodes.
+    auto top = child(root, kUserNode, NodeFindOrCreate);
+    if (!top)
+        return defaultUserParams();
+    for (int g = 0; g < 4; ++g)
+        child(top.get(), userGroupNode(g).toLatin1().constData(), NodeFindOrCreate);
+    return readUserParams(root->tag());
 }
 
 void writeUserParams(CXMLWorkData* root, const UserParams& params)
@@ -231,10 +242,14 @@ void writeUserParams(CXMLWorkData* root, const UserParams& params)
     top->writeParameters();
 }
 
+QStringList userParamTypes(const UserParams& params)
+{
+    return { params.types[0], params.types[1], params.types[2], params.types[3] };
+}
+
 QStringList userParamTypes(CXMLWorkData* root)
 {
-    const UserParams params = readUserParams(root);
-    return { params.types[0], params.types[1], params.types[2], params.types[3] };
+    return userParamTypes(readUserParams(root));
 }
 
 } // namespace zrk::fieldset

@@ -10,6 +10,7 @@
 #include <QVector>
 
 class CXMLWorkData;
+class CXmlTagV2;
 
 namespace zrk::fieldset {
 
@@ -97,8 +98,10 @@ struct UserParams
 };
 UserParams defaultUserParams();
 UserParams readUserParams(CXMLWorkData* root); // normalised: counts and digits in range
+UserParams readUserParams(const CXmlTagV2* root); // the same from a tree, making nothing
 void writeUserParams(CXMLWorkData* root, const UserParams& params);
 // The four type lists (1-, 2-, 4-, 8-byte) of the "USERPARAM1/2/4/8" telemetry file header.
 QStringList userParamTypes(CXMLWorkData* root);
+QStringList userParamTypes(const UserParams& params);
 
 } // namespace zrk::fieldset

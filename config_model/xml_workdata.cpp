@@ -1,6 +1,7 @@
 #include "config_model/xml_workdata.h"
 
 #include "config_model/serialize.h"
+#include "config_model/xml_tag.h"
 
 #include <QStringList>
 
@@ -101,6 +102,68 @@ void zrk_Clear_Node(coreSzNode* node)
     if (!node || !node->serializer)
         return;
     node->serializer->clearSZV2(node->tag);
+}
+
+// ---- CTagParameters ------------------------------------------------------------------------
+
+bool CTagParameters::record(const CXmlTagV2* entry, COneParameter& out)
+{
+    if (!entry)
+        return false;
+    // A short ASCII value, as nearly all are, has the same bytes in any local encoding.
+    const QString& v = entry->value;
+    if (v.size() < kParamFieldSize) {
+        int i = 0;
+        for (; i < v.size() && v.at(i).unicode() < 0x80; ++i)
+            out.value[i] = static_cast<char>(v.at(i).unicode());
+        if (i == v.size()) {
+            out.value[i] = '\0';
+            return true;
+        }
+    }
+    out.setValue(v.toLocal8Bit().constData());
+    return true;
+}
+
+const CXmlTagV2* CTagParameters::entryOf(const QString& name) const
+{
+    if (!m_tag)
+        return nullptr;
+    const CXmlTagV2* e = m_tag->values.getTagFromName(name);
+    return e ? e : m_tag->children.getTagFromName(name);
+}
+
+int CTagParameters::integerOf(const CXmlTagV2* entry, int def)
+{
+    COneParameter p;
+    if (record(entry, p))
+        p.asInt(def);
+    return def;
+}
+
+bool CTagParameters::boolOf(const CXmlTagV2* entry, bool def)
+{
+    COneParameter p;
+    if (record(entry, p))
+        p.asBool(def);
+    return def;
+}
+
+float CTagParameters::floatOf(const CXmlTagV2* entry, float def)
+{
+    COneParameter p;
+    if (record(entry, p))
+        p.asFloat(def);
+    return def;
+}
+
+QString CTagParameters::stringOf(const CXmlTagV2* entry, const QString& def)
+{
+    QString out = def;
+    COneParameter p;
+    if (record(entry, p))
+        p.asQString(out);
+    return out;
 }
 
 // ---- CXMLWorkData --------------------------------------------------------------------------

@@ -18,6 +18,38 @@ void zrk_Get_Data(coreSzNode* node, coreSzArrayItem* data);
 void zrk_Write_Data(coreSzNode* node, coreSzArrayItem* data);
 void zrk_Clear_Node(coreSzNode* node);
 
+// Typed reads of one element's parameters straight from the tree, giving what a CXMLWorkData bound
+// to the element reads (the first entry of the name, its attributes before its child elements, the
+// value as a parameter record keeps it) without copying every entry into a list first.
+class CTagParameters
+{
+public:
+    explicit CTagParameters(const CXmlTagV2* tag)
+        : m_tag(tag)
+    {
+    }
+    int readInteger(const QString& name, int def) const { return integerOf(entryOf(name), def); }
+    bool readBool(const QString& name, bool def) const { return boolOf(entryOf(name), def); }
+    float readFloat(const QString& name, float def) const { return floatOf(entryOf(name), def); }
+    QString readString(const QString& name, const QString& def = QString()) const
+    {
+        return stringOf(entryOf(name), def);
+    }
+    // The entry those reads take the value of: an attribute or a child element; null when none.
+    const CXmlTagV2* entryOf(const QString& name) const;
+    // The reads of one entry (null: the default).
+    static int integerOf(const CXmlTagV2* entry, int def);
+    static bool boolOf(const CXmlTagV2* entry, bool def);
+    static float floatOf(const CXmlTagV2* entry, float def);
+    static QString stringOf(const CXmlTagV2* entry, const QString& def);
+
+private:
+    // The record the list would hold for the entry; false for none.
+    static bool record(const CXmlTagV2* entry, COneParameter& out);
+
+    const CXmlTagV2* m_tag;
+};
+
 // A short-lived handle on one element of an open document, with a snapshot of its parameters.
 // It owns only that list: the element belongs to the tree, the serializer to whoever opened it.
 class CXMLWorkData

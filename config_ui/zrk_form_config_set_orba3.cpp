@@ -234,10 +234,20 @@ void ZRK_Form_Config_Set_Orba3_Tab::translateForm()
         name->setPlaceholderText(qtTrId("cfgo_027"));
 }
 
+QPair<ZRK_Form_Config_Set_Orba3_Tab::BoxIt, ZRK_Form_Config_Set_Orba3_Tab::BoxIt>
+ZRK_Form_Config_Set_Orba3_Tab::spanBoxes(int g) const
+{
+    // A generation's positions are one span of the mask: one run of the map, in order.
+    if (g >= 1 && g <= 3)
+        return { m_boxes.lowerBound(kSpanEnd[g - 1]), m_boxes.lowerBound(kSpanEnd[g]) };
+    return { m_boxes.cend(), m_boxes.cend() };
+}
+
 void ZRK_Form_Config_Set_Orba3_Tab::writeSpan(QString& mask, int g) const
 {
-    for (auto it = m_boxes.cbegin(); it != m_boxes.cend(); ++it) {
-        if (positionGeneration(it.key()) == g && it.key() < mask.size())
+    const auto span = spanBoxes(g);
+    for (auto it = span.first; it != span.second; ++it) {
+        if (it.key() < mask.size())
             mask[it.key()] = QLatin1Char(it.value()->isChecked() ? '1' : '0');
     }
     if (m_tires && positionGeneration(kTiresFirst) == g && mask.size() >= kTiresFirst + kTiresCount)
@@ -246,9 +256,8 @@ void ZRK_Form_Config_Set_Orba3_Tab::writeSpan(QString& mask, int g) const
 
 void ZRK_Form_Config_Set_Orba3_Tab::readSpan(const QString& mask, int g)
 {
-    for (auto it = m_boxes.cbegin(); it != m_boxes.cend(); ++it) {
-        if (positionGeneration(it.key()) != g)
-            continue;
+    const auto span = spanBoxes(g);
+    for (auto it = span.first; it != span.second; ++it) {
         const bool on = m_forced.contains(it.key())
             || (it.key() < mask.size() && mask.at(it.key()) == QLatin1Char('1'));
         it.value()->setChecked(on);
@@ -264,10 +273,9 @@ void ZRK_Form_Config_Set_Orba3_Tab::readSpan(const QString& mask, int g)
 void ZRK_Form_Config_Set_Orba3_Tab::enableSpan(int g, bool enabled)
 {
     m_spanEnabled[qBound(0, g, 3)] = enabled;
-    for (auto it = m_boxes.cbegin(); it != m_boxes.cend(); ++it) {
-        if (positionGeneration(it.key()) == g)
-            refreshBox(it.key());
-    }
+    const auto span = spanBoxes(g);
+    for (auto it = span.first; it != span.second; ++it)
+        refreshBox(it.key());
     if (m_tires && positionGeneration(kTiresFirst) == g)
         m_tires->setEnabled(enabled);
 }
@@ -371,6 +379,8 @@ zrk::fieldset::UserParams ZRK_Form_Config_Set_Orba3_Tab::userParams() const
 {
     UserParams params;
     for (int g = 0; g < 4 && !m_names.isEmpty(); ++g) {
+        params.names[g].reserve(kUserCounts[g]);
+        params.types[g].reserve(kUserCounts[g]);
         for (int i = 0; i < kUserCounts[g]; ++i) {
             const int pos = kUserFirstPos[g] + i;
             params.names[g] << m_names.value(pos)->text();
@@ -739,6 +749,7 @@ zrk::cfg::Values ZRK_Form_Config_Set_Orba3::shownValues(int branch) const
     if (branch == 0)
         return { getTypeDFProtocol(), getStrFormat() };
     zrk::cfg::Values values;
+    values.reserve(4 + kUserCounts[0] + kUserCounts[1] + kUserCounts[2] + kUserCounts[3]);
     const UserParams params = m_tabUser ? m_tabUser->userParams() : defaultUserParams();
     for (int g = 0; g < 4; ++g) {
         values << params.types[g];

@@ -10,6 +10,7 @@
 #include "config_ui/zrk_form_config_page.h"
 
 #include <QMap>
+#include <QPair>
 #include <QSet>
 #include <QVector>
 #include <QWidget>
@@ -103,6 +104,9 @@ private:
     void refreshBox(int pos);
     // generation g is 1, 2 or 3
     void writeSpan(QString& mask, int g) const;
+    using BoxIt = QMap<int, QCheckBox*>::const_iterator;
+    // The boxes of generation g (1..3) in position order; none for another number.
+    QPair<BoxIt, BoxIt> spanBoxes(int g) const;
     void readSpan(const QString& mask, int g);
     void enableSpan(int g, bool enabled);
 

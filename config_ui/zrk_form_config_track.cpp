@@ -215,24 +215,14 @@ void ZRK_Form_Config_Track::applyValues(
     }
 }
 
-Values ZRK_Form_Config_Track::collect(
-    const BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings) const
-{
-    Values values;
-    values.reserve(branch.keys.size());
-    for (const ZRK_Config_Binding& b : bindings)
-        values << b.get();
-    return values;
-}
-
 Values ZRK_Form_Config_Track::trackValues() const
 {
-    return collect(m_trackDecl, m_trackBind);
+    return ZRK_Config_Binding::getAll(m_trackBind);
 }
 
 Values ZRK_Form_Config_Track::locatorValues() const
 {
-    return collect(m_locatorDecl, m_locatorBind);
+    return ZRK_Config_Binding::getAll(m_locatorBind);
 }
 
 Values ZRK_Form_Config_Track::shownValues(int branch) const

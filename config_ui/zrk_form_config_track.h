@@ -142,8 +142,6 @@ private:
     void setRangeTips();
     void applyValues(const zrk::cfg::BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings,
         const zrk::cfg::Values& values, bool reset);
-    zrk::cfg::Values collect(
-        const zrk::cfg::BranchDecl& branch, const QVector<ZRK_Config_Binding>& bindings) const;
     void runDependentSlots();
 
     ZRK_Track_Caps m_caps;

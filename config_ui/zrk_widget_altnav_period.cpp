@@ -54,12 +54,14 @@ void ZRK_Widget_AltNav_Period::setMoveTimer(int seconds)
 
 QString ZRK_Widget_AltNav_Period::getMoveSens() const
 {
-    auto f = [](const QCheckBox* box) { return box->isChecked() ? 1 : 0; };
-    return QStringLiteral("%1%2%3%4")
-        .arg(f(ui->checkBox_MoveSens_1))
-        .arg(f(ui->checkBox_MoveSens_2))
-        .arg(f(ui->checkBox_MoveSens_3))
-        .arg(f(ui->checkBox_MoveSens_4));
+    const QCheckBox* boxes[] = { ui->checkBox_MoveSens_1, ui->checkBox_MoveSens_2, ui->checkBox_MoveSens_3,
+        ui->checkBox_MoveSens_4 };
+    QString flags(4, QLatin1Char('0'));
+    for (int i = 0; i < 4; ++i) {
+        if (boxes[i]->isChecked())
+            flags[i] = QLatin1Char('1');
+    }
+    return flags;
 }
 
 void ZRK_Widget_AltNav_Period::setMoveSens(const QString& flags)

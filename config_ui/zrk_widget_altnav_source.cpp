@@ -34,7 +34,7 @@ QString ZRK_Widget_AltNav_Source::getSource() const
     if (m_sources == 0)
         return QStringLiteral("10");
     const bool cells = m_sources == 2 && ui->checkBox_Lbs->isChecked();
-    return QStringLiteral("%1%2").arg(ui->checkBox_WiFi->isChecked() ? 1 : 0).arg(cells ? 1 : 0);
+    return QString(QLatin1Char(ui->checkBox_WiFi->isChecked() ? '1' : '0')) + QLatin1Char(cells ? '1' : '0');
 }
 
 void ZRK_Widget_AltNav_Source::setSource(const QString& flags)

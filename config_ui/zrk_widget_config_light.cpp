@@ -110,10 +110,13 @@ void ZRK_Widget_Config_Light::showOne(const Shown& shown)
 {
     const QScopedValueRollback<bool> filling(m_filling, true);
     const QString v = m_editing->session().value(shown.node, shown.key);
-    if (auto* box = qobject_cast<QSpinBox*>(shown.widget))
-        box->setValue(v.toInt());
-    else if (auto* combo = qobject_cast<QComboBox*>(shown.widget))
+    // A box already showing the value is left alone: setting it again redraws its text.
+    if (auto* box = qobject_cast<QSpinBox*>(shown.widget)) {
+        if (box->value() != v.toInt())
+            box->setValue(v.toInt());
+    } else if (auto* combo = qobject_cast<QComboBox*>(shown.widget)) {
         combo->setCurrentIndex(zrk::fieldset::generationIndex(v)); // the field-set page's reading
+    }
 }
 
 QString ZRK_Widget_Config_Light::widgetValue(const Shown& shown) const

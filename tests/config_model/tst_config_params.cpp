@@ -1,6 +1,8 @@
 // Parameter lists, parameters and the element's own rules (decoding pass, owning lists).
 #include "config_model/parameters.h"
+#include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
+#include "config_model/xml_workdata.h"
 
 #include <QtTest>
 
@@ -30,6 +32,8 @@ private slots:
     void decimalsUsePoint();
     void typedReads_data();
     void typedReads();
+    void treeReadsMatchTheList_data();
+    void treeReadsMatchTheList();
     void readStringIntoBuffer_data();
     void readStringIntoBuffer();
     void writesRewriteTheFirstItem();
@@ -107,6 +111,52 @@ void tst_ConfigParams::typedReads()
     QCOMPARE(list.readBool("key", true), asBool);
     QCOMPARE(list.readDouble("key", 3.5), asDouble);
     QCOMPARE(list.readFloat("key", 3.5f), static_cast<float>(asDouble));
+}
+
+// Reading an element straight from the tree gives what its parameter list gives: the first entry
+// of a name, attributes before child elements, an empty first entry read as the default, values
+// cut to the record's field.
+void tst_ConfigParams::treeReadsMatchTheList_data()
+{
+    QTest::addColumn<QByteArray>("element"); // the root's only child is read
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("asInt"); // default 7
+    QTest::addColumn<QString>("asString"); // default "d"
+    const QByteArray spaces(260, ' ');
+    QTest::newRow("attribute") << QByteArray("<N k=\"12abc\"/>") << "k" << 12 << "12abc";
+    QTest::newRow("missing") << QByteArray("<N j=\"1\"/>") << "k" << 7 << "d";
+    QTest::newRow("child element text") << QByteArray("<N j=\"1\"><k>5</k></N>") << "k" << 5 << "5";
+    QTest::newRow("attribute before child")
+        << QByteArray("<N k=\"1\"><k>5</k><x k=\"3\"/></N>") << "k" << 1 << "1";
+    QTest::newRow("empty first entry") << QByteArray("<N k=\"\"><k>5</k></N>") << "k" << 7 << "";
+    QTest::newRow("number after the field's end") << "<N k=\"" + spaces + "42\"/>"
+                                                  << "k" << 0 << QString(254, QLatin1Char(' '));
+    QTest::newRow("long text cut to the field") << QByteArray("<N k=\"") + QByteArray(300, 'x') + "\"/>"
+                                                << "k" << 0 << QString(254, QLatin1Char('x'));
+    QTest::newRow("non-Latin text") << QByteArray("<N k=\"\xD0\x96-1\"/>") << "k" << 0
+                                    << QStringLiteral("Ж-1");
+}
+
+void tst_ConfigParams::treeReadsMatchTheList()
+{
+    QFETCH(QByteArray, element);
+    QFETCH(QString, name);
+    QFETCH(int, asInt);
+    QFETCH(QString, asString);
+    const QByteArray text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?><R>" + element + "</R>";
+    CSerialize doc(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
+    QVERIFY(doc.startSerialize());
+    CXmlTagV2* tag = doc.root()->children.getNumTag(0);
+    QVERIFY(tag);
+    const CTagParameters tree(tag);
+    const CXMLWorkData list(&doc, static_cast<void*>(tag));
+    const QByteArray key = name.toLatin1();
+    QCOMPARE(tree.readInteger(name, 7), asInt);
+    QCOMPARE(list.readInteger(key.constData(), 7), asInt);
+    QCOMPARE(tree.readString(name, QStringLiteral("d")), asString);
+    QCOMPARE(list.readString(key.constData(), QStringLiteral("d")), asString);
+    QCOMPARE(tree.readBool(name, true), list.readBool(key.constData(), true));
+    QCOMPARE(tree.readFloat(name, 2.5f), list.readFloat(key.constData(), 2.5f));
 }
 
 void tst_ConfigParams::readStringIntoBuffer_data()
