@@ -49,10 +49,6 @@ Built %7</translation>
         <source>Слишком много маршрутов: %1 (терминал хранит не более %2).</source>
         <translation>Too many routes: %1 (this terminal keeps at most %2).</translation>
     </message>
-    <message id="geod_003">
-        <source>В маршруте %1 остановок: %2 (не более %3 на маршрут).</source>
-        <translation>Route %1 has %2 stops (at most %3 per route).</translation>
-    </message>
     <message id="geod_004">
         <source>Слишком много скоростных зон: %1 (терминал хранит не более %2).</source>
         <translation>Too many speed zones: %1 (this terminal keeps at most %2).</translation>
@@ -61,33 +57,13 @@ Built %7</translation>
         <source>Слишком много звуковых файлов: %1 (не более %2).</source>
         <translation>Too many sound files: %1 (at most %2).</translation>
     </message>
-    <message id="geod_006">
-        <source>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</source>
-        <translation>Geo-zone &quot;%1&quot;: id %2 is outside 1..%3.</translation>
-    </message>
-    <message id="geod_007">
-        <source>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</source>
-        <translation>Geo-zone %1: radius %2 m is outside %3..%4 m.</translation>
-    </message>
-    <message id="geod_008">
-        <source>Геозона %1: координаты %2, %3 вне земного шара.</source>
-        <translation>Geo-zone %1: coordinates %2, %3 are off the globe.</translation>
-    </message>
     <message id="geod_009">
         <source>Номер геозоны %1 встречается дважды.</source>
         <translation>Geo-zone id %1 is used twice.</translation>
     </message>
-    <message id="geod_010">
-        <source>Маршрут %1: остановка ссылается на несуществующую геозону %2.</source>
-        <translation>Route %1: a stop refers to geo-zone %2, which does not exist.</translation>
-    </message>
     <message id="geod_020">
         <source>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</source>
         <translation>the node &quot;%1&quot; declares %2 records but holds %3</translation>
-    </message>
-    <message id="geod_021">
-        <source>геозона %1: &quot;%2&quot; не является координатой</source>
-        <translation>geo-zone %1: &quot;%2&quot; is not a coordinate</translation>
     </message>
     <message id="geod_022">
         <source>версия файла %1 новее, чем читает эта программа (%2)</source>
@@ -3093,10 +3069,6 @@ The old file is unchanged.</translation>
         <source>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</source>
         <translation>Zones %1 are stops of routes and were not deleted; delete those stops first.</translation>
     </message>
-    <message id="gain_287">
-        <source>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</source>
-        <translation>Zones added: %1. Placemarks without a point (lines, polygons): %2, skipped: %3</translation>
-    </message>
     <message id="gain_289">
         <source>Запись на SD-карту: %1</source>
         <translation>Writing to the SD card: %1</translation>
@@ -3668,10 +3640,6 @@ The old file is unchanged.</translation>
     <message id="gain_244">
         <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
         <translation>Stop type: 0 stop, 1 waypoint, 2 terminal</translation>
-    </message>
-    <message id="gain_245">
-        <source>Номер зоны остановки: от 1 до 65535</source>
-        <translation>Zone id of the stop: 1 to 65535</translation>
     </message>
     <message id="wcfg_036">
         <source>Геозоны</source>

@@ -49,10 +49,6 @@
         <source>Слишком много маршрутов: %1 (терминал хранит не более %2).</source>
         <translation>Слишком много маршрутов: %1 (терминал хранит не более %2).</translation>
     </message>
-    <message id="geod_003">
-        <source>В маршруте %1 остановок: %2 (не более %3 на маршрут).</source>
-        <translation>В маршруте %1 остановок: %2 (не более %3 на маршрут).</translation>
-    </message>
     <message id="geod_004">
         <source>Слишком много скоростных зон: %1 (терминал хранит не более %2).</source>
         <translation>Слишком много скоростных зон: %1 (терминал хранит не более %2).</translation>
@@ -61,33 +57,13 @@
         <source>Слишком много звуковых файлов: %1 (не более %2).</source>
         <translation>Слишком много звуковых файлов: %1 (не более %2).</translation>
     </message>
-    <message id="geod_006">
-        <source>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</source>
-        <translation>Геозона &quot;%1&quot;: номер %2 вне диапазона 1..%3.</translation>
-    </message>
-    <message id="geod_007">
-        <source>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</source>
-        <translation>Геозона %1: радиус %2 м вне диапазона %3..%4 м.</translation>
-    </message>
-    <message id="geod_008">
-        <source>Геозона %1: координаты %2, %3 вне земного шара.</source>
-        <translation>Геозона %1: координаты %2, %3 вне земного шара.</translation>
-    </message>
     <message id="geod_009">
         <source>Номер геозоны %1 встречается дважды.</source>
         <translation>Номер геозоны %1 встречается дважды.</translation>
     </message>
-    <message id="geod_010">
-        <source>Маршрут %1: остановка ссылается на несуществующую геозону %2.</source>
-        <translation>Маршрут %1: остановка ссылается на несуществующую геозону %2.</translation>
-    </message>
     <message id="geod_020">
         <source>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</source>
         <translation>узел &quot;%1&quot; объявляет записей: %2, а содержит: %3</translation>
-    </message>
-    <message id="geod_021">
-        <source>геозона %1: &quot;%2&quot; не является координатой</source>
-        <translation>геозона %1: &quot;%2&quot; не является координатой</translation>
     </message>
     <message id="geod_022">
         <source>версия файла %1 новее, чем читает эта программа (%2)</source>
@@ -3093,10 +3069,6 @@
         <source>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</source>
         <translation>Зоны %1 — остановки маршрутов и не удалены; сначала удалите эти остановки.</translation>
     </message>
-    <message id="gain_287">
-        <source>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</source>
-        <translation>Добавлено зон: %1. Меток без точки (линии, полигоны): %2, они пропущены: %3</translation>
-    </message>
     <message id="gain_289">
         <source>Запись на SD-карту: %1</source>
         <translation>Запись на SD-карту: %1</translation>
@@ -3668,10 +3640,6 @@
     <message id="gain_244">
         <source>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</source>
         <translation>Тип остановки: 0 — остановка, 1 — путевая точка, 2 — конечная</translation>
-    </message>
-    <message id="gain_245">
-        <source>Номер зоны остановки: от 1 до 65535</source>
-        <translation>Номер зоны остановки: от 1 до 65535</translation>
     </message>
     <message id="wcfg_036">
         <source>Геозоны</source>
