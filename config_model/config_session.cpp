@@ -418,20 +418,20 @@ bool ConfigSession::setValue(const QString& node, const QString& key, const QStr
 
 void ConfigSession::undoEdit(const Edit& edit)
 {
-    const bool wasModified = isModified();
-    storeValue(edit.node, edit.key, edit.before);
-    trackEdit(edit.node, edit.key, edit.after, edit.before);
-    m_state = edit.stateBefore;
-    notifyModified(wasModified);
-    emit valueChanged(edit.node, edit.key);
+    replayEdit(edit, edit.after, edit.before, edit.stateBefore);
 }
 
 void ConfigSession::redoEdit(const Edit& edit)
 {
+    replayEdit(edit, edit.before, edit.after, edit.stateAfter);
+}
+
+void ConfigSession::replayEdit(const Edit& edit, const QString& from, const QString& to, quint64 state)
+{
     const bool wasModified = isModified();
-    storeValue(edit.node, edit.key, edit.after);
-    trackEdit(edit.node, edit.key, edit.before, edit.after);
-    m_state = edit.stateAfter;
+    storeValue(edit.node, edit.key, to);
+    trackEdit(edit.node, edit.key, from, to);
+    m_state = state;
     notifyModified(wasModified);
     emit valueChanged(edit.node, edit.key);
 }

@@ -141,6 +141,8 @@ private:
     void notifyModified(bool wasModified);
     void storeValue(const QString& node, const QString& key, const QString& value);
     void trackEdit(const QString& node, const QString& key, const QString& before, const QString& after);
+    // Sets a value back or forth along its edit and returns to the state it had then.
+    void replayEdit(const Edit& edit, const QString& from, const QString& to, quint64 state);
 
     std::shared_ptr<CSerialize> m_doc;
     std::unique_ptr<CSerialize> m_lastRead;
