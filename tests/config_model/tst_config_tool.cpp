@@ -321,9 +321,7 @@ void tst_ConfigTool::fieldSetAndLint()
             writeFieldSet(&root, { format, mask });
         root.writeString("model", "K-7140");
         root.writeParameters();
-        coreSzNode node {};
-        root.fillNodeData(node);
-        zrk_StopSZ(node.serializer, true);
+        closeFile(root, true);
     }
     const zrktest::ToolRun set = zrktest::runZrkTool({ "config", "fieldset", path });
     QCOMPARE(set.code, fieldSetCode);

@@ -75,9 +75,7 @@ void tst_ConfigXml::goldenDeviceWithOneRecord()
         rec->writeInteger("maxSpeed", 100);
         rec->writeParameters();
         root.writeParameters();
-        coreSzNode node {};
-        root.fillNodeData(node);
-        zrk_StopSZ(node.serializer, true);
+        closeFile(root, true);
     }
     QCOMPARE(readFile(path), readFile(dataFile("device_one_record.xml")));
 }
