@@ -293,16 +293,12 @@ private slots:
         const QString path = m_dir.filePath(QStringLiteral("points.kml"));
         QFile f(path);
         QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(
-            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<kml "
-            "xmlns=\"http://www.opengis.net/kml/2.2\"><Document>"
-            "<Folder><Folder><Placemark><name>Площадь</name><Point><coordinates> 37.61,55.75,0 </coordinates>"
-            "</Point></Placemark></Folder>"
-            "<Placemark><name>Дорога</name><LineString><coordinates>37,55 "
-            "38,56</coordinates></LineString></Placemark>"
-            "<Placemark><name>Мост</name><Point><coordinates>37.7,55.8</coordinates></Point></Placemark></"
-            "Folder>"
-            "<Placemark><name>Без точки</name></Placemark></Document></kml>");
+        // A point in a folder, a line, a point, and a placemark without a point.
+        f.write("<kml><Document><Folder><Placemark><name>Площадь</name><Point><coordinates>37.61,55.75"
+                "</coordinates></Point></Placemark></Folder><Placemark><name>Дорога</name><LineString>"
+                "<coordinates>37,55 38,56</coordinates></LineString></Placemark><Placemark><name>Мост</name>"
+                "<Point><coordinates>37.7,55.8</coordinates></Point></Placemark>"
+                "<Placemark><name>Без точки</name></Placemark></Document></kml>");
         f.close();
         coreAinfData data;
         data.zones << zone(1) << zone(3);
