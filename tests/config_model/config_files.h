@@ -2,6 +2,7 @@
 
 // Whole files and memory documents for the configuration tests.
 #include "config_model/serialize.h"
+#include "config_model/xml_workdata.h"
 
 #include <QByteArray>
 #include <QFile>
@@ -53,6 +54,14 @@ inline QByteArray normalize(const QByteArray& text)
 {
     const auto s = parsed(text);
     return s ? rendered(*s) : QByteArray();
+}
+
+// Closes the file a root facade opened, saving it or not.
+inline void closeFile(CXMLWorkData& root, bool save)
+{
+    coreSzNode node {};
+    root.fillNodeData(node);
+    zrk_StopSZ(node.serializer, save);
 }
 
 } // namespace zrktest

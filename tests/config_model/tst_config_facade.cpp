@@ -9,14 +9,6 @@ using namespace zrktest;
 
 namespace {
 
-// Closes the file a root facade opened, saving it or not.
-void closeFile(CXMLWorkData& root, bool save)
-{
-    coreSzNode node {};
-    root.fillNodeData(node);
-    zrk_StopSZ(node.serializer, save);
-}
-
 struct Track
 {
     const char* node;

@@ -1,8 +1,8 @@
 // The open configuration: read defaults pinned by a file kept in the tests, edits undone byte for
 // byte, the unsaved mark, a failed load that changes nothing, the review of a write, the saved
 // telemetry titles, and the dated copies read from terminals.
+#include "config_files.h"
 #include "config_model/config_session.h"
-#include "config_model/serialize.h"
 #include "config_model/xml_tag.h"
 #include "translations/catalogue.h"
 
@@ -11,12 +11,6 @@
 namespace {
 
 const QString kTerminalFile = QStringLiteral(ZRK_SOURCE_DIR "/host/data/terminal_config.xml");
-
-QByteArray fileBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 QStringList keysOf(const QVector<zrk::ConfigDifference>& differences)
 {
@@ -69,7 +63,7 @@ void tst_ConfigSession::readDefaultsPinnedByGoldenFile_data()
     // flags too short and too long, a value only as a child element, nodes given twice, an
     // over-long number and name, markup, kept branches and root keys.
     QTest::newRow("odd values normalised")
-        << fileBytes(QStringLiteral(ZRK_TEST_DATA_DIR "/normalise_odd_in.xml")) << "normalise_odd_out.xml";
+        << zrktest::readFile(zrktest::dataFile("normalise_odd_in.xml")) << "normalise_odd_out.xml";
 }
 
 void tst_ConfigSession::readDefaultsPinnedByGoldenFile()
@@ -81,9 +75,7 @@ void tst_ConfigSession::readDefaultsPinnedByGoldenFile()
         session.newDocument();
     else
         QVERIFY(session.loadBytes(input, zrk::ConfigSource::File, QString()));
-    const QByteArray expected = fileBytes(QStringLiteral(ZRK_TEST_DATA_DIR "/") + golden);
-    QVERIFY(!expected.isEmpty());
-    QCOMPARE(session.render(), expected);
+    QCOMPARE(session.render(), zrktest::readFile(zrktest::dataFile(qPrintable(golden))));
 }
 
 void tst_ConfigSession::undoReturnsTheDocumentByteForByte_data()
@@ -91,29 +83,17 @@ void tst_ConfigSession::undoReturnsTheDocumentByteForByte_data()
     QTest::addColumn<QString>("node");
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
-    QTest::newRow("page integer") << "TRACK/POINTS"
-                                  << "maxSpeed"
-                                  << "120";
-    QTest::newRow("page flags") << "TRACK/POINTS"
-                                << "moveTimerSens"
-                                << "1010";
-    QTest::newRow("page decimal") << "TRACK/COORDFLT"
-                                  << "maxHDOP"
-                                  << "1.5";
-    QTest::newRow("record mask") << "PROTOCOL/ORBA"
-                                 << "mask" << QString(255, QLatin1Char('1'));
-    QTest::newRow("user parameter name") << "USERPARAM/PARAM2"
-                                         << "name3"
-                                         << "Давление";
-    QTest::newRow("kept attribute") << "PHONES/PHONE2"
-                                    << "number"
-                                    << "+79990000000";
-    QTest::newRow("kept root key") << ""
-                                   << "imei"
-                                   << "000000000000000";
-    QTest::newRow("markup in a value") << "PHONES/PHONE1"
-                                       << "number"
-                                       << "<&\">";
+    const auto row = [](const char* name, const char* node, const char* key, const QString& value) {
+        QTest::newRow(name) << node << key << value;
+    };
+    row("page integer", "TRACK/POINTS", "maxSpeed", "120");
+    row("page flags", "TRACK/POINTS", "moveTimerSens", "1010");
+    row("page decimal", "TRACK/COORDFLT", "maxHDOP", "1.5");
+    row("record mask", "PROTOCOL/ORBA", "mask", QString(255, QLatin1Char('1')));
+    row("user parameter name", "USERPARAM/PARAM2", "name3", "Давление");
+    row("kept attribute", "PHONES/PHONE2", "number", "+79990000000");
+    row("kept root key", "", "imei", "000000000000000");
+    row("markup in a value", "PHONES/PHONE1", "number", "<&\">");
 }
 
 void tst_ConfigSession::undoReturnsTheDocumentByteForByte()
@@ -244,28 +224,20 @@ void tst_ConfigSession::nodesByPath_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("found"); // the node's "id" key; "-" for none, "root" for the root
-    QTest::newRow("root") << ""
-                          << "root";
-    QTest::newRow("child") << "A"
-                           << "a";
-    QTest::newRow("grandchild") << "A/B"
-                                << "b";
-    QTest::newRow("empty steps") << "/A//B/"
-                                 << "b";
-    QTest::newRow("first of a name") << "Z"
-                                     << "z1";
-    QTest::newRow("numbered") << "Z[2]"
-                              << "z2";
-    QTest::newRow("past the last") << "Z[3]"
-                                   << "-";
-    QTest::newRow("number zero") << "Z[0]"
-                                 << "-";
-    QTest::newRow("too large a number") << "Z[99999999999]"
-                                        << "-";
-    QTest::newRow("not a number") << "Z[x]"
-                                  << "-";
-    QTest::newRow("missing step") << "A/X/B"
-                                  << "-";
+    const auto row = [](const char* name, const char* path, const char* found) {
+        QTest::newRow(name) << QString(path) << QString(found);
+    };
+    row("root", "", "root");
+    row("child", "A", "a");
+    row("grandchild", "A/B", "b");
+    row("empty steps", "/A//B/", "b");
+    row("first of a name", "Z", "z1");
+    row("numbered", "Z[2]", "z2");
+    row("past the last", "Z[3]", "-");
+    row("number zero", "Z[0]", "-");
+    row("too large a number", "Z[99999999999]", "-");
+    row("not a number", "Z[x]", "-");
+    row("missing step", "A/X/B", "-");
 }
 
 void tst_ConfigSession::nodesByPath()
@@ -274,9 +246,9 @@ void tst_ConfigSession::nodesByPath()
     QFETCH(QString, found);
     const QByteArray text
         = "<DEVICE id=\"root\"><A id=\"a\"><B id=\"b\"/></A><Z id=\"z1\"/><Z id=\"z2\"/></DEVICE>";
-    CSerialize doc(text.size(), reinterpret_cast<const unsigned char*>(text.constData()));
-    QVERIFY(doc.startSerialize());
-    const CXmlTagV2* node = zrk::nodeAt(doc.root(), path);
+    const auto doc = zrktest::parsed(text);
+    QVERIFY(doc);
+    const CXmlTagV2* node = zrk::nodeAt(doc->root(), path);
     QCOMPARE(node ? zrk::keyValue(node, QStringLiteral("id")) : QStringLiteral("-"), found);
 }
 
@@ -408,12 +380,10 @@ void tst_ConfigSession::differencesWalkBothTrees()
     QFETCH(QByteArray, right);
     QFETCH(QStringList, expected);
     QVERIFY(zrk::installCatalogue(QStringLiteral("ru")));
-    CSerialize a(left.size(), reinterpret_cast<const unsigned char*>(left.constData()));
-    CSerialize b(right.size(), reinterpret_cast<const unsigned char*>(right.constData()));
-    QVERIFY(a.startSerialize());
-    QVERIFY(b.startSerialize());
+    const auto a = zrktest::parsed(left), b = zrktest::parsed(right);
+    QVERIFY(a && b);
     QStringList found;
-    for (const zrk::ConfigDifference& d : zrk::diffConfigs(a.root(), b.root())) {
+    for (const zrk::ConfigDifference& d : zrk::diffConfigs(a->root(), b->root())) {
         found << QStringList({ d.node, d.key, d.label, d.left, d.right,
                                  QString::number(d.inLeft) + QString::number(d.inRight) })
                      .join(QLatin1Char('|'));

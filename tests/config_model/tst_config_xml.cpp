@@ -43,7 +43,6 @@ class tst_ConfigXml : public QObject
 {
     Q_OBJECT
 private slots:
-    void goldenDeviceWithOneRecord();
     void layoutOfEveryKind();
     void nameTable_data();
     void nameTable();
@@ -60,27 +59,6 @@ private slots:
     void saveIsWholeOrNothing();
     void rootRules();
 };
-
-void tst_ConfigXml::goldenDeviceWithOneRecord()
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("device.xml"));
-    {
-        CXMLWorkData root(path, QStringLiteral("DEVICE"));
-        QVERIFY(root.serializer());
-        root.clearNode();
-        root.writeString("model", "K-7140");
-        std::unique_ptr<CXMLWorkData> rec(root.createNode("POINTS", 3));
-        QVERIFY(rec);
-        rec->writeInteger("maxSpeed", 100);
-        rec->writeParameters();
-        root.writeParameters();
-        coreSzNode node {};
-        root.fillNodeData(node);
-        zrk_StopSZ(node.serializer, true);
-    }
-    QCOMPARE(readFile(path), readFile(dataFile("device_one_record.xml")));
-}
 
 void tst_ConfigXml::layoutOfEveryKind()
 {

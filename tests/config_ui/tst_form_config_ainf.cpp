@@ -153,14 +153,13 @@ private slots:
     {
         QTest::addColumn<QString>("lat");
         QTest::addColumn<QString>("lon");
-        QTest::newRow("latitude past the pole") << "90.5"
-                                                << "37";
-        QTest::newRow("longitude past 180") << "55"
-                                            << "-180.01";
-        QTest::newRow("not a number") << "55.x"
-                                      << "37";
-        QTest::newRow("empty") << ""
-                               << "37";
+        const auto row = [](const char* name, const char* lat, const char* lon) {
+            QTest::newRow(name) << QString(lat) << QString(lon);
+        };
+        row("latitude past the pole", "90.5", "37");
+        row("longitude past 180", "55", "-180.01");
+        row("not a number", "55.x", "37");
+        row("empty", "", "37");
     }
     void refusedZones()
     {
@@ -207,8 +206,6 @@ private slots:
 
     void routeAndStopLimits()
     {
-        ZRK_Form_Config_Ainf_Route* routes = m_page->routeForm();
-        Q_UNUSED(routes)
         coreAinfData data;
         data.zones << zone(1);
         for (int i = 1; i <= m_page->caps().maxRoutes; ++i) {
@@ -296,16 +293,12 @@ private slots:
         const QString path = m_dir.filePath(QStringLiteral("points.kml"));
         QFile f(path);
         QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(
-            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<kml "
-            "xmlns=\"http://www.opengis.net/kml/2.2\"><Document>"
-            "<Folder><Folder><Placemark><name>Площадь</name><Point><coordinates> 37.61,55.75,0 </coordinates>"
-            "</Point></Placemark></Folder>"
-            "<Placemark><name>Дорога</name><LineString><coordinates>37,55 "
-            "38,56</coordinates></LineString></Placemark>"
-            "<Placemark><name>Мост</name><Point><coordinates>37.7,55.8</coordinates></Point></Placemark></"
-            "Folder>"
-            "<Placemark><name>Без точки</name></Placemark></Document></kml>");
+        // A point in a folder, a line, a point, and a placemark without a point.
+        f.write("<kml><Document><Folder><Placemark><name>Площадь</name><Point><coordinates>37.61,55.75"
+                "</coordinates></Point></Placemark></Folder><Placemark><name>Дорога</name><LineString>"
+                "<coordinates>37,55 38,56</coordinates></LineString></Placemark><Placemark><name>Мост</name>"
+                "<Point><coordinates>37.7,55.8</coordinates></Point></Placemark>"
+                "<Placemark><name>Без точки</name></Placemark></Document></kml>");
         f.close();
         coreAinfData data;
         data.zones << zone(1) << zone(3);
@@ -330,32 +323,6 @@ private slots:
         QCOMPARE(m_messages.size(), 2);
     }
 
-    void fileThroughThePage()
-    {
-        coreAinfData data;
-        data.zones << zone(1) << zone(7, -33.9, 151.2);
-        data.defaults.setDefRouteOptions(0x81);
-        m_page->setData(data);
-        const QString path = m_dir.filePath(QStringLiteral("geo.xml"));
-        QVERIFY(m_page->writeFileParamGeo(path, true));
-
-        ZRK_Form_Config_Ainf other;
-        QVERIFY(other.readFileParamGeo(path));
-        QCOMPARE(ids(other), (QVector<int> { 1, 7 }));
-        QCOMPARE(other.data().zones.at(1).lon, 151.2);
-        QCOMPARE(other.data().defaults.getDefRouteOptions(), 0x81);
-
-        // The old format is recognised and refused; the page keeps what it had.
-        const QString old = m_dir.filePath(QStringLiteral("old.xml"));
-        QFile f(old);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write("<?xml version=\"1.0\"?>\n<PARAMAINF><ZONE/></PARAMAINF>\n");
-        f.close();
-        QVERIFY(!m_page->readFileParamGeo(old));
-        QCOMPARE(m_messages.size(), 1);
-        QCOMPARE(ids(*m_page), (QVector<int> { 1, 7 }));
-    }
-
     // A workstation without OpenGL: the page is built with a message where the map would be, and
     // zones are added, moved, selected, saved and opened again as anywhere else.
     void withoutMap()
@@ -375,6 +342,9 @@ private slots:
         QVERIFY(!page.mapForm()->findChild<QPushButton*>(QStringLiteral("BtnCentre"))->isEnabled());
         QVERIFY(!page.mapForm()->findChild<QPushButton*>(QStringLiteral("BtnApplyTiles"))->isEnabled());
 
+        coreAinfData defaults;
+        defaults.defaults.setDefRouteOptions(0x81);
+        page.setData(defaults);
         QCOMPARE(page.addZoneAt(55.75, 37.62), 1);
         QCOMPARE(page.addGeoZone(
                      QStringLiteral("Склад"), 300, 45, 1, QStringLiteral("55.8"), QStringLiteral("37.7")),
@@ -395,6 +365,17 @@ private slots:
         QCOMPARE(other.data().zones.at(1).lat, 55.9);
         QCOMPARE(other.data().zones.at(1).size, 400);
         QCOMPARE(other.data().routes.size(), 1);
+        QCOMPARE(other.data().defaults.getDefRouteOptions(), 0x81);
+
+        // The old format is recognised and refused; the page keeps what it had.
+        const QString old = m_dir.filePath(QStringLiteral("old.xml"));
+        QFile f(old);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write("<?xml version=\"1.0\"?>\n<PARAMAINF><ZONE/></PARAMAINF>\n");
+        f.close();
+        QVERIFY(!page.readFileParamGeo(old));
+        QCOMPARE(m_messages.size(), 2);
+        QCOMPARE(ids(page), (QVector<int> { 1, 2 }));
     }
 
     void proposedName()
@@ -411,32 +392,28 @@ private slots:
         QTest::addColumn<uint>("failOperation");
         QTest::addColumn<int>("answer");
         QTest::addColumn<QString>("message");
-        const QString noCard = QStringLiteral("нет SD-карты");
-        const QString full = QStringLiteral("нет места");
-        const QString refused = QStringLiteral("Не удалось передать");
-        QTest::newRow("small set") << 3 << int(ZRK_SD_OK) << uint(ZRK_SD_OPEN) << 0 << QString();
-        QTest::newRow("many chunks") << 400 << int(ZRK_SD_OK) << uint(ZRK_SD_OPEN) << 0 << QString();
+        const auto row = [](const char* name, int zones, int failWith, uint failOperation, Answer answer,
+                             const char* message) {
+            QTest::newRow(name) << zones << failWith << failOperation << int(answer) << QString(message);
+        };
+        const char* noCard = "нет SD-карты";
+        const char* full = "нет места";
+        const char* refused = "Не удалось передать";
+        row("small set", 3, ZRK_SD_OK, ZRK_SD_OPEN, Answer::InsideCall, "");
+        row("many chunks", 400, ZRK_SD_OK, ZRK_SD_OPEN, Answer::InsideCall, "");
         // zrk-host's card when it is taken out: the result and the reply, both inside the call.
-        QTest::newRow("card removed, inside the call")
-            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::InsideCall) << noCard;
-        QTest::newRow("card full at a write, inside the call")
-            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::InsideCall) << full;
-        QTest::newRow("close refused, inside the call")
-            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_CLOSE) << int(Answer::InsideCall) << refused;
-        QTest::newRow("card removed, answered later")
-            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::Later) << noCard;
-        QTest::newRow("card full at a write, answered later")
-            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::Later) << full;
-        QTest::newRow("close refused, answered later")
-            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_CLOSE) << int(Answer::Later) << refused;
-        QTest::newRow("card removed, result only")
-            << 3 << int(ZRK_SD_NO_CARD) << uint(ZRK_SD_OPEN) << int(Answer::ResultOnly) << noCard;
-        QTest::newRow("card full, result only")
-            << 400 << int(ZRK_SD_CARD_FULL) << uint(ZRK_SD_WRITE) << int(Answer::ResultOnly) << full;
-        QTest::newRow("write refused, reply only")
-            << 3 << int(ZRK_SD_BAD_REQUEST) << uint(ZRK_SD_WRITE) << int(Answer::ReplyOnly) << refused;
-        QTest::newRow("not found at close, reply only")
-            << 3 << int(ZRK_SD_NOT_FOUND) << uint(ZRK_SD_CLOSE) << int(Answer::ReplyOnly) << refused;
+        row("card removed, inside the call", 3, ZRK_SD_NO_CARD, ZRK_SD_OPEN, Answer::InsideCall, noCard);
+        row("card full at a write, inside the call", 400, ZRK_SD_CARD_FULL, ZRK_SD_WRITE, Answer::InsideCall,
+            full);
+        row("close refused, inside the call", 3, ZRK_SD_BAD_REQUEST, ZRK_SD_CLOSE, Answer::InsideCall,
+            refused);
+        row("card removed, answered later", 3, ZRK_SD_NO_CARD, ZRK_SD_OPEN, Answer::Later, noCard);
+        row("card full at a write, answered later", 400, ZRK_SD_CARD_FULL, ZRK_SD_WRITE, Answer::Later, full);
+        row("close refused, answered later", 3, ZRK_SD_BAD_REQUEST, ZRK_SD_CLOSE, Answer::Later, refused);
+        row("card removed, result only", 3, ZRK_SD_NO_CARD, ZRK_SD_OPEN, Answer::ResultOnly, noCard);
+        row("card full, result only", 400, ZRK_SD_CARD_FULL, ZRK_SD_WRITE, Answer::ResultOnly, full);
+        row("write refused, reply only", 3, ZRK_SD_BAD_REQUEST, ZRK_SD_WRITE, Answer::ReplyOnly, refused);
+        row("not found at close, reply only", 3, ZRK_SD_NOT_FOUND, ZRK_SD_CLOSE, Answer::ReplyOnly, refused);
     }
     // The card write against a host that answers each error synchronously or later: one message
     // naming the file, the page free for the next write, which then succeeds.

@@ -3,7 +3,6 @@
 #include "config_model/config_keys.h"
 #include "config_model/xml_workdata.h"
 #include "config_ui/zrk_config_binding.h"
-#include "config_ui/zrk_form_config_orba3.h"
 #include "config_ui/zrk_form_config_track.h"
 #include "config_ui/zrk_form_config_track_locator_blist.h"
 #include "config_ui/zrk_widget_altnav_period.h"
@@ -95,7 +94,6 @@ private slots:
     void readWrite_data();
     void readWrite();
     void missingKeysYieldReadDefaults();
-    void newConfigurationIsThePageAtReset();
     void resetAfterReadRestoresDefaults();
     void sensorsByCaps_data();
     void sensorsByCaps();
@@ -212,28 +210,6 @@ void tst_FormConfigTrack::missingKeysYieldReadDefaults()
     QCOMPARE(written(page, "TRACK", "GNSS", "coldRstTimer"), QStringLiteral("5"));
 }
 
-void tst_FormConfigTrack::newConfigurationIsThePageAtReset()
-{
-    // The window's "new" and saving: header, the pages in write order, the user parameters last.
-    ZRK_Form_Config_Orba3 fieldSet;
-    ZRK_Form_Config_Track page;
-    fieldSet.setDefaultParam();
-    page.setDefaultParam();
-    const auto doc = parsed();
-    {
-        CXMLWorkData root(doc.get(), zrk::cfg::kRootNode);
-        root.clearNode();
-        zrk::cfg::writeConfigHeader(&root, QStringLiteral("K-7140"), QStringLiteral("ZIRKOMATIC"));
-        fieldSet.writeFormParam(&root);
-        page.writeFormParam(&root);
-        fieldSet.writeUserParam(&root);
-        root.writeParameters();
-    }
-    const QByteArray bytes = rendered(*doc);
-    QCOMPARE(bytes, zrk::cfg::renderNewConfiguration());
-    QCOMPARE(bytes, readFile(QStringLiteral(ZRK_SOURCE_DIR "/tests/config_model/data/new_config.xml")));
-}
-
 void tst_FormConfigTrack::resetAfterReadRestoresDefaults()
 {
     ZRK_Form_Config_Track page;
@@ -253,14 +229,13 @@ void tst_FormConfigTrack::sensorsByCaps_data()
     QTest::addColumn<bool>("fourth");
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("five") << 5 << true << "11111"
-                          << "11111";
-    QTest::newRow("five, no fourth") << 5 << false << "11111"
-                                     << "11101";
-    QTest::newRow("four") << 4 << true << "11111"
-                          << "1111";
-    QTest::newRow("four, no fourth") << 4 << false << "1111"
-                                     << "1110";
+    const auto row = [](const char* name, int count, bool fourth, const char* value, const char* expected) {
+        QTest::newRow(name) << count << fourth << QString(value) << QString(expected);
+    };
+    row("five", 5, true, "11111", "11111");
+    row("five, no fourth", 5, false, "11111", "11101");
+    row("four", 4, true, "11111", "1111");
+    row("four, no fourth", 4, false, "1111", "1110");
 }
 
 void tst_FormConfigTrack::sensorsByCaps()
@@ -327,12 +302,12 @@ void tst_FormConfigTrack::optionalCounters_data()
     QTest::addColumn<QString>("box");
     QTest::addColumn<QString>("spin");
     QTest::addColumn<int>("onValue");
-    QTest::newRow("deltaNTP") << "checkBox_DeltaNtp"
-                              << "spinBox_DeltaNtp" << 5;
-    QTest::newRow("rejCnt") << "checkBox_CoordFlt_RejCnt"
-                            << "spinBox_CoordFlt_RejCnt" << 2;
-    QTest::newRow("coldRstTimer") << "checkBox_ColdRstTimer"
-                                  << "spinBox_ColdRstTimer" << 5;
+    const auto row = [](const char* name, const char* box, const char* spin, int onValue) {
+        QTest::newRow(name) << QString(box) << QString(spin) << onValue;
+    };
+    row("deltaNTP", "checkBox_DeltaNtp", "spinBox_DeltaNtp", 5);
+    row("rejCnt", "checkBox_CoordFlt_RejCnt", "spinBox_CoordFlt_RejCnt", 2);
+    row("coldRstTimer", "checkBox_ColdRstTimer", "spinBox_ColdRstTimer", 5);
 }
 
 void tst_FormConfigTrack::optionalCounters()
