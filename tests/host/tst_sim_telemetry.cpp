@@ -105,6 +105,8 @@ private slots:
             QTest::addRow("v%d all", v) << v << all;
             QTest::addRow("v%d odd", v) << v << odd;
             QTest::addRow("v%d wide fields only", v) << v << maskOf({ 3, 70, 73, 77, 97, 197, 255 });
+            QTest::addRow("v%d head only", v) << v << maskOf({ 1, 2, 3 });
+            QTest::addRow("v%d nothing", v) << v << QString(255, QLatin1Char('0'));
         }
         QTest::newRow("v3 latitude alone") << 3 << maskOf({ 10 });
     }
@@ -144,6 +146,17 @@ private slots:
             QCOMPARE(rec.size(), orba::kBodyOffset + bodyBytes);
         }
 
+        // Whatever the version and field set, the current reply is long enough to be shown, and the
+        // zeros after a short record are no fields.
+        const Sent s = t.ask(ZRK_MSG_REQUEST_TMI_CURRENT, 0);
+        QCOMPARE(s.msg, int(ZRK_MSG_TMI_CURRENT));
+        QVERIFY(s.bytes.size() >= 101);
+        const QByteArray last = t.sim.record(t.sim.lastNumber());
+        QCOMPARE(int(quint8(s.bytes[1]) | quint8(s.bytes[2]) << 8), last.size());
+        QCOMPARE(s.bytes.mid(3, last.size()), last);
+        QCOMPARE(s.bytes.mid(3 + last.size()), QByteArray(qMax(0, 101 - 3 - last.size()), '\0'));
+        QCOMPARE(decode(s.bytes.mid(3))->version(), version);
+
         // What the reference holds is the vehicle of the loop.
         const quint32 n = full.sim.lastNumber() - 7;
         const auto ref = decode(full.sim.record(n));
@@ -171,32 +184,29 @@ private slots:
         QTest::addColumn<int>("prefix");
         QTest::addColumn<qint64>("expected"); // record number, 0 for none
 
+        // Each request has its one reply id and prefix length.
+        const auto row = [](const char* name, int request, qint64 arg, qint64 expected) {
+            const int reply = request == ZRK_MSG_REQUEST_TMI_CURRENT ? ZRK_MSG_TMI_CURRENT
+                : request == ZRK_MSG_REQUEST_TMI_BY_INDEX            ? ZRK_MSG_TMI_BY_NUMBER
+                : request == ZRK_MSG_REQUEST_TMI_BEFORE              ? ZRK_MSG_TMI_STEP_LEFT
+                                                                     : ZRK_MSG_TMI_STEP_RIGHT;
+            const int prefix = reply == ZRK_MSG_TMI_STEP_LEFT || reply == ZRK_MSG_TMI_STEP_RIGHT ? 13 : 3;
+            QTest::newRow(name) << request << arg << reply << prefix << expected;
+        };
         const qint64 last = ZrkSimTelemetry::kStoredRecords;
-        QTest::newRow("current") << int(ZRK_MSG_REQUEST_TMI_CURRENT) << 0ll << int(ZRK_MSG_TMI_CURRENT) << 3
-                                 << last + 1;
-        QTest::newRow("by number") << int(ZRK_MSG_REQUEST_TMI_BY_INDEX) << 17ll << int(ZRK_MSG_TMI_BY_NUMBER)
-                                   << 3 << 17ll;
-        QTest::newRow("first") << int(ZRK_MSG_REQUEST_TMI_BY_INDEX) << 1ll << int(ZRK_MSG_TMI_BY_NUMBER) << 3
-                               << 1ll;
-        QTest::newRow("last") << int(ZRK_MSG_REQUEST_TMI_BY_INDEX) << last << int(ZRK_MSG_TMI_BY_NUMBER) << 3
-                              << last;
-        QTest::newRow("next past the last")
-            << int(ZRK_MSG_REQUEST_TMI_BY_INDEX) << last + 1 << int(ZRK_MSG_TMI_BY_NUMBER) << 3 << 0ll;
-        QTest::newRow("previous before the first")
-            << int(ZRK_MSG_REQUEST_TMI_BY_INDEX) << 0ll << int(ZRK_MSG_TMI_BY_NUMBER) << 3 << 0ll;
+        row("current", ZRK_MSG_REQUEST_TMI_CURRENT, 0, last + 1);
+        row("by number", ZRK_MSG_REQUEST_TMI_BY_INDEX, 17, 17);
+        row("first", ZRK_MSG_REQUEST_TMI_BY_INDEX, 1, 1);
+        row("last", ZRK_MSG_REQUEST_TMI_BY_INDEX, last, last);
+        row("next past the last", ZRK_MSG_REQUEST_TMI_BY_INDEX, last + 1, 0);
+        row("previous before the first", ZRK_MSG_REQUEST_TMI_BY_INDEX, 0, 0);
         // Moments are the time of record 100 plus an offset in seconds.
-        QTest::newRow("before, between")
-            << int(ZRK_MSG_REQUEST_TMI_BEFORE) << 5ll << int(ZRK_MSG_TMI_STEP_LEFT) << 13 << 100ll;
-        QTest::newRow("before, exact")
-            << int(ZRK_MSG_REQUEST_TMI_BEFORE) << 0ll << int(ZRK_MSG_TMI_STEP_LEFT) << 13 << 100ll;
-        QTest::newRow("after, between")
-            << int(ZRK_MSG_REQUEST_TMI_AFTER) << 5ll << int(ZRK_MSG_TMI_STEP_RIGHT) << 13 << 101ll;
-        QTest::newRow("after, exact")
-            << int(ZRK_MSG_REQUEST_TMI_AFTER) << 0ll << int(ZRK_MSG_TMI_STEP_RIGHT) << 13 << 100ll;
-        QTest::newRow("before the first record")
-            << int(ZRK_MSG_REQUEST_TMI_BEFORE) << -991ll << int(ZRK_MSG_TMI_STEP_LEFT) << 13 << 0ll;
-        QTest::newRow("after the last record") << int(ZRK_MSG_REQUEST_TMI_AFTER) << (last - 100) * 10 + 1
-                                               << int(ZRK_MSG_TMI_STEP_RIGHT) << 13 << 0ll;
+        row("before, between", ZRK_MSG_REQUEST_TMI_BEFORE, 5, 100);
+        row("before, exact", ZRK_MSG_REQUEST_TMI_BEFORE, 0, 100);
+        row("after, between", ZRK_MSG_REQUEST_TMI_AFTER, 5, 101);
+        row("after, exact", ZRK_MSG_REQUEST_TMI_AFTER, 0, 100);
+        row("before the first record", ZRK_MSG_REQUEST_TMI_BEFORE, -991, 0);
+        row("after the last record", ZRK_MSG_REQUEST_TMI_AFTER, (last - 100) * 10 + 1, 0);
     }
 
     void replies()
@@ -305,40 +315,6 @@ private slots:
         QCOMPARE(t.ask(ZRK_MSG_REQUEST_KEY_CODE, 3).msg, int(ZRK_MSG_RFID_CARD));
         QCOMPARE(t.ask(ZRK_MSG_REQUEST_KEY_CODE, 2).msg, 0);
         QCOMPARE(t.ask(ZRK_MSG_REQUEST_DISPLAY_VALUE).msg, int(ZRK_MSG_CURRENT_DISPLAY_VALUE));
-    }
-
-    // Whatever version and field set the terminal is given, its current record is long enough to be
-    // shown, and the zeros after a short record are no fields.
-    void currentReplyHoldsARecord_data()
-    {
-        QTest::addColumn<int>("version");
-        QTest::addColumn<QString>("mask");
-        for (int v = 1; v <= 3; ++v) {
-            QTest::addRow("v%d default", v) << v << QString();
-            QTest::addRow("v%d head only", v) << v << maskOf({ 1, 2, 3 });
-            QTest::addRow("v%d nothing", v) << v << QString(255, QLatin1Char('0'));
-            QTest::addRow("v%d all", v) << v << QString(255, QLatin1Char('1'));
-        }
-    }
-
-    void currentReplyHoldsARecord()
-    {
-        QFETCH(int, version);
-        QFETCH(QString, mask);
-        Terminal t;
-        t.sim.setVersion(version);
-        if (!mask.isEmpty())
-            QVERIFY(t.sim.setMaskText(mask));
-        const Sent s = t.ask(ZRK_MSG_REQUEST_TMI_CURRENT, 0);
-        QCOMPARE(s.msg, int(ZRK_MSG_TMI_CURRENT));
-        QVERIFY(s.bytes.size() >= 101);
-        const QByteArray rec = t.sim.record(t.sim.lastNumber());
-        QCOMPARE(int(quint8(s.bytes[1]) | quint8(s.bytes[2]) << 8), rec.size());
-        QCOMPARE(s.bytes.mid(3, rec.size()), rec);
-        QCOMPARE(s.bytes.mid(3 + rec.size()), QByteArray(qMax(0, 101 - 3 - rec.size()), '\0'));
-        const auto page = decode(s.bytes.mid(3));
-        QVERIFY(page);
-        QCOMPARE(page->version(), version);
     }
 
     void configuration_data()
