@@ -152,13 +152,6 @@ private slots:
         QVERIFY(seen.isEmpty());
     }
 
-    void versionText()
-    {
-        QString version = QStringLiteral("old");
-        send(2006, addr(version));
-        QCOMPARE(version, QStringLiteral("012"));
-    }
-
     void ignoredMessages_data()
     {
         QTest::addColumn<bool>("foreignHandle");
@@ -230,15 +223,6 @@ private slots:
 
         mode = 0;
         send(2004, addr(mode));
-    }
-
-    void configParamQuery()
-    {
-        szConfigParam p;
-        std::memset(&p, 0x41, sizeof p);
-        send(2356, addr(p));
-        QCOMPARE(QByteArray(p.text), QByteArray());
-        QCOMPARE(p.text[sizeof p.text - 1], '\0');
     }
 
     void openingWindows()
