@@ -35,84 +35,73 @@ class tst_Catalogue : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
-    void bothCataloguesHaveTheSameIds();
-    void everyIdResolves_data();
-    void everyIdResolves();
-    void languageSetting();
+    void initTestCase() { QVERIFY(zrktest::useOwnHome(home, "tst_catalogue")); }
+
+    void cleanupTestCase() { zrk::removeCatalogue(); }
+
+    void bothCataloguesHaveTheSameIds()
+    {
+        QStringList ru = idsOf(QStringLiteral("ru"));
+        QStringList en = idsOf(QStringLiteral("en"));
+        QVERIFY(!ru.isEmpty());
+        QVERIFY2(!ru.contains(QString()), "a message without id");
+        QCOMPARE(QSet<QString>(ru.begin(), ru.end()).size(), ru.size());
+        ru.sort();
+        en.sort();
+        QCOMPARE(en, ru);
+    }
+
+    void everyIdResolves_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("ru") << QStringLiteral("ru");
+        QTest::newRow("en") << QStringLiteral("en");
+    }
+
+    // An unknown id comes back as itself, and an empty translation as the source text or nothing:
+    // both show up here.
+    void everyIdResolves()
+    {
+        QFETCH(QString, language);
+        QVERIFY(zrk::installCatalogue(language));
+        QCOMPARE(zrk::installedCatalogueLanguage(), language);
+        const QStringList ids = idsOf(language);
+        QVERIFY(!ids.isEmpty());
+        int cyrillic = 0;
+        for (const QString& id : ids) {
+            const QString text = qtTrId(id.toLatin1().constData());
+            QVERIFY2(!text.isEmpty() && text != id, qPrintable(language + ": " + id));
+            for (QChar c : text) {
+                if (c.unicode() >= 0x0400 && c.unicode() <= 0x04FF) {
+                    ++cyrillic;
+                    break;
+                }
+            }
+        }
+        // Russian texts are Russian, English ones carry no Cyrillic.
+        QCOMPARE(cyrillic, language == QLatin1String("ru") ? ids.size() : 0);
+    }
+
+    void languageSetting()
+    {
+        QCOMPARE(programLanguage(), QStringLiteral("ru"));
+        setProgramLanguage(QStringLiteral("en"));
+        QCOMPARE(programLanguage(), QStringLiteral("en"));
+        QCOMPARE(
+            QSettings().value(QStringLiteral(ZRK_SETTINGS_LANGUAGE_KEY)).toString(), QStringLiteral("en"));
+        // Anything the plug-in has no catalogue for means the default.
+        QSettings().setValue(QStringLiteral(ZRK_SETTINGS_LANGUAGE_KEY), QStringLiteral("de"));
+        QCOMPARE(programLanguage(), QStringLiteral("ru"));
+        setProgramLanguage(QStringLiteral("fr"));
+        QCOMPARE(
+            QSettings().value(QStringLiteral(ZRK_SETTINGS_LANGUAGE_KEY)).toString(), QStringLiteral("ru"));
+        QVERIFY(QSettings().fileName().startsWith(home.path()));
+        QVERIFY(appDataDirectory().startsWith(home.path()));
+    }
 
 private:
     QTemporaryDir home;
 };
-
-void tst_Catalogue::initTestCase()
-{
-    QVERIFY(zrktest::useOwnHome(home, "tst_catalogue"));
-}
-
-void tst_Catalogue::cleanupTestCase()
-{
-    zrk::removeCatalogue();
-}
-
-void tst_Catalogue::bothCataloguesHaveTheSameIds()
-{
-    QStringList ru = idsOf(QStringLiteral("ru"));
-    QStringList en = idsOf(QStringLiteral("en"));
-    QVERIFY(!ru.isEmpty());
-    QVERIFY2(!ru.contains(QString()), "a message without id");
-    QCOMPARE(QSet<QString>(ru.begin(), ru.end()).size(), ru.size());
-    ru.sort();
-    en.sort();
-    QCOMPARE(en, ru);
-}
-
-void tst_Catalogue::everyIdResolves_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::newRow("ru") << QStringLiteral("ru");
-    QTest::newRow("en") << QStringLiteral("en");
-}
-
-// An unknown id comes back as itself, and an empty translation as the source text or nothing:
-// both show up here.
-void tst_Catalogue::everyIdResolves()
-{
-    QFETCH(QString, language);
-    QVERIFY(zrk::installCatalogue(language));
-    QCOMPARE(zrk::installedCatalogueLanguage(), language);
-    const QStringList ids = idsOf(language);
-    QVERIFY(!ids.isEmpty());
-    int cyrillic = 0;
-    for (const QString& id : ids) {
-        const QString text = qtTrId(id.toLatin1().constData());
-        QVERIFY2(!text.isEmpty() && text != id, qPrintable(language + ": " + id));
-        for (QChar c : text) {
-            if (c.unicode() >= 0x0400 && c.unicode() <= 0x04FF) {
-                ++cyrillic;
-                break;
-            }
-        }
-    }
-    // Russian texts are Russian, English ones carry no Cyrillic.
-    QCOMPARE(cyrillic, language == QLatin1String("ru") ? ids.size() : 0);
-}
-
-void tst_Catalogue::languageSetting()
-{
-    QCOMPARE(programLanguage(), QStringLiteral("ru"));
-    setProgramLanguage(QStringLiteral("en"));
-    QCOMPARE(programLanguage(), QStringLiteral("en"));
-    QCOMPARE(QSettings().value(QStringLiteral(ZRK_SETTINGS_LANGUAGE_KEY)).toString(), QStringLiteral("en"));
-    // Anything the plug-in has no catalogue for means the default.
-    QSettings().setValue(QStringLiteral(ZRK_SETTINGS_LANGUAGE_KEY), QStringLiteral("de"));
-    QCOMPARE(programLanguage(), QStringLiteral("ru"));
-    setProgramLanguage(QStringLiteral("fr"));
-    QCOMPARE(QSettings().value(QStringLiteral(ZRK_SETTINGS_LANGUAGE_KEY)).toString(), QStringLiteral("ru"));
-    QVERIFY(QSettings().fileName().startsWith(home.path()));
-    QVERIFY(appDataDirectory().startsWith(home.path()));
-}
 
 QTEST_MAIN(tst_Catalogue)
 #include "tst_catalogue.moc"
